@@ -1,0 +1,178 @@
+// Start-up, TDLib's authorization states, sign-in and logging out.
+
+#include "session/SoundManager.h"
+#include "session/TelegramSession.h"
+#include "tdlib/ReceiveLoop.h"
+#include "tdlib/TDLibRuntime.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QSysInfo>
+
+using namespace Qt::StringLiterals;
+
+void TelegramSession::start(qint64 apiID, const QString &apiHash) {
+    if (m_step.kind() != Step::Case::Idle)
+        return;
+    m_apiID = apiID;
+    m_apiHash = apiHash;
+    setStep(Step::starting());
+    setStartupStatus(u"Loading the bundled TDLib library…"_s);
+    try {
+        if (!m_bundle)
+            throw TDLibRuntime::RuntimeError::libraryNotBundled();
+        m_runtime = std::make_shared<const TDLibRuntime>(*m_bundle);
+    } catch (const TDLibRuntime::RuntimeError &error) {
+        setStep(Step::unavailable(error.errorDescription()));
+        return;
+    }
+    quietTDLibLog();
+    setStartupStatus(u"TDLib loaded; creating a client…"_s);
+    setStep(Step::starting());
+    startClient();
+    setStartupStatus(u"Client created; waiting for TDLib’s first event…"_s);
+    m_receiveLoop = std::make_unique<ReceiveLoop>(m_runtime, this,
+                                                  [this](const QByteArray &event) { handleResponse(event); });
+    m_receiveLoop->start();
+}
+
+void TelegramSession::quietTDLibLog() {
+    // TDLib logs its own debugging to standard error by default; keep errors only,
+    // unless VOST_TDLIB_LOG_VERBOSITY asks for more.
+    bool ok = false;
+    int level = qEnvironmentVariableIntValue("VOST_TDLIB_LOG_VERBOSITY", &ok);
+    if (!ok)
+        level = 1;
+    const QByteArray request =
+        R"({"@type":"setLogVerbosityLevel","new_verbosity_level":)" + QByteArray::number(level) + '}';
+    m_runtime->execute(request.constData());
+}
+
+void TelegramSession::submitPhoneNumber(const QString &phoneNumber) {
+    setErrorMessage(std::nullopt);
+    send(u"setAuthenticationPhoneNumber"_s,
+         {{"phone_number"_L1, phoneNumber},
+          {"settings"_L1, TdObject{{"@type"_L1, u"phoneNumberAuthenticationSettings"_s}}}});
+}
+
+void TelegramSession::submitVerificationCode(const QString &code) {
+    setErrorMessage(std::nullopt);
+    send(u"checkAuthenticationCode"_s, {{"code"_L1, code}});
+}
+
+void TelegramSession::submitPassword(const QString &password) {
+    setErrorMessage(std::nullopt);
+    send(u"checkAuthenticationPassword"_s, {{"password"_L1, password}});
+}
+
+void TelegramSession::logOutAndChangeAccount() {
+    if (!isReady())
+        return;
+    m_restartingAfterLogout = true;
+    setStep(Step::starting());
+    setErrorMessage(std::nullopt);
+    send(u"logOut"_s);
+}
+
+void TelegramSession::handleAuthorizationState(const TdObject &state) {
+    const QString type = typeOf(state);
+    if (type == "authorizationStateWaitTdlibParameters"_L1) {
+        submitTDLibParameters();
+    } else if (type == "authorizationStateWaitPhoneNumber"_L1) {
+        setStep(Step::phoneNumber());
+    } else if (type == "authorizationStateWaitCode"_L1) {
+        setStep(Step::verificationCode());
+    } else if (type == "authorizationStateWaitPassword"_L1) {
+        const QJsonValue hint = state.value("password_hint"_L1);
+        setStep(Step::password(hint.isString() ? hint.toString() : QString()));
+    } else if (type == "authorizationStateReady"_L1) {
+        completeSignIn();
+    } else if (type == "authorizationStateLoggingOut"_L1 || type == "authorizationStateClosing"_L1) {
+        if (!m_restartingAfterLogout && !m_closeWait)
+            setStep(Step::unavailable(u"The Telegram session is closing."_s));
+    } else if (type == "authorizationStateClosed"_L1) {
+        if (m_closeWait) {
+            m_closeWait->quit(); // the application is quitting: no new client
+        } else if (m_restartingAfterLogout) {
+            m_restartingAfterLogout = false;
+            resetAccountState();
+            beginClient();
+        } else {
+            setStep(Step::unavailable(u"The Telegram session closed."_s));
+        }
+    }
+}
+
+void TelegramSession::completeSignIn() {
+    setStep(Step::ready());
+    setErrorMessage(std::nullopt);
+    m_soundManager->play(SoundEvent::SignedIn);
+    requestChats();
+    refreshContacts();
+    send(u"getMe"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"current_user"_s}}}});
+}
+
+void TelegramSession::storeCurrentUser(const TdObject &user) {
+    m_currentUserID = int64From(user.value("id"_L1));
+    QStringList names;
+    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
+        const QString name = user.value(key).toString();
+        if (!name.isEmpty())
+            names.append(name);
+    }
+    setCurrentAccount(names.join(u' '), user.value("phone_number"_L1).toString());
+}
+
+void TelegramSession::submitTDLibParameters() {
+    if (!m_apiID || !m_apiHash)
+        return;
+    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (dataFolder.isEmpty())
+        return;
+    const QString databaseFolder = dataFolder + "/Corvella/TDLib"_L1;
+    const QString filesFolder = databaseFolder + "/Files"_L1;
+    QDir().mkpath(filesFolder); // TDLib reports an unusable folder itself
+
+    const QLocale::Language language = QLocale::system().language();
+    QString languageCode;
+    if (language != QLocale::C && language != QLocale::AnyLanguage)
+        languageCode = QLocale::languageToCode(language);
+    if (languageCode.isEmpty())
+        languageCode = u"en"_s;
+#ifdef Q_OS_MACOS
+    const QString deviceModel = u"Mac"_s;
+#else
+    const QString deviceModel = u"Linux"_s;
+#endif
+    send(u"setTdlibParameters"_s, {
+                                      {"use_test_dc"_L1, false},
+                                      {"database_directory"_L1, databaseFolder},
+                                      {"files_directory"_L1, filesFolder},
+                                      {"database_encryption_key"_L1, u""_s},
+                                      {"use_file_database"_L1, true},
+                                      {"use_chat_info_database"_L1, true},
+                                      {"use_message_database"_L1, true},
+                                      {"use_secret_chats"_L1, true},
+                                      {"api_id"_L1, *m_apiID},
+                                      {"api_hash"_L1, *m_apiHash},
+                                      {"system_language_code"_L1, languageCode},
+                                      {"device_model"_L1, deviceModel},
+                                      {"system_version"_L1, QSysInfo::prettyProductName()},
+                                      {"application_version"_L1, u"1.4"_s},
+                                  });
+}
+
+void TelegramSession::beginClient() {
+    if (!m_runtime)
+        return;
+    setStep(Step::starting());
+    startClient();
+}
+
+void TelegramSession::resetAccountState() {
+    setCurrentAccount(QString(), QString());
+    m_loadingChatLists.clear();
+    m_currentUserID.reset();
+}

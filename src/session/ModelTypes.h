@@ -1,0 +1,114 @@
+#pragma once
+
+// The plain value records the session publishes and the views display.
+
+#include <QList>
+#include <QSet>
+#include <QString>
+#include <QUuid>
+
+#include <optional>
+
+enum class AvatarColor { Teal, Blue };
+
+struct User {
+    QUuid id = QUuid::createUuid(); // tells views apart; not the TDLib id
+    QString name;
+    QString initials;
+    AvatarColor color = AvatarColor::Teal;
+    std::optional<QString> avatarPath;
+
+    friend bool operator==(const User &, const User &) = default;
+};
+
+enum class MessageDeliveryState { None, Sending, Sent, Read };
+
+enum class MessageMediaKind { Photo, Sticker, Video, Animation, Voice, Audio };
+
+enum class StickerFormat { Webp, Animated, Video };
+
+struct MessageReaction {
+    QString emoji;
+    int count = 0;
+    bool isChosen = false;
+
+    friend bool operator==(const MessageReaction &, const MessageReaction &) = default;
+};
+
+struct Message {
+    QString id;
+    User sender;
+    QString text;
+    QString timestamp;
+    bool isOutgoing = false;
+    MessageDeliveryState deliveryState = MessageDeliveryState::None;
+    std::optional<QString> mediaPath;
+    QStringList mediaPaths;
+    std::optional<MessageMediaKind> mediaKind;
+    QString stickerEmoji;
+    StickerFormat stickerFormat = StickerFormat::Webp;
+    std::optional<qint64> mediaAlbumID;
+    std::optional<QString> documentPath;
+    std::optional<QString> documentName;
+    QList<MessageReaction> reactions;
+    bool isUnread = false;
+
+    friend bool operator==(const Message &, const Message &) = default;
+};
+
+struct Chat {
+    QString id;
+    QString title;
+    QString subtitle;
+    QString preview;
+    QString timestamp;
+    qint64 unreadCount = 0;
+    bool isMuted = false;
+    bool isArchived = false;
+    bool isPinned = false;
+    bool isMarkedUnread = false;
+    QString draftText;
+    QString avatarText;
+    std::optional<QString> avatarSymbol;
+    std::optional<QString> avatarPath;
+    QList<Message> messages;
+
+    friend bool operator==(const Chat &, const Chat &) = default;
+};
+
+struct InitialHistoryProgress {
+    QSet<qint64> messageIDs;
+};
+
+enum class PendingAttachmentKind { Photo, Document };
+
+struct PendingAttachment {
+    QUuid id = QUuid::createUuid();
+    QString path;
+    PendingAttachmentKind kind = PendingAttachmentKind::Photo;
+
+    friend bool operator==(const PendingAttachment &, const PendingAttachment &) = default;
+};
+
+struct StickerChoice {
+    qint64 id = 0;
+    qint64 fileID = 0;
+    QString path;
+    QString emoji;
+    int width = 0;
+    int height = 0;
+    StickerFormat format = StickerFormat::Webp;
+
+    friend bool operator==(const StickerChoice &, const StickerChoice &) = default;
+};
+
+struct ContactChoice {
+    qint64 id = 0;
+    QString name;
+    QString username;
+    QString initials;
+    std::optional<QString> avatarPath;
+    bool isOnline = false;
+
+    friend bool operator==(const ContactChoice &, const ContactChoice &) = default;
+};

@@ -1,0 +1,68 @@
+#include "session/SoundManager.h"
+
+#include "session/UserDefaults.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+std::optional<SoundPack> soundPackFromRawValue(const QString &value) {
+    for (SoundPack pack : {SoundPack::Crystal, SoundPack::Gentle, SoundPack::Classic, SoundPack::Playful}) {
+        if (rawValue(pack) == value)
+            return pack;
+    }
+    return std::nullopt;
+}
+
+QString rawValue(SoundPack pack) {
+    switch (pack) {
+    case SoundPack::Crystal:
+        return u"crystal"_s;
+    case SoundPack::Gentle:
+        return u"gentle"_s;
+    case SoundPack::Classic:
+        return u"classic"_s;
+    case SoundPack::Playful:
+        return u"playful"_s;
+    }
+    return {};
+}
+
+QString soundName(SoundPack pack, SoundEvent event) {
+    using Row = std::array<const char *, 5>;
+    static constexpr std::array<Row, 4> table = {{
+        {"Tink", "Glass", "Ping", "Hero", "Basso"},
+        {"Pop", "Purr", "Blow", "Glass", "Funk"},
+        {"Morse", "Sosumi", "Submarine", "Hero", "Basso"},
+        {"Pop", "Funk", "Bottle", "Ping", "Frog"},
+    }};
+    return QString::fromLatin1(table[static_cast<size_t>(pack)][static_cast<size_t>(event)]);
+}
+
+SoundManager &SoundManager::shared() {
+    static SoundManager manager;
+    return manager;
+}
+
+bool SoundManager::isEnabled() const {
+    const QVariant stored = UserDefaults::value(u"soundsEnabled"_s);
+    // Only a stored boolean false turns sounds off. The settings file keeps booleans
+    // as the words true and false, so those words count as booleans.
+    if (stored.typeId() == QMetaType::Bool)
+        return stored.toBool();
+    return stored.typeId() != QMetaType::QString || stored.toString() != "false"_L1;
+}
+
+void SoundManager::play(SoundEvent event, std::optional<SoundPack> previewPack) const {
+    SoundPack pack = SoundPack::Crystal;
+    if (previewPack) {
+        pack = *previewPack;
+    } else {
+        if (!isEnabled())
+            return;
+        pack = soundPackFromRawValue(UserDefaults::value(u"soundPack"_s).toString())
+                   .value_or(SoundPack::Crystal);
+    }
+    if (m_player)
+        m_player->play(soundName(pack, event));
+}

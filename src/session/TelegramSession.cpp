@@ -1,0 +1,127 @@
+// Construction, published state and the request channel.
+
+#include "session/TelegramSession.h"
+
+#include "session/SoundManager.h"
+#include "tdlib/ReceiveLoop.h"
+#include "tdlib/TDLibRuntime.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QStringDecoder>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// How long quitting waits for TDLib to flush its database and close the client.
+constexpr int closeTimeoutMs = 3000;
+} // namespace
+
+TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
+    : QObject(parent)
+    , m_requestSender(std::move(requestSender))
+    , m_bundle(AppBundle::main())
+    , m_soundManager(&SoundManager::shared())
+    , m_now([] { return QDateTime::currentDateTime(); })
+    , m_startupStatus(u"Waiting to start"_s) {}
+
+TelegramSession::~TelegramSession() {
+    shutDown();
+}
+
+void TelegramSession::setStep(const Step &step) {
+    if (m_step == step)
+        return;
+    m_step = step;
+    Q_EMIT stepChanged();
+}
+
+void TelegramSession::setErrorMessage(const std::optional<QString> &message) {
+    if (m_errorMessage == message)
+        return;
+    m_errorMessage = message;
+    Q_EMIT errorMessageChanged();
+}
+
+void TelegramSession::setStartupStatus(const QString &status) {
+    if (m_startupStatus == status)
+        return;
+    m_startupStatus = status;
+    Q_EMIT startupStatusChanged();
+}
+
+void TelegramSession::setCurrentAccount(const QString &name, const QString &phoneNumber) {
+    if (m_currentAccountName != name) {
+        m_currentAccountName = name;
+        Q_EMIT currentAccountNameChanged();
+    }
+    if (m_currentAccountPhoneNumber != phoneNumber) {
+        m_currentAccountPhoneNumber = phoneNumber;
+        Q_EMIT currentAccountPhoneNumberChanged();
+    }
+}
+
+void TelegramSession::send(const QString &type, const TdObject &fields) {
+    if (m_requestSender) {
+        m_requestSender(type, fields);
+        return;
+    }
+    if (!m_runtime || !m_clientID)
+        return; // requests before start are dropped, not queued
+    TdObject request = fields;
+    request.insert("@type"_L1, type);
+    m_runtime->send(*m_clientID, QJsonDocument(request).toJson(QJsonDocument::Compact));
+}
+
+void TelegramSession::startClient() {
+    m_clientID = m_runtime->createClientID();
+    // The first request a new client receives; its answer needs no handling.
+    m_runtime->send(*m_clientID, R"({"@type":"getOption","name":"version"})"_ba);
+}
+
+void TelegramSession::handleResponse(const QString &json) {
+    // A lone surrogate cannot be written as UTF-8 without loss.
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    const QByteArray bytes = encoder(json);
+    if (encoder.hasError()) {
+        setStartupStatus(u"TDLib returned an unreadable response."_s);
+        return;
+    }
+    handleResponse(bytes);
+}
+
+void TelegramSession::handleResponse(const QByteArray &json) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    [[maybe_unused]] const QString validated = decoder(json);
+    QJsonParseError parseError;
+    const QJsonDocument document =
+        decoder.hasError() ? QJsonDocument() : QJsonDocument::fromJson(json, &parseError);
+    if (decoder.hasError() || parseError.error != QJsonParseError::NoError || !document.isObject()) {
+        setStartupStatus(u"TDLib returned an unreadable response."_s);
+        return;
+    }
+    const TdObject object = document.object();
+    const QJsonValue type = object.value("@type"_L1);
+    setStartupStatus(u"Received TDLib event: "_s + (type.isString() ? type.toString() : u"unknown"_s));
+    handle(object);
+}
+
+void TelegramSession::shutDown() {
+    if (!m_receiveLoop)
+        return;
+    if (m_runtime && m_clientID && m_receiveLoop->isRunning() && QCoreApplication::instance()) {
+        QEventLoop waiting;
+        m_closeWait = &waiting;
+        QTimer::singleShot(closeTimeoutMs, &waiting, &QEventLoop::quit);
+        m_runtime->send(*m_clientID, R"({"@type":"close"})"_ba);
+        waiting.exec();
+        m_closeWait = nullptr;
+    }
+    m_receiveLoop.reset();
+    // TDLib registers exit handlers inside its own code: unloading it before the
+    // process ends would leave them pointing nowhere. Keep it mapped until then.
+    if (m_runtime)
+        new std::shared_ptr<const TDLibRuntime>(std::move(m_runtime));
+}

@@ -1,0 +1,134 @@
+#include "JsonForms.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString caseName(Step::Case kind) {
+    switch (kind) {
+    case Step::Case::Password:
+        return u"password"_s;
+    case Step::Case::Unavailable:
+        return u"unavailable"_s;
+    case Step::Case::Idle:
+        return u"idle"_s;
+    case Step::Case::Starting:
+        return u"starting"_s;
+    case Step::Case::PhoneNumber:
+        return u"phoneNumber"_s;
+    case Step::Case::VerificationCode:
+        return u"verificationCode"_s;
+    case Step::Case::Ready:
+        return u"ready"_s;
+    }
+    return {};
+}
+
+QString caseName(MessageDeliveryState state) {
+    switch (state) {
+    case MessageDeliveryState::None:
+        return u"none"_s;
+    case MessageDeliveryState::Sending:
+        return u"sending"_s;
+    case MessageDeliveryState::Sent:
+        return u"sent"_s;
+    case MessageDeliveryState::Read:
+        return u"read"_s;
+    }
+    return {};
+}
+
+QString caseName(MessageMediaKind kind) {
+    switch (kind) {
+    case MessageMediaKind::Photo:
+        return u"photo"_s;
+    case MessageMediaKind::Sticker:
+        return u"sticker"_s;
+    case MessageMediaKind::Video:
+        return u"video"_s;
+    case MessageMediaKind::Animation:
+        return u"animation"_s;
+    case MessageMediaKind::Voice:
+        return u"voice"_s;
+    case MessageMediaKind::Audio:
+        return u"audio"_s;
+    }
+    return {};
+}
+
+QString caseName(StickerFormat format) {
+    switch (format) {
+    case StickerFormat::Webp:
+        return u"webp"_s;
+    case StickerFormat::Animated:
+        return u"animated"_s;
+    case StickerFormat::Video:
+        return u"video"_s;
+    }
+    return {};
+}
+
+} // namespace
+
+QJsonValue toJson(const Step &step) {
+    QJsonObject object{{"case"_L1, caseName(step.kind())}};
+    if (step.kind() == Step::Case::Password)
+        object.insert("hint"_L1, step.hint());
+    if (step.kind() == Step::Case::Unavailable)
+        object.insert("text"_L1, step.text());
+    return object;
+}
+
+QJsonValue toJson(const User &user) {
+    return QJsonObject{{"id"_L1, user.id.toString(QUuid::WithoutBraces)},
+                       {"name"_L1, user.name},
+                       {"initials"_L1, user.initials},
+                       {"color"_L1, user.color == AvatarColor::Teal ? u"teal"_s : u"blue"_s},
+                       {"avatarPath"_L1, optionalToJson(user.avatarPath)}};
+}
+
+QJsonValue toJson(const MessageReaction &reaction) {
+    return QJsonObject{
+        {"emoji"_L1, reaction.emoji}, {"count"_L1, reaction.count}, {"isChosen"_L1, reaction.isChosen}};
+}
+
+QJsonValue toJson(const Message &message) {
+    return QJsonObject{
+        {"id"_L1, message.id},
+        {"sender"_L1, toJson(message.sender)},
+        {"text"_L1, message.text},
+        {"timestamp"_L1, message.timestamp},
+        {"isOutgoing"_L1, message.isOutgoing},
+        {"deliveryState"_L1, caseName(message.deliveryState)},
+        {"mediaPath"_L1, optionalToJson(message.mediaPath)},
+        {"mediaPaths"_L1, QJsonArray::fromStringList(message.mediaPaths)},
+        {"mediaKind"_L1, message.mediaKind ? QJsonValue(caseName(*message.mediaKind)) : QJsonValue()},
+        {"stickerEmoji"_L1, message.stickerEmoji},
+        {"stickerFormat"_L1, caseName(message.stickerFormat)},
+        {"mediaAlbumID"_L1, optionalToJson(message.mediaAlbumID)},
+        {"documentPath"_L1, optionalToJson(message.documentPath)},
+        {"documentName"_L1, optionalToJson(message.documentName)},
+        {"reactions"_L1, toJsonArray(message.reactions)},
+        {"isUnread"_L1, message.isUnread},
+    };
+}
+
+QJsonValue toJson(const Chat &chat) {
+    return QJsonObject{
+        {"id"_L1, chat.id},
+        {"title"_L1, chat.title},
+        {"subtitle"_L1, chat.subtitle},
+        {"preview"_L1, chat.preview},
+        {"timestamp"_L1, chat.timestamp},
+        {"unreadCount"_L1, chat.unreadCount},
+        {"isMuted"_L1, chat.isMuted},
+        {"isArchived"_L1, chat.isArchived},
+        {"isPinned"_L1, chat.isPinned},
+        {"isMarkedUnread"_L1, chat.isMarkedUnread},
+        {"draftText"_L1, chat.draftText},
+        {"avatarText"_L1, chat.avatarText},
+        {"avatarSymbol"_L1, optionalToJson(chat.avatarSymbol)},
+        {"avatarPath"_L1, optionalToJson(chat.avatarPath)},
+        {"messages"_L1, toJsonArray(chat.messages)},
+    };
+}

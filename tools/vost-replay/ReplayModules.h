@@ -1,0 +1,17 @@
+#pragma once
+
+// Each module registers the calls, states and input lines of its own part of the
+// system with the driver.
+
+#include <QString>
+
+class ReplayDriver;
+class TelegramSession;
+
+struct ReplayOptions {
+    QString appStoreHost;
+    QString appStoreLookup;
+};
+
+void registerSessionCalls(ReplayDriver &driver, TelegramSession &session);
+void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options);

@@ -1,0 +1,52 @@
+// The session's operations and published state.
+
+#include "JsonForms.h"
+#include "ReplayDriver.h"
+#include "ReplayModules.h"
+
+#include "session/TelegramSession.h"
+#include "session/UserDefaults.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString stringArgument(const QJsonArray &args, qsizetype index) {
+    return args.at(index).toString();
+}
+
+} // namespace
+
+void registerSessionCalls(ReplayDriver &driver, TelegramSession &session) {
+    driver.addInput(u"raw"_s,
+                    [&session](const QJsonValue &text) { session.handleResponse(text.toString()); });
+    driver.addInput(u"defaults"_s, [](const QJsonValue &values) {
+        const QJsonObject object = values.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it)
+            UserDefaults::setValue(it.key(), it.value().toVariant());
+    });
+
+    driver.addCall(u"start"_s, [&session](const QJsonArray &args) {
+        session.start(args.at(0).toInteger(), stringArgument(args, 1));
+    });
+    driver.addCall(u"submitPhoneNumber"_s, [&session](const QJsonArray &args) {
+        session.submitPhoneNumber(stringArgument(args, 0));
+    });
+    driver.addCall(u"submitVerificationCode"_s, [&session](const QJsonArray &args) {
+        session.submitVerificationCode(stringArgument(args, 0));
+    });
+    driver.addCall(u"submitPassword"_s,
+                   [&session](const QJsonArray &args) { session.submitPassword(stringArgument(args, 0)); });
+    driver.addCall(u"logOutAndChangeAccount"_s,
+                   [&session](const QJsonArray &) { session.logOutAndChangeAccount(); });
+    driver.addCall(u"requestChats"_s, [&session](const QJsonArray &) { session.requestChats(); });
+    driver.addCall(u"refreshContacts"_s, [&session](const QJsonArray &) { session.refreshContacts(); });
+
+    driver.addState(u"step"_s, [&session] { return toJson(session.step()); });
+    driver.addState(u"isReady"_s, [&session] { return QJsonValue(session.isReady()); });
+    driver.addState(u"errorMessage"_s, [&session] { return optionalToJson(session.errorMessage()); });
+    driver.addState(u"startupStatus"_s, [&session] { return QJsonValue(session.startupStatus()); });
+    driver.addState(u"currentAccountName"_s, [&session] { return QJsonValue(session.currentAccountName()); });
+    driver.addState(u"currentAccountPhoneNumber"_s,
+                    [&session] { return QJsonValue(session.currentAccountPhoneNumber()); });
+}
