@@ -89,6 +89,7 @@ private:
     void send(const QString &type, const TdObject &fields = {});
     void startClient();
     void quietTDLibLog();
+    friend class ChannelTest;
     void handle(const TdObject &object);
 
     // Dispatcher

@@ -85,8 +85,8 @@ void ReplayDriver::process(const QByteArray &line) {
         QTimer::singleShot(object.value("wait_ms"_L1).toInt(), this, &ReplayDriver::releaseInput);
     } else if (object.contains("echo"_L1)) {
         emitLine({{"echo"_L1, object.value("echo"_L1)}});
-    } else if (object.contains("expect"_L1) || object.contains("comment"_L1)) {
-        // Expected output and notes for readers; the test runner reads them.
+    } else if (object.contains("expect"_L1) || object.contains("comment"_L1) || object.contains("options"_L1)) {
+        // Expected output, notes and options for the test runner; nothing to do here.
     } else {
         for (auto it = object.begin(); it != object.end(); ++it) {
             if (const auto handler = m_inputs.constFind(it.key()); handler != m_inputs.cend()) {

@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Vost's two entry points on a fresh Debian 12 machine:
+#   ./run.sh app   set up, build and start the client
+#   ./run.sh test  set up, build and run every test
+# Set-up installs the missing Debian packages, then CMake installs TDLib and the
+# Lottie player from npm into the build tree. VOST_TELEGRAM_API_ID and
+# VOST_TELEGRAM_API_HASH, when set, are built into the client.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+BUILD_DIR=${VOST_BUILD_DIR:-build}
+
+# "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
+DEBIAN_PACKAGES=(
+    g++ cmake ninja-build pkg-config nodejs:node npm:npm
+    qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev libgl-dev qt6-qpa-plugins
+    qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
+    qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
+    qml6-module-qtmultimedia
+    xvfb xauth dbus trayer xdotool
+)
+
+install_packages() {
+    local missing=()
+    for entry in "${DEBIAN_PACKAGES[@]}"; do
+        local package=${entry%%:*} command=${entry#*:}
+        [ "$command" != "$entry" ] && command -v "$command" >/dev/null && continue
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local sudo=
+    [ "$(id -u)" -eq 0 ] || sudo=sudo
+    echo "Installing Debian packages: ${missing[*]}"
+    $sudo apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+build() {
+    install_packages
+    cmake -S . -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+        -DVOST_TELEGRAM_API_ID="${VOST_TELEGRAM_API_ID:-}" \
+        -DVOST_TELEGRAM_API_HASH="${VOST_TELEGRAM_API_HASH:-}" >/dev/null
+    cmake --build "$BUILD_DIR"
+}
+
+case "${1:-}" in
+app)
+    shift
+    build
+    exec "$BUILD_DIR/bin/vost" "$@"
+    ;;
+test)
+    shift
+    build
+    # Tests that show windows or web pages get a virtual screen of their own.
+    exec xvfb-run -a -s "-screen 0 1280x800x24" \
+        ctest --test-dir "$BUILD_DIR" --output-on-failure --timeout 300 "$@"
+    ;;
+*)
+    echo "usage: ./run.sh app|test" >&2
+    exit 2
+    ;;
+esac

@@ -1,0 +1,311 @@
+#include "render/LinkPreviewMetadata.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <QTextDocumentFragment>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+AppStoreConfiguration &configuration() {
+    static AppStoreConfiguration value;
+    return value;
+}
+
+QPointer<QNetworkAccessManager> &sharedManager() {
+    static QPointer<QNetworkAccessManager> manager;
+    return manager;
+}
+
+std::optional<QString> optionalString(const QJsonObject &object, const QString &key, bool &ok) {
+    const QJsonValue value = object.value(key);
+    if (value.isUndefined() || value.isNull())
+        return std::nullopt;
+    if (!value.isString())
+        ok = false;
+    return value.toString();
+}
+
+// A reply the server answered (with any status) is no transport error.
+bool isTransportError(QNetworkReply *reply) {
+    return reply->error() != QNetworkReply::NoError &&
+           !reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+}
+
+QUrl strictUrl(const QString &text) {
+    const QUrl url(text, QUrl::StrictMode);
+    return url.isValid() && !url.isRelative() ? url : QUrl();
+}
+
+QString mimeType(QNetworkReply *reply) {
+    const QString header = reply->header(QNetworkRequest::ContentTypeHeader).toString();
+    return header.section(u';', 0, 0).trimmed().toLower();
+}
+
+std::optional<QString> decodeBody(const QByteArray &body) {
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8.decode(body);
+    if (!utf8.hasError())
+        return text;
+    QStringDecoder latin1(QStringDecoder::Latin1);
+    text = latin1.decode(body);
+    if (!latin1.hasError())
+        return text;
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<AppStoreLookupResponse> decodeAppStoreLookup(const QByteArray &body) {
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(body, &error);
+    if (error.error != QJsonParseError::NoError || !document.isObject())
+        return std::nullopt;
+    const QJsonValue results = document.object().value("results"_L1);
+    if (!results.isArray())
+        return std::nullopt;
+    AppStoreLookupResponse response;
+    for (const QJsonValue &item : results.toArray()) {
+        const QJsonObject object = item.toObject();
+        if (!item.isObject() || !object.value("trackName"_L1).isString())
+            return std::nullopt;
+        bool ok = true;
+        AppStoreResult result{object.value("trackName"_L1).toString(),
+                              optionalString(object, u"sellerName"_s, ok),
+                              optionalString(object, u"artworkUrl100"_s, ok)};
+        if (!ok)
+            return std::nullopt;
+        response.results.append(result);
+    }
+    return response;
+}
+
+HtmlPreviewFields parseHtmlPreviewFields(const QString &html, const QUrl &pageUrl) {
+    static const QRegularExpression metaTag(uR"((?is)<meta\s+[^>]*>)"_s);
+    static const QRegularExpression titleElement(uR"((?is)<title[^>]*>(.*?)</title>)"_s);
+    static const QRegularExpression linkTag(uR"((?is)<link\s+[^>]*>)"_s);
+
+    QHash<QString, QString> meta; // the first occurrence of a key wins
+    auto metaTags = metaTag.globalMatch(html);
+    while (metaTags.hasNext()) {
+        const QString tag = metaTags.next().captured();
+        std::optional<QString> key = LinkPreviewMetadata::attribute(u"property"_s, tag);
+        if (!key)
+            key = LinkPreviewMetadata::attribute(u"name"_s, tag);
+        const std::optional<QString> value = LinkPreviewMetadata::attribute(u"content"_s, tag);
+        if (!key || !value)
+            continue;
+        const QString lowered = key->toLower();
+        if (!meta.contains(lowered))
+            meta.insert(lowered, LinkPreviewMetadata::decodeHTMLEntities(*value));
+    }
+
+    HtmlPreviewFields fields;
+    std::optional<QString> rawTitle;
+    if (const auto ogTitle = meta.constFind(u"og:title"_s); ogTitle != meta.constEnd()) {
+        rawTitle = *ogTitle;
+    } else if (const QRegularExpressionMatch match = titleElement.match(html); match.hasMatch()) {
+        rawTitle = match.captured(1);
+    }
+    if (rawTitle)
+        fields.title = LinkPreviewMetadata::decodeHTMLEntities(*rawTitle).trimmed();
+
+    if (const QString siteName = meta.value(u"og:site_name"_s); !siteName.isEmpty())
+        fields.siteName = siteName;
+
+    if (const auto ogImage = meta.constFind(u"og:image"_s); ogImage != meta.constEnd()) {
+        const QUrl resolved = pageUrl.resolved(QUrl(*ogImage));
+        if (!ogImage->isEmpty() && resolved.isValid())
+            fields.imageUrl = resolved;
+    } else {
+        auto linkTags = linkTag.globalMatch(html);
+        while (linkTags.hasNext()) {
+            const QString tag = linkTags.next().captured();
+            const std::optional<QString> rel = LinkPreviewMetadata::attribute(u"rel"_s, tag);
+            if (!rel || !rel->toLower().contains("icon"_L1))
+                continue;
+            if (const std::optional<QString> href = LinkPreviewMetadata::attribute(u"href"_s, tag)) {
+                const QUrl resolved = pageUrl.resolved(QUrl(*href));
+                if (resolved.isValid())
+                    fields.imageUrl = resolved;
+            }
+            break;
+        }
+    }
+    return fields;
+}
+
+LinkPreviewMetadata::LinkPreviewMetadata(const QUrl &url, QObject *parent)
+    : QObject(parent)
+    , m_url(url) {
+    const QString host = url.host(QUrl::PrettyDecoded);
+    m_title = host.isEmpty() ? url.toString(QUrl::FullyEncoded) : host;
+    m_siteName = m_title;
+}
+
+LinkPreviewMetadata::~LinkPreviewMetadata() {
+    for (const QPointer<QNetworkReply> &reply : std::as_const(m_replies)) {
+        if (!reply)
+            continue;
+        reply->disconnect(this);
+        reply->abort();
+        reply->deleteLater();
+    }
+}
+
+AppStoreConfiguration LinkPreviewMetadata::appStoreConfiguration() {
+    return configuration();
+}
+
+void LinkPreviewMetadata::setAppStoreConfiguration(const AppStoreConfiguration &value) {
+    configuration() = value;
+}
+
+QNetworkAccessManager *LinkPreviewMetadata::networkAccessManager() {
+    QPointer<QNetworkAccessManager> &manager = sharedManager();
+    if (!manager)
+        manager = new QNetworkAccessManager(QCoreApplication::instance());
+    return manager;
+}
+
+void LinkPreviewMetadata::setNetworkAccessManager(QNetworkAccessManager *manager) {
+    sharedManager() = manager;
+}
+
+void LinkPreviewMetadata::load() {
+    if (m_hasLoaded)
+        return;
+    m_hasLoaded = true;
+    m_isLoading = true;
+    Q_EMIT hasLoadedChanged();
+    Q_EMIT isLoadingChanged();
+    auto done = [this] {
+        m_isLoading = false;
+        Q_EMIT isLoadingChanged();
+        Q_EMIT finished();
+    };
+    loadAppStoreMetadata([this, done](bool applied) {
+        if (applied)
+            done();
+        else
+            loadHTMLMetadata(done);
+    });
+}
+
+void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> completion) {
+    const AppStoreConfiguration store = configuration();
+    const QString host = m_url.host();
+    if (host.isEmpty() || store.webHost.isEmpty() || !host.endsWith(store.webHost))
+        return completion(false);
+    static const QRegularExpression appNumber(uR"(/id(\d+))"_s);
+    const QRegularExpressionMatch match = appNumber.match(m_url.toString(QUrl::FullyEncoded));
+    if (!match.hasMatch())
+        return completion(false);
+    const QUrl lookup = strictUrl(store.lookupEndpoint + match.captured(1));
+    if (lookup.isEmpty())
+        return completion(false);
+
+    QNetworkRequest request(lookup);
+    request.setTransferTimeout(defaultTimeoutMilliseconds);
+    fetch(request, [this, completion](QNetworkReply *reply) {
+        if (isTransportError(reply))
+            return completion(false);
+        const std::optional<AppStoreLookupResponse> response = decodeAppStoreLookup(reply->readAll());
+        if (!response || response->results.isEmpty())
+            return completion(false);
+        const AppStoreResult &result = response->results.first();
+        setTitle(result.trackName);
+        setSiteName(result.sellerName.value_or(u"App Store"_s));
+        const QUrl artwork = result.artworkUrl100 ? strictUrl(*result.artworkUrl100) : QUrl();
+        if (artwork.isEmpty())
+            return completion(true);
+        loadImage(artwork, [completion] { completion(true); });
+    });
+}
+
+void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion) {
+    QNetworkRequest request(m_url);
+    request.setTransferTimeout(pageTimeoutMilliseconds); // previews give up after 15 s
+    request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
+    fetch(request, [this, completion](QNetworkReply *reply) {
+        if (isTransportError(reply))
+            return completion();
+        const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+        if (status.isValid() && (status.toInt() < 200 || status.toInt() >= 400))
+            return completion();
+        const std::optional<QString> text = decodeBody(reply->readAll());
+        if (!text)
+            return completion();
+        const QUrl pageUrl = reply->url().isValid() ? reply->url() : m_url;
+        const HtmlPreviewFields fields = parseHtmlPreviewFields(*text, pageUrl);
+        if (fields.title)
+            setTitle(*fields.title);
+        if (fields.siteName)
+            setSiteName(*fields.siteName);
+        if (!fields.imageUrl)
+            return completion();
+        loadImage(*fields.imageUrl, completion);
+    });
+}
+
+void LinkPreviewMetadata::loadImage(const QUrl &from, std::function<void()> completion) {
+    QNetworkRequest request(from);
+    request.setTransferTimeout(defaultTimeoutMilliseconds);
+    fetch(request, [this, completion](QNetworkReply *reply) {
+        if (isTransportError(reply) || !mimeType(reply).startsWith("image/"_L1))
+            return completion();
+        const QImage decoded = QImage::fromData(reply->readAll());
+        if (!decoded.isNull()) {
+            m_image = decoded;
+            Q_EMIT imageChanged();
+        }
+        completion();
+    });
+}
+
+std::optional<QString> LinkPreviewMetadata::attribute(const QString &name, const QString &tag) {
+    const QRegularExpression expression(u"(?i)\\b"_s + QRegularExpression::escape(name) +
+                                        uR"(\s*=\s*["']([^"']*)["'])"_s);
+    const QRegularExpressionMatch match = expression.match(tag);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return match.captured(1);
+}
+
+QString LinkPreviewMetadata::decodeHTMLEntities(const QString &text) {
+    return QTextDocumentFragment::fromHtml(text).toPlainText();
+}
+
+void LinkPreviewMetadata::fetch(const QNetworkRequest &request, std::function<void(QNetworkReply *)> handler) {
+    QNetworkReply *reply = networkAccessManager()->get(request);
+    m_replies.removeAll(nullptr);
+    m_replies.append(reply);
+    connect(reply, &QNetworkReply::finished, this, [this, reply, handler = std::move(handler)] {
+        m_replies.removeAll(reply);
+        reply->deleteLater();
+        handler(reply);
+    });
+}
+
+void LinkPreviewMetadata::setTitle(const QString &title) {
+    if (title == m_title)
+        return;
+    m_title = title;
+    Q_EMIT titleChanged();
+}
+
+void LinkPreviewMetadata::setSiteName(const QString &siteName) {
+    if (siteName == m_siteName)
+        return;
+    m_siteName = siteName;
+    Q_EMIT siteNameChanged();
+}

@@ -1,0 +1,109 @@
+// Runs one replay script through vost-replay and compares what it prints with the
+// script's {"expect": LINE} lines, in order. In expected values the string
+// "<any>" matches any value. A line {"options": [...]} gives the driver's options;
+// "@FAKE_BUNDLE@" in them stands for the fake TDLib bundle.
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool matches(const QJsonValue &expected, const QJsonValue &actual)
+{
+    if (expected.isString() && expected.toString() == "<any>"_L1)
+        return true;
+    if (expected.isObject() && actual.isObject()) {
+        const QJsonObject e = expected.toObject();
+        const QJsonObject a = actual.toObject();
+        if (e.keys() != a.keys())
+            return false;
+        for (auto it = e.begin(); it != e.end(); ++it) {
+            if (!matches(it.value(), a.value(it.key())))
+                return false;
+        }
+        return true;
+    }
+    if (expected.isArray() && actual.isArray()) {
+        const QJsonArray e = expected.toArray();
+        const QJsonArray a = actual.toArray();
+        if (e.size() != a.size())
+            return false;
+        for (qsizetype i = 0; i < e.size(); ++i) {
+            if (!matches(e.at(i), a.at(i)))
+                return false;
+        }
+        return true;
+    }
+    return expected == actual;
+}
+
+QString compact(const QJsonValue &value)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    QTextStream err(stderr);
+    const QStringList args = application.arguments();
+    if (args.size() < 3) {
+        err << "usage: replay-check VOST_REPLAY SCRIPT [FAKE_BUNDLE]\n";
+        return 2;
+    }
+    QFile script(args.at(2));
+    if (!script.open(QIODevice::ReadOnly)) {
+        err << "cannot read " << args.at(2) << '\n';
+        return 2;
+    }
+    const QByteArray input = script.readAll();
+
+    QStringList options;
+    QList<QJsonValue> expected;
+    for (const QByteArray &line : input.split('\n')) {
+        // Lines that are not JSON objects are input for the driver (to test its errors).
+        const QJsonObject object = QJsonDocument::fromJson(line).object();
+        if (object.contains("expect"_L1))
+            expected.append(object.value("expect"_L1));
+        for (const QJsonValue &option : object.value("options"_L1).toArray())
+            options.append(option.toString().replace("@FAKE_BUNDLE@"_L1, args.value(3)));
+    }
+
+    QProcess replay;
+    replay.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    replay.start(args.at(1), options);
+    replay.write(input);
+    replay.closeWriteChannel();
+    if (!replay.waitForFinished(60000) || replay.exitStatus() != QProcess::NormalExit || replay.exitCode() != 0) {
+        err << "vost-replay did not finish cleanly\n";
+        return 1;
+    }
+    QList<QJsonValue> actual;
+    for (const QByteArray &line : replay.readAllStandardOutput().split('\n')) {
+        if (!line.isEmpty())
+            actual.append(QJsonDocument::fromJson(line).object());
+    }
+
+    bool same = actual.size() == expected.size();
+    for (qsizetype i = 0; same && i < actual.size(); ++i)
+        same = matches(expected.at(i), actual.at(i));
+    if (same)
+        return 0;
+    err << "expected and printed lines differ (expected | printed):\n";
+    for (qsizetype i = 0; i < std::max(actual.size(), expected.size()); ++i) {
+        const QString e = i < expected.size() ? compact(expected.at(i)) : u"-"_s;
+        const QString a = i < actual.size() ? compact(actual.at(i)) : u"-"_s;
+        const bool lineMatches = i < expected.size() && i < actual.size() && matches(expected.at(i), actual.at(i));
+        err << (lineMatches ? "  " : "! ") << e << "\n  | " << a << '\n';
+    }
+    return 1;
+}
