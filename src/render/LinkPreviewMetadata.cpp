@@ -245,8 +245,7 @@ void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion) {
         const std::optional<QString> text = decodeBody(reply->readAll());
         if (!text)
             return completion();
-        const QUrl pageUrl = reply->url().isValid() ? reply->url() : m_url;
-        const HtmlPreviewFields fields = parseHtmlPreviewFields(*text, pageUrl);
+        const HtmlPreviewFields fields = parseHtmlPreviewFields(*text, m_url);
         if (fields.title)
             setTitle(*fields.title);
         if (fields.siteName)
@@ -285,7 +284,8 @@ QString LinkPreviewMetadata::decodeHTMLEntities(const QString &text) {
     return QTextDocumentFragment::fromHtml(text).toPlainText();
 }
 
-void LinkPreviewMetadata::fetch(const QNetworkRequest &request, std::function<void(QNetworkReply *)> handler) {
+void LinkPreviewMetadata::fetch(const QNetworkRequest &request,
+                                std::function<void(QNetworkReply *)> handler) {
     QNetworkReply *reply = networkAccessManager()->get(request);
     m_replies.removeAll(nullptr);
     m_replies.append(reply);

@@ -80,8 +80,8 @@ public:
     static QNetworkAccessManager *networkAccessManager();
     static void setNetworkAccessManager(QNetworkAccessManager *manager);
 
-    static inline const QByteArray userAgent =
-        QByteArrayLiteral("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 Safari/605.1.15");
+    static inline const QByteArray userAgent = QByteArrayLiteral(
+        "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 Safari/605.1.15");
     static constexpr int pageTimeoutMilliseconds = 15'000;
     // The usual time-out of a URL loader's default request.
     static constexpr int defaultTimeoutMilliseconds = 60'000;

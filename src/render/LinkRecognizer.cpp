@@ -135,7 +135,8 @@ QList<TextLink> findLinks(const QString &text) {
         const QString address = text.mid(start, length);
         QUrl url;
         if (isEmail)
-            url = QUrl(address.startsWith(u"mailto:"_s) ? address : u"mailto:"_s + address, QUrl::TolerantMode);
+            url =
+                QUrl(address.startsWith(u"mailto:"_s) ? address : u"mailto:"_s + address, QUrl::TolerantMode);
         else
             url = QUrl(u"http://"_s + address, QUrl::TolerantMode);
         if (url.isValid())

@@ -107,8 +107,8 @@ std::optional<QString> Coordinator::update(const QString &path, StickerFormat fo
     const QByteArray data = file.read(maximumFileSize + 1);
     if (file.error() != QFileDevice::NoError || data.size() > maximumFileSize)
         return std::nullopt;
-    std::optional<QString> page = m_playerScriptPath.isEmpty() ? html(data, format)
-                                                                : html(data, format, m_playerScriptPath);
+    std::optional<QString> page =
+        m_playerScriptPath.isEmpty() ? html(data, format) : html(data, format, m_playerScriptPath);
     if (page)
         m_key = pageKey;
     return page;

@@ -1,6 +1,7 @@
 // The one entry point for every TDLib answer and update: answers are routed by the
 // purpose their request was tagged with, everything else by its type.
 
+#include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
 

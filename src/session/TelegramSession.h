@@ -8,7 +8,11 @@
 #include <QDateTime>
 #include <QObject>
 
+#include <QHash>
+#include <QSet>
+
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -54,6 +58,15 @@ public:
     QString startupStatus() const { return m_startupStatus; }
     QString currentAccountName() const { return m_currentAccountName; }
     QString currentAccountPhoneNumber() const { return m_currentAccountPhoneNumber; }
+    // The displayed chat list, in display order.
+    const QList<Chat> &chats() const;
+    // What each chat shows, oldest first.
+    const QHash<QString, QList<Message>> &messagesByChat() const { return m_messagesByChat; }
+    // The per-chat record of history requests and image messages, for diagnosing
+    // pictures that do not show.
+    QStringList imageDiagnostics(const QString &chatID) const {
+        return m_imageDiagnosticEvents.value(chatID);
+    }
 
     // Authorization
     Q_INVOKABLE void start(qint64 apiID, const QString &apiHash);
@@ -65,6 +78,11 @@ public:
     // Chat list
     Q_INVOKABLE void requestChats();
     void loadChatList(const QString &listType);
+
+    // Messages and history
+    Q_INVOKABLE void loadMessages(const QString &chatID);
+    Q_INVOKABLE void loadOlderMessages(const QString &chatID, const QString &messageID);
+    void markMessagesRead(const QList<Message> &messages, const QString &chatID);
 
     // Contacts
     Q_INVOKABLE void refreshContacts();
@@ -78,6 +96,8 @@ public:
     void shutDown();
 
 Q_SIGNALS:
+    void chatsChanged();
+    void messagesChanged(const QString &chatID);
     void stepChanged();
     void errorMessageChanged();
     void startupStatusChanged();
@@ -104,6 +124,54 @@ private:
     void beginClient();
     void resetAccountState();
     void storeCurrentUser(const TdObject &user);
+
+    // Chat list
+    void addOrUpdateChat(const TdObject &chat);
+    void updateChat(const QString &chatID, const std::function<void(Chat &)> &change);
+    void updateChatLastMessage(const QString &chatID, const QJsonValue &message, const QJsonValue &positions);
+    void updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing);
+    bool hasListPosition(const QString &chatID) const;
+    void sortChats();
+    void applyNotificationSettings(const TdObject &settings, const QString &chatID);
+    void requestChat(qint64 chatID);
+
+    // Messages
+    void requestInitialHistory(qint64 chatID, qint64 fromMessageID, int attempt);
+    void storeMessages(const QJsonArray &messages, const TdObject &extra);
+    void storeNewMessage(const TdObject &message);
+    void removeMessage(qint64 messageID, std::optional<qint64> chatID);
+    void updateMessageField(const TdObject &update, const QString &field, const QJsonValue &value);
+    void publishMessages(const QString &chatID);
+    std::optional<Message> makeMessage(const TdObject &message);
+    void handleNewMessage(const TdObject &message);
+    void handleReadInbox(const TdObject &update);
+    void handleReadOutbox(const TdObject &update);
+
+    // Content and downloads
+    std::pair<std::optional<QString>, std::optional<MessageMediaKind>>
+    prepareMessageMedia(const TdObject &content, const QString &chatID);
+    std::pair<std::optional<QString>, std::optional<QString>> prepareMessageDocument(const TdObject &content,
+                                                                                     const QString &chatID);
+    std::optional<QString> resolvedMediaPath(const TdObject &file, const QString &chatID);
+    void downloadFile(qint64 fileID);
+    void applyDownloadedFile(const TdObject &file);
+
+    // Users, presence and typing
+    void storeUser(const TdObject &user);
+    void requestMissingUsers(const QList<TdObject> &messages);
+    void refreshPresence(qint64 userID);
+    QString presenceSubtitle(const QString &chatID, const QString &fallback) const;
+    void updateTypingStatus(const TdObject &update);
+    void setUserOnline(qint64 userID, bool online);
+    std::optional<QString> prepareAvatar(const QJsonValue &photo,
+                                         const std::function<void(qint64)> &recordOwner);
+    std::optional<QString> prepareChatAvatar(const QJsonValue &photo, const QString &chatID);
+    std::optional<QString> prepareUserAvatar(const QJsonValue &photo, qint64 userID);
+    void republishChatsWithMessages();
+
+    // Image diagnostics
+    void recordImageDiagnosticEvent(const TdObject &object);
+    void appendImageDiagnostic(const QString &chatID, const QString &line);
 
     void setStep(const Step &step);
     void setErrorMessage(const std::optional<QString> &message);
@@ -132,6 +200,61 @@ private:
     bool m_restartingAfterLogout = false;
     QEventLoop *m_closeWait = nullptr; // set while quitting waits for the client to close
 
-    // Chat list paging
+    // Chat list. The displayed list is kept as an ordered index of the visible
+    // chats and materialised when read, so that a sync of thousands of chats does
+    // not re-sort or copy the whole list for every update.
+    struct ChatSortKey {
+        qint64 order;
+        qint64 id;
+        bool operator<(const ChatSortKey &other) const {
+            return order != other.order ? order > other.order : id > other.id;
+        }
+    };
+    struct ChatPosition {
+        qint64 order = 0;
+        bool isPinned = false;
+    };
+    QHash<QString, Chat> m_knownChats;
+    QHash<QString, QHash<QString, ChatPosition>> m_chatPositions; // by list type
+    QHash<QString, qint64> m_chatOrders;
+    QHash<QString, qint64> m_chatTimestamps;
+    QHash<QString, qint64> m_lastReadInbox;
+    QSet<QString> m_mutedChatIDs;
+    QHash<QString, qint64> m_privateChatUsers;
+    QHash<qint64, QSet<QString>> m_privateChatsByUser;
+    QHash<QString, QString> m_baseChatSubtitles;
+    QSet<QString> m_explicitlyOpenedChats;
+    QSet<QString> m_removedChatIDs;
     QSet<QString> m_loadingChatLists;
+    std::map<ChatSortKey, QString> m_chatIndex;
+    QHash<QString, ChatSortKey> m_chatIndexKeys;
+    QSet<QString> m_chatsToSort;
+    mutable QList<Chat> m_publishedChats;
+    mutable bool m_publishedChatsValid = true;
+
+    // Messages
+    QHash<QString, QList<Message>> m_messagesByChat;
+    QHash<QString, QList<TdObject>> m_rawMessagesByChat;
+    QHash<QString, qint64> m_lastReadOutbox;
+    QHash<QString, qint64> m_lastViewedMessage;
+    QSet<QString> m_loadingInitialHistory;
+    QHash<QString, InitialHistoryProgress> m_initialHistoryProgress;
+    QSet<QString> m_loadingOlderHistory;
+    QSet<QString> m_exhaustedHistory;
+    QSet<QString> m_expandedHistory;
+    QSet<QString> m_preloadedHistory;
+
+    // Files
+    QHash<qint64, QSet<QString>> m_messageMediaOwners;
+    QHash<qint64, QString> m_downloadedMediaPaths;
+    QHash<qint64, QString> m_chatAvatarOwners;
+    QHash<qint64, qint64> m_userAvatarOwners;
+
+    // Users
+    QHash<qint64, User> m_telegramUsers;
+    QSet<qint64> m_requestedUserIDs;
+    QSet<qint64> m_onlineUsers;
+    QSet<qint64> m_contactUserIDs;
+
+    QHash<QString, QStringList> m_imageDiagnosticEvents;
 };

@@ -132,3 +132,24 @@ QJsonValue toJson(const Chat &chat) {
         {"messages"_L1, toJsonArray(chat.messages)},
     };
 }
+
+Message messageFromJson(const QJsonObject &object) {
+    Message message;
+    message.id = object.value("id"_L1).toVariant().toString();
+    message.text = object.value("text"_L1).toString();
+    message.isOutgoing = object.value("isOutgoing"_L1).toBool();
+    message.isUnread = object.value("isUnread"_L1).toBool();
+    for (const QJsonValue &reaction : object.value("reactions"_L1).toArray()) {
+        const QJsonObject r = reaction.toObject();
+        message.reactions.append(
+            {r.value("emoji"_L1).toString(), r.value("count"_L1).toInt(), r.value("isChosen"_L1).toBool()});
+    }
+    return message;
+}
+
+QList<Message> messagesFromJson(const QJsonArray &array) {
+    QList<Message> messages;
+    for (const QJsonValue &value : array)
+        messages.append(messageFromJson(value.toObject()));
+    return messages;
+}

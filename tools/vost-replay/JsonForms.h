@@ -22,6 +22,10 @@ QJsonValue toJson(const Message &message);
 QJsonValue toJson(const Chat &chat);
 QJsonValue toJson(const MessageReaction &reaction);
 
+// Messages given in their JSON form; fields that are missing keep their defaults.
+Message messageFromJson(const QJsonObject &object);
+QList<Message> messagesFromJson(const QJsonArray &array);
+
 template<typename T> QJsonArray toJsonArray(const QList<T> &values) {
     QJsonArray array;
     for (const T &value : values)

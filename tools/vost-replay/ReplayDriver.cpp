@@ -85,7 +85,8 @@ void ReplayDriver::process(const QByteArray &line) {
         QTimer::singleShot(object.value("wait_ms"_L1).toInt(), this, &ReplayDriver::releaseInput);
     } else if (object.contains("echo"_L1)) {
         emitLine({{"echo"_L1, object.value("echo"_L1)}});
-    } else if (object.contains("expect"_L1) || object.contains("comment"_L1) || object.contains("options"_L1)) {
+    } else if (object.contains("expect"_L1) || object.contains("comment"_L1) ||
+               object.contains("options"_L1)) {
         // Expected output, notes and options for the test runner; nothing to do here.
     } else {
         for (auto it = object.begin(); it != object.end(); ++it) {

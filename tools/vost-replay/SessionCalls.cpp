@@ -41,12 +41,28 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session) {
                    [&session](const QJsonArray &) { session.logOutAndChangeAccount(); });
     driver.addCall(u"requestChats"_s, [&session](const QJsonArray &) { session.requestChats(); });
     driver.addCall(u"refreshContacts"_s, [&session](const QJsonArray &) { session.refreshContacts(); });
+    driver.addCall(u"loadMessages"_s,
+                   [&session](const QJsonArray &args) { session.loadMessages(stringArgument(args, 0)); });
+    driver.addCall(u"loadOlderMessages"_s, [&session](const QJsonArray &args) {
+        session.loadOlderMessages(stringArgument(args, 0), stringArgument(args, 1));
+    });
+    driver.addCall(u"markMessagesRead"_s, [&session](const QJsonArray &args) {
+        session.markMessagesRead(messagesFromJson(args.at(0).toArray()), stringArgument(args, 1));
+    });
 
     driver.addState(u"step"_s, [&session] { return toJson(session.step()); });
     driver.addState(u"isReady"_s, [&session] { return QJsonValue(session.isReady()); });
     driver.addState(u"errorMessage"_s, [&session] { return optionalToJson(session.errorMessage()); });
     driver.addState(u"startupStatus"_s, [&session] { return QJsonValue(session.startupStatus()); });
     driver.addState(u"currentAccountName"_s, [&session] { return QJsonValue(session.currentAccountName()); });
+    driver.addState(u"chats"_s, [&session] { return QJsonValue(toJsonArray(session.chats())); });
+    driver.addState(u"messagesByChat"_s, [&session] {
+        QJsonObject byChat;
+        const auto &messages = session.messagesByChat();
+        for (auto it = messages.begin(); it != messages.end(); ++it)
+            byChat.insert(it.key(), toJsonArray(it.value()));
+        return QJsonValue(byChat);
+    });
     driver.addState(u"currentAccountPhoneNumber"_s,
                     [&session] { return QJsonValue(session.currentAccountPhoneNumber()); });
 }

@@ -1,0 +1,22 @@
+#include "LinkPreviewSource.h"
+
+LinkPreviewSource::LinkPreviewSource(QObject *parent)
+    : QObject(parent) {}
+
+void LinkPreviewSource::setUrl(const QUrl &url) {
+    if (url == m_url && m_metadata)
+        return;
+    m_url = url;
+    delete m_metadata;
+    m_metadata = new LinkPreviewMetadata(url, this);
+    for (const auto signal : {&LinkPreviewMetadata::titleChanged, &LinkPreviewMetadata::siteNameChanged,
+                              &LinkPreviewMetadata::imageChanged, &LinkPreviewMetadata::isLoadingChanged})
+        connect(m_metadata, signal, this, &LinkPreviewSource::metadataChanged);
+    Q_EMIT urlChanged();
+    Q_EMIT metadataChanged();
+}
+
+void LinkPreviewSource::start() {
+    if (m_metadata)
+        m_metadata->load();
+}

@@ -1,0 +1,144 @@
+#include "session/ContentTexts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString textOr(const QJsonValue &value, const QString &fallback) {
+    return value.isString() ? value.toString() : fallback;
+}
+
+} // namespace
+
+std::optional<QString> caption(const TdObject &content) {
+    const QJsonValue text = content.value("caption"_L1).toObject().value("text"_L1);
+    if (!text.isString() || text.toString().isEmpty())
+        return std::nullopt;
+    return text.toString();
+}
+
+QString messageText(const TdObject &content) {
+    const QString type = typeOf(content);
+    if (type.isEmpty())
+        return u"Message"_s;
+    if (type == "messageText"_L1)
+        return textOr(content.value("text"_L1).toObject().value("text"_L1), u"Message"_s);
+    if (type == "messageAnimatedEmoji"_L1)
+        return textOr(content.value("emoji"_L1), u"Emoji"_s);
+    if (type == "messagePhoto"_L1)
+        return caption(content).value_or(u"📷 Photo"_s);
+    if (type == "messageVideo"_L1)
+        return caption(content).value_or(u"🎬 Video"_s);
+    if (type == "messageVoiceNote"_L1)
+        return u"🎤 Voice message"_s;
+    if (type == "messageVideoNote"_L1)
+        return u"Video message"_s;
+    if (type == "messageSticker"_L1)
+        return u"Sticker"_s;
+    if (type == "messageAnimation"_L1)
+        return caption(content).value_or(u"Animation"_s);
+    if (type == "messageDocument"_L1)
+        return caption(content).value_or(u"📎 Document"_s);
+    if (type == "messageAudio"_L1)
+        return caption(content).value_or(u"🎵 Audio"_s);
+    if (type == "messageCall"_L1)
+        return u"Call"_s;
+    if (type == "messageLocation"_L1)
+        return u"📍 Location"_s;
+    if (type == "messageContact"_L1)
+        return u"Contact"_s;
+    if (type == "messagePoll"_L1)
+        return u"Poll"_s;
+    return u"Unsupported message"_s;
+}
+
+QString previewText(const std::optional<TdObject> &message) {
+    if (!message || !message->value("content"_L1).isObject())
+        return u"No messages yet"_s;
+    const TdObject content = message->value("content"_L1).toObject();
+    const QString type = typeOf(content);
+    if (type == "messageText"_L1)
+        return textOr(content.value("text"_L1).toObject().value("text"_L1), u"Message"_s);
+    if (type == "messageAnimatedEmoji"_L1)
+        return textOr(content.value("emoji"_L1), u"Emoji"_s);
+    static const QHash<QString, QString> plain{
+        {u"messagePhoto"_s, u"Photo"_s},
+        {u"messageVideo"_s, u"Video"_s},
+        {u"messageVoiceNote"_s, u"Voice message"_s},
+        {u"messageVideoNote"_s, u"Video message"_s},
+        {u"messageSticker"_s, u"Sticker"_s},
+        {u"messageAnimation"_s, u"Animation"_s},
+        {u"messageDocument"_s, u"Document"_s},
+        {u"messageAudio"_s, u"Audio"_s},
+        {u"messageCall"_s, u"Call"_s},
+    };
+    return plain.value(type, u"Message"_s);
+}
+
+QString draftText(const QJsonValue &draft) {
+    const TdObject input = draft.toObject().value("input_message_text"_L1).toObject();
+    if (typeOf(input) != "inputMessageText"_L1)
+        return {};
+    return input.value("text"_L1).toObject().value("text"_L1).toString();
+}
+
+QString chatSubtitle(const QJsonValue &chatType) {
+    const QString type = typeOf(chatType);
+    if (type == "chatTypePrivate"_L1)
+        return u"Private conversation"_s;
+    if (type == "chatTypeBasicGroup"_L1)
+        return u"Group"_s;
+    if (type == "chatTypeSupergroup"_L1)
+        return u"Group or channel"_s;
+    if (type == "chatTypeSecret"_L1)
+        return u"Secret chat"_s;
+    return u"Telegram"_s;
+}
+
+StickerFormat stickerFormat(const QJsonValue &format) {
+    const QString type = typeOf(format);
+    if (type == "stickerFormatTgs"_L1)
+        return StickerFormat::Animated;
+    if (type == "stickerFormatWebm"_L1)
+        return StickerFormat::Video;
+    return StickerFormat::Webp;
+}
+
+QList<MessageReaction> messageReactions(const TdObject &message) {
+    const QJsonValue container = message.value("interaction_info"_L1).toObject().value("reactions"_L1);
+    const QJsonValue list = container.toObject().value("reactions"_L1);
+    if (!container.isObject() || !list.isArray())
+        return {};
+    QList<MessageReaction> reactions;
+    for (const QJsonValue &element : list.toArray()) {
+        const TdObject reaction = element.toObject();
+        const QJsonValue type = reaction.value("type"_L1);
+        const QJsonValue emoji = type.toObject().value("emoji"_L1);
+        if (!type.isObject() || typeOf(type) != "reactionTypeEmoji"_L1 || !emoji.isString())
+            continue;
+        const QJsonValue chosen = reaction.value("is_chosen"_L1);
+        reactions.append({emoji.toString(), int(integerFrom(reaction.value("total_count"_L1)).value_or(0)),
+                          chosen.isBool() && chosen.toBool()});
+    }
+    return reactions;
+}
+
+bool isImageDocument(const TdObject &document) {
+    if (document.value("mime_type"_L1).toString().toLower().startsWith("image/"_L1))
+        return true;
+    const QString fileName = document.value("file_name"_L1).toString().toLower();
+    for (const auto extension : {".jpg"_L1, ".jpeg"_L1, ".png"_L1, ".gif"_L1, ".webp"_L1, ".heic"_L1,
+                                 ".heif"_L1, ".tif"_L1, ".tiff"_L1, ".bmp"_L1}) {
+        if (fileName.endsWith(extension))
+            return true;
+    }
+    return false;
+}
+
+std::optional<QString> completedPath(const TdObject &file) {
+    const TdObject local = file.value("local"_L1).toObject();
+    const QString path = local.value("path"_L1).toString();
+    if (!local.value("is_downloading_completed"_L1).toBool() || path.isEmpty())
+        return std::nullopt;
+    return path;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+// The short texts shown for TDLib message contents, drafts and chat types, and
+// the readers of a message's sticker format and reactions.
+
+#include "session/ModelTypes.h"
+#include "tdlib/TdJson.h"
+
+#include <optional>
+
+// The text of a message bubble.
+QString messageText(const TdObject &content);
+// The chat-list preview of a last message; none gives "No messages yet".
+QString previewText(const std::optional<TdObject> &message);
+// A non-empty "caption"."text".
+std::optional<QString> caption(const TdObject &content);
+QString draftText(const QJsonValue &draft);
+// The line under a chat's title, from its "type" object.
+QString chatSubtitle(const QJsonValue &chatType);
+
+StickerFormat stickerFormat(const QJsonValue &format);
+// Emoji reactions from a message's "interaction_info", in TDLib's order.
+QList<MessageReaction> messageReactions(const TdObject &message);
+
+// A document shown as a photo: an image MIME type or an image file name.
+bool isImageDocument(const TdObject &document);
+// The local path of a completely downloaded file.
+std::optional<QString> completedPath(const TdObject &file);

@@ -1,0 +1,347 @@
+// The messages of each chat: a short window of the newest ones, the first load of
+// a chat with its bounded retries, older pages, read markers and delivery ticks.
+
+#include "session/ContentTexts.h"
+#include "session/DateTexts.h"
+#include "session/TelegramSession.h"
+
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int historyWindow = 15;
+constexpr int maximumInitialAttempts = 14;
+constexpr int maximumViewedMessages = 100;
+constexpr int emptyAnswerRetryMs = 200;
+
+qint64 dateOf(const TdObject &message) {
+    return integerFrom(message.value("date"_L1)).value_or(0);
+}
+
+qint64 idOf(const TdObject &message) {
+    return int64From(message.value("id"_L1)).value_or(0);
+}
+
+bool messageSortsBefore(const TdObject &a, const TdObject &b) {
+    const qint64 dateA = dateOf(a);
+    const qint64 dateB = dateOf(b);
+    return dateA != dateB ? dateA < dateB : idOf(a) < idOf(b);
+}
+
+QString chatKey(const TdObject &message) {
+    return QString::number(int64From(message.value("chat_id"_L1)).value_or(0));
+}
+
+} // namespace
+
+void TelegramSession::publishMessages(const QString &chatID) {
+    const auto stored = m_rawMessagesByChat.find(chatID);
+    if (stored == m_rawMessagesByChat.end())
+        return;
+    QList<TdObject> &messages = *stored;
+    std::stable_sort(messages.begin(), messages.end(), messageSortsBefore);
+    if (!m_expandedHistory.contains(chatID) && messages.size() > historyWindow)
+        messages.remove(0, messages.size() - historyWindow);
+    if (m_loadingInitialHistory.contains(chatID))
+        return;
+    requestMissingUsers(messages);
+    QList<Message> published;
+    published.reserve(messages.size());
+    for (const TdObject &raw : std::as_const(m_rawMessagesByChat[chatID])) {
+        if (std::optional<Message> message = makeMessage(raw))
+            published.append(std::move(*message));
+    }
+    m_messagesByChat.insert(chatID, published);
+    Q_EMIT messagesChanged(chatID);
+}
+
+std::optional<Message> TelegramSession::makeMessage(const TdObject &raw) {
+    const std::optional<qint64> id = int64From(raw.value("id"_L1));
+    if (!id)
+        return std::nullopt;
+    const QString chatID = chatKey(raw);
+    Message message;
+    message.id = QString::number(*id);
+    message.isOutgoing = raw.value("is_outgoing"_L1).toBool();
+
+    const std::optional<qint64> senderUserID =
+        int64From(raw.value("sender_id"_L1).toObject().value("user_id"_L1));
+    if (message.isOutgoing) {
+        auto found = m_currentUserID ? m_telegramUsers.constFind(*m_currentUserID) : m_telegramUsers.cend();
+        if (found == m_telegramUsers.cend() && senderUserID)
+            found = m_telegramUsers.constFind(*senderUserID);
+        const bool known = found != m_telegramUsers.cend();
+        message.sender = User{QUuid::createUuid(), u"You"_s, known ? found->initials : u"YO"_s,
+                              AvatarColor::Blue, known ? found->avatarPath : std::nullopt};
+    } else if (const auto sender =
+                   senderUserID ? m_telegramUsers.constFind(*senderUserID) : m_telegramUsers.cend();
+               sender != m_telegramUsers.cend()) {
+        message.sender = *sender;
+    } else {
+        message.sender = User{QUuid::createUuid(), u"Telegram"_s, u"TG"_s, AvatarColor::Teal, std::nullopt};
+    }
+
+    if (message.isOutgoing) {
+        if (raw.value("sending_state"_L1).isObject())
+            message.deliveryState = MessageDeliveryState::Sending;
+        else
+            message.deliveryState = m_lastReadOutbox.value(chatID, 0) < *id ? MessageDeliveryState::Sent
+                                                                            : MessageDeliveryState::Read;
+        message.isUnread = false;
+    } else {
+        message.deliveryState = MessageDeliveryState::None;
+        message.isUnread = m_lastReadInbox.value(chatID, 0) < *id;
+    }
+
+    const TdObject content = raw.value("content"_L1).toObject();
+    std::tie(message.documentPath, message.documentName) = prepareMessageDocument(content, chatID);
+    std::tie(message.mediaPath, message.mediaKind) = prepareMessageMedia(content, chatID);
+    if (message.mediaPath)
+        message.mediaPaths = {*message.mediaPath};
+    message.text = messageText(content);
+    message.timestamp = messageTime(integerFrom(raw.value("date"_L1)));
+    const TdObject sticker = content.value("sticker"_L1).toObject();
+    message.stickerEmoji = sticker.value("emoji"_L1).toString();
+    message.stickerFormat = stickerFormat(sticker.value("format"_L1));
+    message.mediaAlbumID = int64From(raw.value("media_album_id"_L1));
+    message.reactions = messageReactions(raw);
+    return message;
+}
+
+void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &extra) {
+    const QJsonValue purposeValue = extra.value("purpose"_L1);
+    const QString purpose = purposeValue.isString() ? purposeValue.toString() : QString();
+    if (purpose == "initial_local_history"_L1)
+        return;
+    if (purpose == "older_history"_L1) {
+        if (const auto chat = int64From(extra.value("chat_id"_L1))) {
+            const QString chatID = QString::number(*chat);
+            m_loadingOlderHistory.remove(chatID);
+            if (messages.isEmpty())
+                m_exhaustedHistory.insert(chatID);
+        }
+    }
+
+    // Group by chat, keeping the order in which chats first appear.
+    QStringList chatOrder;
+    QHash<QString, QList<TdObject>> byChat;
+    for (const QJsonValue &value : messages) {
+        const TdObject message = value.toObject();
+        const QString chatID = chatKey(message);
+        if (!byChat.contains(chatID))
+            chatOrder.append(chatID);
+        byChat[chatID].append(message);
+    }
+    for (const QString &chatID : std::as_const(chatOrder)) {
+        if (chatID == "0"_L1 || m_removedChatIDs.contains(chatID))
+            continue;
+        QList<TdObject> merged;
+        QHash<qint64, qsizetype> index;
+        const auto place = [&](const TdObject &message) {
+            const std::optional<qint64> id = int64From(message.value("id"_L1));
+            if (!id)
+                return;
+            if (const auto at = index.constFind(*id); at != index.cend()) {
+                merged[*at] = message;
+            } else {
+                index.insert(*id, merged.size());
+                merged.append(message);
+            }
+        };
+        for (const TdObject &stored : std::as_const(m_rawMessagesByChat[chatID]))
+            place(stored);
+        for (const TdObject &received : std::as_const(byChat[chatID]))
+            place(received);
+        m_rawMessagesByChat.insert(chatID, merged);
+        publishMessages(chatID);
+    }
+
+    if (purpose != "initial_history"_L1)
+        return;
+    const std::optional<qint64> chat = int64From(extra.value("chat_id"_L1));
+    if (!chat)
+        return;
+    const QString chatID = QString::number(*chat);
+    InitialHistoryProgress &progress = m_initialHistoryProgress[chatID];
+    const qsizetype previous = progress.messageIDs.size();
+    for (const QJsonValue &value : messages) {
+        if (const auto id = int64From(value.toObject().value("id"_L1)))
+            progress.messageIDs.insert(*id);
+    }
+    const int attempt = int(integerFrom(extra.value("attempt"_L1)).value_or(1));
+    const qsizetype count = progress.messageIDs.size();
+    const bool goesOn = count < historyWindow && attempt <= maximumInitialAttempts &&
+                        (count > previous || (count == 0 && attempt <= 2));
+    if (goesOn && count > 0) {
+        requestInitialHistory(
+            *chat, *std::min_element(progress.messageIDs.cbegin(), progress.messageIDs.cend()), attempt + 1);
+    } else if (goesOn) {
+        // TDLib answers empty while it fills its cache: ask again shortly.
+        QTimer::singleShot(emptyAnswerRetryMs, this, [this, chatID, chat = *chat, attempt] {
+            if (m_loadingInitialHistory.contains(chatID))
+                requestInitialHistory(chat, 0, attempt + 1);
+        });
+    } else {
+        m_loadingInitialHistory.remove(chatID);
+        m_initialHistoryProgress.remove(chatID);
+        publishMessages(chatID);
+    }
+}
+
+void TelegramSession::loadMessages(const QString &chatID) {
+    const std::optional<qint64> chat = parseInt64(chatID);
+    if (!chat || m_loadingInitialHistory.contains(chatID))
+        return;
+    m_loadingInitialHistory.insert(chatID);
+    m_initialHistoryProgress.insert(chatID, {});
+    send(u"openChat"_s, {{"chat_id"_L1, *chat}});
+    requestInitialHistory(*chat, 0, 1);
+}
+
+void TelegramSession::requestInitialHistory(qint64 chatID, qint64 fromMessageID, int attempt) {
+    const qsizetype held = m_initialHistoryProgress.value(QString::number(chatID)).messageIDs.size();
+    // TDLib answers a page from a message with that message itself again.
+    const qsizetype limit =
+        std::clamp<qsizetype>(historyWindow - held + (fromMessageID != 0 ? 1 : 0), 1, historyWindow);
+    send(u"getChatHistory"_s,
+         {{"chat_id"_L1, chatID},
+          {"from_message_id"_L1, fromMessageID},
+          {"offset"_L1, 0},
+          {"limit"_L1, limit},
+          {"only_local"_L1, false},
+          {"@extra"_L1,
+           TdObject{{"purpose"_L1, u"initial_history"_s}, {"chat_id"_L1, chatID}, {"attempt"_L1, attempt}}}});
+}
+
+void TelegramSession::loadOlderMessages(const QString &chatID, const QString &messageID) {
+    const std::optional<qint64> chat = parseInt64(chatID);
+    const std::optional<qint64> message = parseInt64(messageID);
+    if (!chat || !message || m_loadingOlderHistory.contains(chatID) || m_exhaustedHistory.contains(chatID))
+        return;
+    m_expandedHistory.insert(chatID);
+    m_loadingOlderHistory.insert(chatID);
+    send(u"getChatHistory"_s,
+         {{"chat_id"_L1, *chat},
+          {"from_message_id"_L1, *message},
+          {"offset"_L1, 0},
+          {"limit"_L1, historyWindow},
+          {"only_local"_L1, false},
+          {"@extra"_L1, TdObject{{"purpose"_L1, u"older_history"_s}, {"chat_id"_L1, *chat}}}});
+}
+
+void TelegramSession::markMessagesRead(const QList<Message> &messages, const QString &chatID) {
+    const std::optional<qint64> chat = parseInt64(chatID);
+    if (!chat)
+        return;
+    QJsonArray identifiers;
+    std::optional<qint64> newest;
+    for (qsizetype i = std::max<qsizetype>(0, messages.size() - maximumViewedMessages); i < messages.size();
+         ++i) {
+        if (const auto id = parseInt64(messages.at(i).id)) {
+            identifiers.append(*id);
+            newest = *id;
+        }
+    }
+    if (!newest)
+        return;
+    const auto viewed = m_lastViewedMessage.constFind(chatID);
+    if (viewed != m_lastViewedMessage.cend() ? *viewed >= *newest : *newest <= 0)
+        return;
+    m_lastViewedMessage.insert(chatID, *newest);
+    m_lastReadInbox.insert(chatID, std::max(*newest, m_lastReadInbox.value(chatID, 0)));
+    updateChat(chatID, [](Chat &c) { c.unreadCount = 0; });
+    publishMessages(chatID);
+    send(u"viewMessages"_s, {{"chat_id"_L1, *chat},
+                             {"message_ids"_L1, identifiers},
+                             {"source"_L1, QJsonValue::Null},
+                             {"force_read"_L1, true}});
+}
+
+void TelegramSession::storeNewMessage(const TdObject &message) {
+    const std::optional<qint64> chat = int64From(message.value("chat_id"_L1));
+    if (!chat)
+        return;
+    const QString chatID = QString::number(*chat);
+    if (m_removedChatIDs.contains(chatID))
+        return;
+    QList<TdObject> &stored = m_rawMessagesByChat[chatID];
+    const std::optional<qint64> id = int64From(message.value("id"_L1));
+    const auto same = !id ? stored.end() : std::find_if(stored.begin(), stored.end(), [&](const TdObject &m) {
+        return int64From(m.value("id"_L1)) == id;
+    });
+    if (same != stored.end())
+        *same = message;
+    else
+        stored.append(message);
+    publishMessages(chatID);
+}
+
+void TelegramSession::removeMessage(qint64 messageID, std::optional<qint64> chat) {
+    if (!chat)
+        return;
+    const QString chatID = QString::number(*chat);
+    const auto stored = m_rawMessagesByChat.find(chatID);
+    if (stored != m_rawMessagesByChat.end())
+        stored->removeIf([messageID](const TdObject &m) { return int64From(m.value("id"_L1)) == messageID; });
+    publishMessages(chatID);
+}
+
+void TelegramSession::updateMessageField(const TdObject &update, const QString &field,
+                                         const QJsonValue &value) {
+    const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
+    const std::optional<qint64> messageID = int64From(update.value("message_id"_L1));
+    if (!chat || !messageID)
+        return;
+    const QString chatID = QString::number(*chat);
+    const auto stored = m_rawMessagesByChat.find(chatID);
+    if (stored == m_rawMessagesByChat.end())
+        return;
+    for (TdObject &message : *stored) {
+        if (int64From(message.value("id"_L1)) == messageID) {
+            if (value.isUndefined() || value.isNull())
+                message.remove(field);
+            else
+                message.insert(field, value);
+            publishMessages(chatID);
+            return;
+        }
+    }
+}
+
+void TelegramSession::handleNewMessage(const TdObject &message) {
+    if (const auto chat = int64From(message.value("chat_id"_L1))) {
+        const QString chatID = QString::number(*chat);
+        // A new message brings a deleted chat back.
+        m_removedChatIDs.remove(chatID);
+        m_chatsToSort.insert(chatID);
+        if (!m_chatIndexKeys.contains(chatID))
+            requestChat(*chat);
+    }
+    storeNewMessage(message);
+}
+
+void TelegramSession::handleReadInbox(const TdObject &update) {
+    const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
+    if (!chat)
+        return;
+    const QString chatID = QString::number(*chat);
+    if (const auto lastRead = int64From(update.value("last_read_inbox_message_id"_L1)))
+        m_lastReadInbox.insert(chatID, *lastRead);
+    const qint64 unread = integerFrom(update.value("unread_count"_L1)).value_or(0);
+    updateChat(chatID, [unread](Chat &c) { c.unreadCount = unread; });
+    publishMessages(chatID);
+}
+
+void TelegramSession::handleReadOutbox(const TdObject &update) {
+    const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
+    if (!chat)
+        return;
+    const QString chatID = QString::number(*chat);
+    if (const auto lastRead = int64From(update.value("last_read_outbox_message_id"_L1)))
+        m_lastReadOutbox.insert(chatID, *lastRead);
+    publishMessages(chatID);
+}
