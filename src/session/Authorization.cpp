@@ -13,7 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
-void TelegramSession::start(qint64 apiID, const QString &apiHash) {
+void TelegramSession::start(qint64 apiID, const QString &apiHash)
+{
     if (m_step.kind() != Step::Case::Idle)
         return;
     m_apiID = apiID;
@@ -33,12 +34,13 @@ void TelegramSession::start(qint64 apiID, const QString &apiHash) {
     setStep(Step::starting());
     startClient();
     setStartupStatus(u"Client created; waiting for TDLib’s first event…"_s);
-    m_receiveLoop = std::make_unique<ReceiveLoop>(m_runtime, this,
-                                                  [this](const QByteArray &event) { handleResponse(event); });
+    m_receiveLoop =
+        std::make_unique<ReceiveLoop>(m_runtime, this, [this](const QByteArray &event) { handleResponse(event); });
     m_receiveLoop->start();
 }
 
-void TelegramSession::quietTDLibLog() {
+void TelegramSession::quietTDLibLog()
+{
     // TDLib logs its own debugging to standard error by default; keep errors only,
     // unless VOST_TDLIB_LOG_VERBOSITY asks for more.
     bool ok = false;
@@ -50,24 +52,28 @@ void TelegramSession::quietTDLibLog() {
     m_runtime->execute(request.constData());
 }
 
-void TelegramSession::submitPhoneNumber(const QString &phoneNumber) {
+void TelegramSession::submitPhoneNumber(const QString &phoneNumber)
+{
     setErrorMessage(std::nullopt);
     send(u"setAuthenticationPhoneNumber"_s,
          {{"phone_number"_L1, phoneNumber},
           {"settings"_L1, TdObject{{"@type"_L1, u"phoneNumberAuthenticationSettings"_s}}}});
 }
 
-void TelegramSession::submitVerificationCode(const QString &code) {
+void TelegramSession::submitVerificationCode(const QString &code)
+{
     setErrorMessage(std::nullopt);
     send(u"checkAuthenticationCode"_s, {{"code"_L1, code}});
 }
 
-void TelegramSession::submitPassword(const QString &password) {
+void TelegramSession::submitPassword(const QString &password)
+{
     setErrorMessage(std::nullopt);
     send(u"checkAuthenticationPassword"_s, {{"password"_L1, password}});
 }
 
-void TelegramSession::logOutAndChangeAccount() {
+void TelegramSession::logOutAndChangeAccount()
+{
     if (!isReady())
         return;
     m_restartingAfterLogout = true;
@@ -76,7 +82,8 @@ void TelegramSession::logOutAndChangeAccount() {
     send(u"logOut"_s);
 }
 
-void TelegramSession::handleAuthorizationState(const TdObject &state) {
+void TelegramSession::handleAuthorizationState(const TdObject &state)
+{
     const QString type = typeOf(state);
     if (type == "authorizationStateWaitTdlibParameters"_L1) {
         submitTDLibParameters();
@@ -105,7 +112,8 @@ void TelegramSession::handleAuthorizationState(const TdObject &state) {
     }
 }
 
-void TelegramSession::completeSignIn() {
+void TelegramSession::completeSignIn()
+{
     setStep(Step::ready());
     setErrorMessage(std::nullopt);
     m_soundManager->play(SoundEvent::SignedIn);
@@ -114,7 +122,8 @@ void TelegramSession::completeSignIn() {
     send(u"getMe"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"current_user"_s}}}});
 }
 
-void TelegramSession::storeCurrentUser(const TdObject &user) {
+void TelegramSession::storeCurrentUser(const TdObject &user)
+{
     m_currentUserID = int64From(user.value("id"_L1));
     QStringList names;
     for (const auto key : {"first_name"_L1, "last_name"_L1}) {
@@ -125,7 +134,8 @@ void TelegramSession::storeCurrentUser(const TdObject &user) {
     setCurrentAccount(names.join(u' '), user.value("phone_number"_L1).toString());
 }
 
-void TelegramSession::submitTDLibParameters() {
+void TelegramSession::submitTDLibParameters()
+{
     if (!m_apiID || !m_apiHash)
         return;
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
@@ -164,15 +174,48 @@ void TelegramSession::submitTDLibParameters() {
                                   });
 }
 
-void TelegramSession::beginClient() {
+void TelegramSession::beginClient()
+{
     if (!m_runtime)
         return;
     setStep(Step::starting());
     startClient();
 }
 
-void TelegramSession::resetAccountState() {
+void TelegramSession::resetAccountState()
+{
+    // The user cache, read markers, avatar owners, base subtitles and muted chats
+    // are kept on purpose: they describe Telegram, not the account that left.
+    m_knownChats.clear();
+    m_chatIndex.clear();
+    m_chatIndexKeys.clear();
+    m_chatsToSort.clear();
+    m_publishedChatsValid = false;
+    Q_EMIT chatsChanged();
+    const QStringList chatsWithMessages = m_messagesByChat.keys();
+    m_messagesByChat.clear();
+    for (const QString &chatID : chatsWithMessages)
+        Q_EMIT messagesChanged(chatID);
     setCurrentAccount(QString(), QString());
+
+    m_removedChatIDs.clear();
+    m_privateChatUsers.clear();
+    m_privateChatsByUser.clear();
+    m_contactUserIDs.clear();
+    m_chatOrders.clear();
+    m_chatPositions.clear();
+    m_explicitlyOpenedChats.clear();
+    m_chatTimestamps.clear();
+    m_rawMessagesByChat.clear();
+    m_messageMediaOwners.clear();
+    m_downloadedMediaPaths.clear();
+    m_imageDiagnosticEvents.clear();
+    m_loadingInitialHistory.clear();
+    m_initialHistoryProgress.clear();
+    m_preloadedHistory.clear();
+    m_expandedHistory.clear();
     m_loadingChatLists.clear();
+    m_loadingOlderHistory.clear();
+    m_exhaustedHistory.clear();
     m_currentUserID.reset();
 }

@@ -13,13 +13,15 @@ namespace {
 const QString mainList = u"chatListMain"_s;
 const QString archiveList = u"chatListArchive"_s;
 
-bool isMuted(const QJsonValue &notificationSettings) {
+bool isMuted(const QJsonValue &notificationSettings)
+{
     return integerFrom(notificationSettings.toObject().value("mute_for"_L1)).value_or(0) >= 1;
 }
 
 } // namespace
 
-void TelegramSession::requestChats() {
+void TelegramSession::requestChats()
+{
     for (const QString &listType : {mainList, archiveList}) {
         if (m_loadingChatLists.contains(listType))
             continue;
@@ -29,18 +31,20 @@ void TelegramSession::requestChats() {
     }
 }
 
-void TelegramSession::loadChatList(const QString &listType) {
-    send(u"loadChats"_s,
-         {{"chat_list"_L1, TdObject{{"@type"_L1, listType}}},
-          {"limit"_L1, 50},
-          {"@extra"_L1, TdObject{{"purpose"_L1, u"load_chat_list"_s}, {"list"_L1, listType}}}});
+void TelegramSession::loadChatList(const QString &listType)
+{
+    send(u"loadChats"_s, {{"chat_list"_L1, TdObject{{"@type"_L1, listType}}},
+                          {"limit"_L1, 50},
+                          {"@extra"_L1, TdObject{{"purpose"_L1, u"load_chat_list"_s}, {"list"_L1, listType}}}});
 }
 
-void TelegramSession::requestChat(qint64 chatID) {
+void TelegramSession::requestChat(qint64 chatID)
+{
     send(u"getChat"_s, {{"chat_id"_L1, chatID}});
 }
 
-void TelegramSession::addOrUpdateChat(const TdObject &object) {
+void TelegramSession::addOrUpdateChat(const TdObject &object)
+{
     const std::optional<qint64> numericID = int64From(object.value("id"_L1));
     const QJsonValue title = object.value("title"_L1);
     if (!numericID || !title.isString())
@@ -108,12 +112,12 @@ void TelegramSession::addOrUpdateChat(const TdObject &object) {
     else
         m_mutedChatIDs.remove(id);
     m_chatsToSort.insert(id);
-    updatePositions(id, object.contains("positions"_L1) ? QJsonValue(positions) : QJsonValue(QJsonArray()),
-                    true);
+    updatePositions(id, object.contains("positions"_L1) ? QJsonValue(positions) : QJsonValue(QJsonArray()), true);
     sortChats();
 }
 
-void TelegramSession::updateChat(const QString &chatID, const std::function<void(Chat &)> &change) {
+void TelegramSession::updateChat(const QString &chatID, const std::function<void(Chat &)> &change)
+{
     const auto known = m_knownChats.find(chatID);
     if (known == m_knownChats.end())
         return;
@@ -125,12 +129,12 @@ void TelegramSession::updateChat(const QString &chatID, const std::function<void
 }
 
 void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonValue &message,
-                                            const QJsonValue &positions) {
+                                            const QJsonValue &positions)
+{
     const std::optional<qint64> date =
         message.isObject() ? integerFrom(message.toObject().value("date"_L1)) : std::nullopt;
     m_chatTimestamps.insert(chatID, date.value_or(0));
-    const QString preview =
-        previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
+    const QString preview = previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
     const QString timestamp = timestampText(date, m_now());
     updateChat(chatID, [&](Chat &chat) {
         chat.preview = preview;
@@ -142,11 +146,11 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
     sortChats();
 }
 
-void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing) {
+void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing)
+{
     if (!positions.isArray())
         return;
-    QHash<QString, ChatPosition> map =
-        replacing ? QHash<QString, ChatPosition>() : m_chatPositions.value(chatID);
+    QHash<QString, ChatPosition> map = replacing ? QHash<QString, ChatPosition>() : m_chatPositions.value(chatID);
     for (const QJsonValue &value : positions.toArray()) {
         const TdObject position = value.toObject();
         const QString listType = typeOf(position.value("list"_L1));
@@ -175,12 +179,14 @@ void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &p
     });
 }
 
-bool TelegramSession::hasListPosition(const QString &chatID) const {
+bool TelegramSession::hasListPosition(const QString &chatID) const
+{
     const auto positions = m_chatPositions.constFind(chatID);
     return positions != m_chatPositions.cend() && !positions->isEmpty();
 }
 
-void TelegramSession::sortChats() {
+void TelegramSession::sortChats()
+{
     // Only the chats touched since the last sort can have moved.
     for (const QString &chatID : std::as_const(m_chatsToSort)) {
         if (const auto key = m_chatIndexKeys.constFind(chatID); key != m_chatIndexKeys.cend()) {
@@ -200,7 +206,8 @@ void TelegramSession::sortChats() {
     Q_EMIT chatsChanged();
 }
 
-const QList<Chat> &TelegramSession::chats() const {
+const QList<Chat> &TelegramSession::chats() const
+{
     if (!m_publishedChatsValid) {
         m_publishedChats.clear();
         m_publishedChats.reserve(qsizetype(m_chatIndex.size()));
@@ -211,7 +218,8 @@ const QList<Chat> &TelegramSession::chats() const {
     return m_publishedChats;
 }
 
-void TelegramSession::applyNotificationSettings(const TdObject &settings, const QString &chatID) {
+void TelegramSession::applyNotificationSettings(const TdObject &settings, const QString &chatID)
+{
     const bool muted = isMuted(settings);
     if (muted)
         m_mutedChatIDs.insert(chatID);

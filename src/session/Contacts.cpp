@@ -4,6 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-void TelegramSession::refreshContacts() {
+void TelegramSession::refreshContacts()
+{
     send(u"getContacts"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"contact_roster"_s}}}});
 }

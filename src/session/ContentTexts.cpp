@@ -4,20 +4,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString textOr(const QJsonValue &value, const QString &fallback) {
+QString textOr(const QJsonValue &value, const QString &fallback)
+{
     return value.isString() ? value.toString() : fallback;
 }
 
 } // namespace
 
-std::optional<QString> caption(const TdObject &content) {
+std::optional<QString> caption(const TdObject &content)
+{
     const QJsonValue text = content.value("caption"_L1).toObject().value("text"_L1);
     if (!text.isString() || text.toString().isEmpty())
         return std::nullopt;
     return text.toString();
 }
 
-QString messageText(const TdObject &content) {
+QString messageText(const TdObject &content)
+{
     const QString type = typeOf(content);
     if (type.isEmpty())
         return u"Message"_s;
@@ -52,7 +55,8 @@ QString messageText(const TdObject &content) {
     return u"Unsupported message"_s;
 }
 
-QString previewText(const std::optional<TdObject> &message) {
+QString previewText(const std::optional<TdObject> &message)
+{
     if (!message || !message->value("content"_L1).isObject())
         return u"No messages yet"_s;
     const TdObject content = message->value("content"_L1).toObject();
@@ -75,14 +79,16 @@ QString previewText(const std::optional<TdObject> &message) {
     return plain.value(type, u"Message"_s);
 }
 
-QString draftText(const QJsonValue &draft) {
+QString draftText(const QJsonValue &draft)
+{
     const TdObject input = draft.toObject().value("input_message_text"_L1).toObject();
     if (typeOf(input) != "inputMessageText"_L1)
         return {};
     return input.value("text"_L1).toObject().value("text"_L1).toString();
 }
 
-QString chatSubtitle(const QJsonValue &chatType) {
+QString chatSubtitle(const QJsonValue &chatType)
+{
     const QString type = typeOf(chatType);
     if (type == "chatTypePrivate"_L1)
         return u"Private conversation"_s;
@@ -95,7 +101,8 @@ QString chatSubtitle(const QJsonValue &chatType) {
     return u"Telegram"_s;
 }
 
-StickerFormat stickerFormat(const QJsonValue &format) {
+StickerFormat stickerFormat(const QJsonValue &format)
+{
     const QString type = typeOf(format);
     if (type == "stickerFormatTgs"_L1)
         return StickerFormat::Animated;
@@ -104,7 +111,8 @@ StickerFormat stickerFormat(const QJsonValue &format) {
     return StickerFormat::Webp;
 }
 
-QList<MessageReaction> messageReactions(const TdObject &message) {
+QList<MessageReaction> messageReactions(const TdObject &message)
+{
     const QJsonValue container = message.value("interaction_info"_L1).toObject().value("reactions"_L1);
     const QJsonValue list = container.toObject().value("reactions"_L1);
     if (!container.isObject() || !list.isArray())
@@ -123,19 +131,21 @@ QList<MessageReaction> messageReactions(const TdObject &message) {
     return reactions;
 }
 
-bool isImageDocument(const TdObject &document) {
+bool isImageDocument(const TdObject &document)
+{
     if (document.value("mime_type"_L1).toString().toLower().startsWith("image/"_L1))
         return true;
     const QString fileName = document.value("file_name"_L1).toString().toLower();
-    for (const auto extension : {".jpg"_L1, ".jpeg"_L1, ".png"_L1, ".gif"_L1, ".webp"_L1, ".heic"_L1,
-                                 ".heif"_L1, ".tif"_L1, ".tiff"_L1, ".bmp"_L1}) {
+    for (const auto extension : {".jpg"_L1, ".jpeg"_L1, ".png"_L1, ".gif"_L1, ".webp"_L1, ".heic"_L1, ".heif"_L1,
+                                 ".tif"_L1, ".tiff"_L1, ".bmp"_L1}) {
         if (fileName.endsWith(extension))
             return true;
     }
     return false;
 }
 
-std::optional<QString> completedPath(const TdObject &file) {
+std::optional<QString> completedPath(const TdObject &file)
+{
     const TdObject local = file.value("local"_L1).toObject();
     const QString path = local.value("path"_L1).toString();
     if (!local.value("is_downloading_completed"_L1).toBool() || path.isEmpty())

@@ -5,7 +5,8 @@
 using namespace Qt::StringLiterals;
 
 CredentialStore::CredentialStore(const QVariantMap &infoDictionary, QObject *parent)
-    : QObject(parent) {
+    : QObject(parent)
+{
     const QVariant id = infoDictionary.value(u"TelegramAPIID"_s);
     if (id.typeId() == QMetaType::QString)
         m_apiID = parseInt64(id.toString().trimmed());

@@ -6,7 +6,8 @@
 #include <optional>
 
 // The Telegram API credentials from the information dictionary, read once.
-class CredentialStore : public QObject {
+class CredentialStore : public QObject
+{
     Q_OBJECT
     Q_PROPERTY(bool hasCredentials READ hasCredentials CONSTANT)
 

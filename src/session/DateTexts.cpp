@@ -4,7 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
-QString timestampText(std::optional<qint64> date, const QDateTime &now) {
+QString timestampText(std::optional<qint64> date, const QDateTime &now)
+{
     if (!date)
         return {};
     const QDateTime time = QDateTime::fromSecsSinceEpoch(*date);
@@ -17,7 +18,8 @@ QString timestampText(std::optional<qint64> date, const QDateTime &now) {
     return QLocale::system().toString(time, u"d MMM"_s);
 }
 
-QString messageTime(std::optional<qint64> date) {
+QString messageTime(std::optional<qint64> date)
+{
     if (!date)
         return {};
     return QLocale::system().toString(QDateTime::fromSecsSinceEpoch(*date), u"H:mm"_s);

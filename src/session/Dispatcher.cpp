@@ -7,7 +7,19 @@
 
 using namespace Qt::StringLiterals;
 
-void TelegramSession::handle(const TdObject &object) {
+namespace {
+
+std::optional<QString> chatIDIn(const TdObject &object)
+{
+    const std::optional<qint64> chat = int64From(object.value("chat_id"_L1));
+    return chat ? std::optional(QString::number(*chat)) : std::nullopt;
+}
+
+} // namespace
+
+void TelegramSession::handle(const TdObject &object)
+{
+    recordImageDiagnosticEvent(object);
     const QString type = typeOf(object);
     if (type == "updateConnectionState"_L1) {
         if (typeOf(object.value("state"_L1)) == "connectionStateReady"_L1 && isReady()) {
@@ -29,7 +41,8 @@ void TelegramSession::handle(const TdObject &object) {
         handleGenericError(object);
 }
 
-bool TelegramSession::routeByPurpose(const QString &purpose, const TdObject &object) {
+bool TelegramSession::routeByPurpose(const QString &purpose, const TdObject &object)
+{
     const QString type = typeOf(object);
     if (purpose == "load_chat_list"_L1) {
         const QString listType = object.value("@extra"_L1).toObject().value("list"_L1).toString();
@@ -50,16 +63,108 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const TdObject &obj
     }
     if (purpose == "current_user"_L1 && type == "user"_L1) {
         storeCurrentUser(object);
+        storeUser(object);
+        return true;
+    }
+    if ((purpose == "initial_history"_L1 || purpose == "initial_local_history"_L1 || purpose == "older_history"_L1) &&
+        type == "messages"_L1) {
+        storeMessages(object.value("messages"_L1).toArray(), object.value("@extra"_L1).toObject());
         return true;
     }
     return false;
 }
 
-bool TelegramSession::routeByType(const QString &, const TdObject &) {
-    return false;
+bool TelegramSession::routeByType(const QString &type, const TdObject &object)
+{
+    // Updates about one chat: the chat's key, when the update names one.
+    const std::optional<QString> chatID = chatIDIn(object);
+    if (type == "updateNewChat"_L1) {
+        addOrUpdateChat(object.value("chat"_L1).toObject());
+    } else if (type == "chat"_L1) {
+        addOrUpdateChat(object);
+    } else if (type == "chats"_L1) {
+        for (const QJsonValue &id : object.value("chat_ids"_L1).toArray()) {
+            if (const auto chat = int64From(id))
+                requestChat(*chat);
+        }
+    } else if (type == "updateChatPosition"_L1) {
+        if (!chatID)
+            return true;
+        updatePositions(*chatID, QJsonArray{object.value("position"_L1)}, false);
+        if (!m_knownChats.contains(*chatID) && hasListPosition(*chatID))
+            requestChat(chatID->toLongLong());
+        sortChats();
+    } else if (type == "updateChatLastMessage"_L1) {
+        if (chatID)
+            updateChatLastMessage(*chatID, object.value("last_message"_L1), object.value("positions"_L1));
+    } else if (type == "updateChatDraftMessage"_L1) {
+        if (!chatID)
+            return true;
+        const QString draft = draftText(object.value("draft_message"_L1));
+        updateChat(*chatID, [&draft](Chat &chat) { chat.draftText = draft; });
+        updatePositions(*chatID, object.value("positions"_L1), true);
+        sortChats();
+    } else if (type == "updateChatTitle"_L1) {
+        const QJsonValue title = object.value("title"_L1);
+        if (chatID && title.isString())
+            updateChat(*chatID, [&title](Chat &chat) { chat.title = title.toString(); });
+    } else if (type == "updateChatUnreadCount"_L1) {
+        const qint64 unread = integerFrom(object.value("unread_count"_L1)).value_or(0);
+        if (chatID)
+            updateChat(*chatID, [unread](Chat &chat) { chat.unreadCount = unread; });
+    } else if (type == "updateChatIsMarkedAsUnread"_L1) {
+        const bool marked = object.value("is_marked_as_unread"_L1).toBool();
+        if (chatID)
+            updateChat(*chatID, [marked](Chat &chat) { chat.isMarkedUnread = marked; });
+    } else if (type == "updateChatNotificationSettings"_L1) {
+        if (chatID)
+            applyNotificationSettings(object.value("notification_settings"_L1).toObject(), *chatID);
+    } else if (type == "updateChatReadInbox"_L1) {
+        handleReadInbox(object);
+    } else if (type == "updateChatReadOutbox"_L1) {
+        handleReadOutbox(object);
+    } else if (type == "messages"_L1) {
+        storeMessages(object.value("messages"_L1).toArray(), object.value("@extra"_L1).toObject());
+    } else if (type == "message"_L1) {
+        storeNewMessage(object);
+    } else if (type == "updateNewMessage"_L1) {
+        handleNewMessage(object.value("message"_L1).toObject());
+    } else if (type == "updateMessageSendSucceeded"_L1) {
+        const TdObject message = object.value("message"_L1).toObject();
+        if (const auto oldID = int64From(object.value("old_message_id"_L1)))
+            removeMessage(*oldID, int64From(message.value("chat_id"_L1)));
+        storeNewMessage(message);
+    } else if (type == "updateMessageContent"_L1) {
+        updateMessageField(object, u"content"_s, object.value("new_content"_L1));
+    } else if (type == "updateMessageInteractionInfo"_L1) {
+        updateMessageField(object, u"interaction_info"_s, object.value("interaction_info"_L1));
+    } else if (type == "updateDeleteMessages"_L1) {
+        if (object.value("from_cache"_L1).toBool())
+            return true;
+        const std::optional<qint64> chat = int64From(object.value("chat_id"_L1));
+        for (const QJsonValue &id : object.value("message_ids"_L1).toArray()) {
+            if (const auto messageID = int64From(id))
+                removeMessage(*messageID, chat);
+        }
+    } else if (type == "updateUser"_L1) {
+        storeUser(object.value("user"_L1).toObject());
+    } else if (type == "user"_L1) {
+        storeUser(object);
+    } else if (type == "updateUserStatus"_L1) {
+        if (const auto userID = int64From(object.value("user_id"_L1)))
+            setUserOnline(*userID, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
+    } else if (type == "updateChatAction"_L1) {
+        updateTypingStatus(object);
+    } else if (type == "updateFile"_L1) {
+        applyDownloadedFile(object.value("file"_L1).toObject());
+    } else {
+        return false;
+    }
+    return true;
 }
 
-void TelegramSession::handleGenericError(const TdObject &error) {
+void TelegramSession::handleGenericError(const TdObject &error)
+{
     const QJsonValue message = error.value("message"_L1);
     const QString text = message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
     setErrorMessage(text);

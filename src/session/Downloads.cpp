@@ -13,19 +13,20 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The largest size of a photo that is downloaded or can be.
-TdObject largestPhotoFile(const QJsonArray &sizes) {
+TdObject largestPhotoFile(const QJsonArray &sizes)
+{
     std::optional<TdObject> best;
     qint64 bestArea = -1;
     for (const QJsonValue &value : sizes) {
         const TdObject size = value.toObject();
         const TdObject file = size.value("photo"_L1).toObject();
         const QJsonValue local = file.value("local"_L1);
-        const bool usable = completedPath(file) || !local.isObject() ||
-                            local.toObject().value("can_be_downloaded"_L1).toBool();
+        const bool usable =
+            completedPath(file) || !local.isObject() || local.toObject().value("can_be_downloaded"_L1).toBool();
         if (!usable)
             continue;
-        const qint64 area = integerFrom(size.value("width"_L1)).value_or(0) *
-                            integerFrom(size.value("height"_L1)).value_or(0);
+        const qint64 area =
+            integerFrom(size.value("width"_L1)).value_or(0) * integerFrom(size.value("height"_L1)).value_or(0);
         if (area > bestArea) {
             bestArea = area;
             best = file;
@@ -37,7 +38,8 @@ TdObject largestPhotoFile(const QJsonArray &sizes) {
 } // namespace
 
 std::pair<std::optional<QString>, std::optional<MessageMediaKind>>
-TelegramSession::prepareMessageMedia(const TdObject &content, const QString &chatID) {
+TelegramSession::prepareMessageMedia(const TdObject &content, const QString &chatID)
+{
     const QString type = typeOf(content);
     TdObject file;
     MessageMediaKind kind;
@@ -74,7 +76,8 @@ TelegramSession::prepareMessageMedia(const TdObject &content, const QString &cha
 }
 
 std::pair<std::optional<QString>, std::optional<QString>>
-TelegramSession::prepareMessageDocument(const TdObject &content, const QString &chatID) {
+TelegramSession::prepareMessageDocument(const TdObject &content, const QString &chatID)
+{
     const TdObject document = content.value("document"_L1).toObject();
     if (typeOf(content) != "messageDocument"_L1 || isImageDocument(document))
         return {};
@@ -91,7 +94,8 @@ TelegramSession::prepareMessageDocument(const TdObject &content, const QString &
     return {path, name};
 }
 
-std::optional<QString> TelegramSession::resolvedMediaPath(const TdObject &file, const QString &chatID) {
+std::optional<QString> TelegramSession::resolvedMediaPath(const TdObject &file, const QString &chatID)
+{
     const std::optional<qint64> fileID = int64From(file.value("id"_L1));
     if (!fileID)
         return completedPath(file);
@@ -108,15 +112,14 @@ std::optional<QString> TelegramSession::resolvedMediaPath(const TdObject &file, 
     return std::nullopt;
 }
 
-void TelegramSession::downloadFile(qint64 fileID) {
-    send(u"downloadFile"_s, {{"file_id"_L1, fileID},
-                             {"priority"_L1, 1},
-                             {"offset"_L1, 0},
-                             {"limit"_L1, 0},
-                             {"synchronous"_L1, false}});
+void TelegramSession::downloadFile(qint64 fileID)
+{
+    send(u"downloadFile"_s,
+         {{"file_id"_L1, fileID}, {"priority"_L1, 1}, {"offset"_L1, 0}, {"limit"_L1, 0}, {"synchronous"_L1, false}});
 }
 
-void TelegramSession::applyDownloadedFile(const TdObject &file) {
+void TelegramSession::applyDownloadedFile(const TdObject &file)
+{
     const std::optional<qint64> fileID = int64From(file.value("id"_L1));
     const std::optional<QString> path = completedPath(file);
     if (!fileID || !path)

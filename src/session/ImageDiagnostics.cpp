@@ -10,14 +10,16 @@ namespace {
 constexpr qsizetype maximumLinesPerChat = 200;
 }
 
-void TelegramSession::appendImageDiagnostic(const QString &chatID, const QString &line) {
+void TelegramSession::appendImageDiagnostic(const QString &chatID, const QString &line)
+{
     QStringList &lines = m_imageDiagnosticEvents[chatID];
     lines.append(line);
     if (lines.size() > maximumLinesPerChat)
         lines.removeFirst();
 }
 
-void TelegramSession::recordImageDiagnosticEvent(const TdObject &object) {
+void TelegramSession::recordImageDiagnosticEvent(const TdObject &object)
+{
     const QString type = typeOf(object);
     QJsonArray messages;
     if (type == "messages"_L1)
@@ -29,9 +31,9 @@ void TelegramSession::recordImageDiagnosticEvent(const TdObject &object) {
     if (type == "messages"_L1) {
         const TdObject extra = object.value("@extra"_L1).toObject();
         if (const auto chat = int64From(extra.value("chat_id"_L1))) {
-            appendImageDiagnostic(QString::number(*chat), u"history answer purpose=%1 count=%2"_s
-                                                              .arg(extra.value("purpose"_L1).toString())
-                                                              .arg(messages.size()));
+            appendImageDiagnostic(
+                QString::number(*chat),
+                u"history answer purpose=%1 count=%2"_s.arg(extra.value("purpose"_L1).toString()).arg(messages.size()));
         }
     }
     for (const QJsonValue &value : std::as_const(messages)) {
@@ -46,7 +48,6 @@ void TelegramSession::recordImageDiagnosticEvent(const TdObject &object) {
         const auto chat = int64From(message.value("chat_id"_L1));
         const auto id = int64From(message.value("id"_L1));
         if (chat && id)
-            appendImageDiagnostic(QString::number(*chat),
-                                  u"image message %1 (%2)"_s.arg(*id).arg(contentType));
+            appendImageDiagnostic(QString::number(*chat), u"image message %1 (%2)"_s.arg(*id).arg(contentType));
     }
 }

@@ -2,7 +2,8 @@
 
 #include <QStringList>
 
-QString initials(const QString &name) {
+QString initials(const QString &name)
+{
     const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
     QString letters;
     for (qsizetype i = 0; i < words.size() && i < 2; ++i) {

@@ -18,27 +18,32 @@ constexpr int maximumInitialAttempts = 14;
 constexpr int maximumViewedMessages = 100;
 constexpr int emptyAnswerRetryMs = 200;
 
-qint64 dateOf(const TdObject &message) {
+qint64 dateOf(const TdObject &message)
+{
     return integerFrom(message.value("date"_L1)).value_or(0);
 }
 
-qint64 idOf(const TdObject &message) {
+qint64 idOf(const TdObject &message)
+{
     return int64From(message.value("id"_L1)).value_or(0);
 }
 
-bool messageSortsBefore(const TdObject &a, const TdObject &b) {
+bool messageSortsBefore(const TdObject &a, const TdObject &b)
+{
     const qint64 dateA = dateOf(a);
     const qint64 dateB = dateOf(b);
     return dateA != dateB ? dateA < dateB : idOf(a) < idOf(b);
 }
 
-QString chatKey(const TdObject &message) {
+QString chatKey(const TdObject &message)
+{
     return QString::number(int64From(message.value("chat_id"_L1)).value_or(0));
 }
 
 } // namespace
 
-void TelegramSession::publishMessages(const QString &chatID) {
+void TelegramSession::publishMessages(const QString &chatID)
+{
     const auto stored = m_rawMessagesByChat.find(chatID);
     if (stored == m_rawMessagesByChat.end())
         return;
@@ -59,7 +64,8 @@ void TelegramSession::publishMessages(const QString &chatID) {
     Q_EMIT messagesChanged(chatID);
 }
 
-std::optional<Message> TelegramSession::makeMessage(const TdObject &raw) {
+std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
+{
     const std::optional<qint64> id = int64From(raw.value("id"_L1));
     if (!id)
         return std::nullopt;
@@ -68,17 +74,15 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw) {
     message.id = QString::number(*id);
     message.isOutgoing = raw.value("is_outgoing"_L1).toBool();
 
-    const std::optional<qint64> senderUserID =
-        int64From(raw.value("sender_id"_L1).toObject().value("user_id"_L1));
+    const std::optional<qint64> senderUserID = int64From(raw.value("sender_id"_L1).toObject().value("user_id"_L1));
     if (message.isOutgoing) {
         auto found = m_currentUserID ? m_telegramUsers.constFind(*m_currentUserID) : m_telegramUsers.cend();
         if (found == m_telegramUsers.cend() && senderUserID)
             found = m_telegramUsers.constFind(*senderUserID);
         const bool known = found != m_telegramUsers.cend();
-        message.sender = User{QUuid::createUuid(), u"You"_s, known ? found->initials : u"YO"_s,
-                              AvatarColor::Blue, known ? found->avatarPath : std::nullopt};
-    } else if (const auto sender =
-                   senderUserID ? m_telegramUsers.constFind(*senderUserID) : m_telegramUsers.cend();
+        message.sender = User{QUuid::createUuid(), u"You"_s, known ? found->initials : u"YO"_s, AvatarColor::Blue,
+                              known ? found->avatarPath : std::nullopt};
+    } else if (const auto sender = senderUserID ? m_telegramUsers.constFind(*senderUserID) : m_telegramUsers.cend();
                sender != m_telegramUsers.cend()) {
         message.sender = *sender;
     } else {
@@ -89,8 +93,8 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw) {
         if (raw.value("sending_state"_L1).isObject())
             message.deliveryState = MessageDeliveryState::Sending;
         else
-            message.deliveryState = m_lastReadOutbox.value(chatID, 0) < *id ? MessageDeliveryState::Sent
-                                                                            : MessageDeliveryState::Read;
+            message.deliveryState =
+                m_lastReadOutbox.value(chatID, 0) < *id ? MessageDeliveryState::Sent : MessageDeliveryState::Read;
         message.isUnread = false;
     } else {
         message.deliveryState = MessageDeliveryState::None;
@@ -112,7 +116,8 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw) {
     return message;
 }
 
-void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &extra) {
+void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &extra)
+{
     const QJsonValue purposeValue = extra.value("purpose"_L1);
     const QString purpose = purposeValue.isString() ? purposeValue.toString() : QString();
     if (purpose == "initial_local_history"_L1)
@@ -177,8 +182,8 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
     const bool goesOn = count < historyWindow && attempt <= maximumInitialAttempts &&
                         (count > previous || (count == 0 && attempt <= 2));
     if (goesOn && count > 0) {
-        requestInitialHistory(
-            *chat, *std::min_element(progress.messageIDs.cbegin(), progress.messageIDs.cend()), attempt + 1);
+        requestInitialHistory(*chat, *std::min_element(progress.messageIDs.cbegin(), progress.messageIDs.cend()),
+                              attempt + 1);
     } else if (goesOn) {
         // TDLib answers empty while it fills its cache: ask again shortly.
         QTimer::singleShot(emptyAnswerRetryMs, this, [this, chatID, chat = *chat, attempt] {
@@ -188,11 +193,14 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
     } else {
         m_loadingInitialHistory.remove(chatID);
         m_initialHistoryProgress.remove(chatID);
+        // A chat with no history still gets its (empty) list, so the view stops waiting.
+        m_rawMessagesByChat[chatID];
         publishMessages(chatID);
     }
 }
 
-void TelegramSession::loadMessages(const QString &chatID) {
+void TelegramSession::loadMessages(const QString &chatID)
+{
     const std::optional<qint64> chat = parseInt64(chatID);
     if (!chat || m_loadingInitialHistory.contains(chatID))
         return;
@@ -202,7 +210,8 @@ void TelegramSession::loadMessages(const QString &chatID) {
     requestInitialHistory(*chat, 0, 1);
 }
 
-void TelegramSession::requestInitialHistory(qint64 chatID, qint64 fromMessageID, int attempt) {
+void TelegramSession::requestInitialHistory(qint64 chatID, qint64 fromMessageID, int attempt)
+{
     const qsizetype held = m_initialHistoryProgress.value(QString::number(chatID)).messageIDs.size();
     // TDLib answers a page from a message with that message itself again.
     const qsizetype limit =
@@ -217,30 +226,30 @@ void TelegramSession::requestInitialHistory(qint64 chatID, qint64 fromMessageID,
            TdObject{{"purpose"_L1, u"initial_history"_s}, {"chat_id"_L1, chatID}, {"attempt"_L1, attempt}}}});
 }
 
-void TelegramSession::loadOlderMessages(const QString &chatID, const QString &messageID) {
+void TelegramSession::loadOlderMessages(const QString &chatID, const QString &messageID)
+{
     const std::optional<qint64> chat = parseInt64(chatID);
     const std::optional<qint64> message = parseInt64(messageID);
     if (!chat || !message || m_loadingOlderHistory.contains(chatID) || m_exhaustedHistory.contains(chatID))
         return;
     m_expandedHistory.insert(chatID);
     m_loadingOlderHistory.insert(chatID);
-    send(u"getChatHistory"_s,
-         {{"chat_id"_L1, *chat},
-          {"from_message_id"_L1, *message},
-          {"offset"_L1, 0},
-          {"limit"_L1, historyWindow},
-          {"only_local"_L1, false},
-          {"@extra"_L1, TdObject{{"purpose"_L1, u"older_history"_s}, {"chat_id"_L1, *chat}}}});
+    send(u"getChatHistory"_s, {{"chat_id"_L1, *chat},
+                               {"from_message_id"_L1, *message},
+                               {"offset"_L1, 0},
+                               {"limit"_L1, historyWindow},
+                               {"only_local"_L1, false},
+                               {"@extra"_L1, TdObject{{"purpose"_L1, u"older_history"_s}, {"chat_id"_L1, *chat}}}});
 }
 
-void TelegramSession::markMessagesRead(const QList<Message> &messages, const QString &chatID) {
+void TelegramSession::markMessagesRead(const QList<Message> &messages, const QString &chatID)
+{
     const std::optional<qint64> chat = parseInt64(chatID);
     if (!chat)
         return;
     QJsonArray identifiers;
     std::optional<qint64> newest;
-    for (qsizetype i = std::max<qsizetype>(0, messages.size() - maximumViewedMessages); i < messages.size();
-         ++i) {
+    for (qsizetype i = std::max<qsizetype>(0, messages.size() - maximumViewedMessages); i < messages.size(); ++i) {
         if (const auto id = parseInt64(messages.at(i).id)) {
             identifiers.append(*id);
             newest = *id;
@@ -261,7 +270,8 @@ void TelegramSession::markMessagesRead(const QList<Message> &messages, const QSt
                              {"force_read"_L1, true}});
 }
 
-void TelegramSession::storeNewMessage(const TdObject &message) {
+void TelegramSession::storeNewMessage(const TdObject &message)
+{
     const std::optional<qint64> chat = int64From(message.value("chat_id"_L1));
     if (!chat)
         return;
@@ -280,7 +290,8 @@ void TelegramSession::storeNewMessage(const TdObject &message) {
     publishMessages(chatID);
 }
 
-void TelegramSession::removeMessage(qint64 messageID, std::optional<qint64> chat) {
+void TelegramSession::removeMessage(qint64 messageID, std::optional<qint64> chat)
+{
     if (!chat)
         return;
     const QString chatID = QString::number(*chat);
@@ -290,8 +301,8 @@ void TelegramSession::removeMessage(qint64 messageID, std::optional<qint64> chat
     publishMessages(chatID);
 }
 
-void TelegramSession::updateMessageField(const TdObject &update, const QString &field,
-                                         const QJsonValue &value) {
+void TelegramSession::updateMessageField(const TdObject &update, const QString &field, const QJsonValue &value)
+{
     const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
     const std::optional<qint64> messageID = int64From(update.value("message_id"_L1));
     if (!chat || !messageID)
@@ -312,7 +323,8 @@ void TelegramSession::updateMessageField(const TdObject &update, const QString &
     }
 }
 
-void TelegramSession::handleNewMessage(const TdObject &message) {
+void TelegramSession::handleNewMessage(const TdObject &message)
+{
     if (const auto chat = int64From(message.value("chat_id"_L1))) {
         const QString chatID = QString::number(*chat);
         // A new message brings a deleted chat back.
@@ -324,7 +336,8 @@ void TelegramSession::handleNewMessage(const TdObject &message) {
     storeNewMessage(message);
 }
 
-void TelegramSession::handleReadInbox(const TdObject &update) {
+void TelegramSession::handleReadInbox(const TdObject &update)
+{
     const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
     if (!chat)
         return;
@@ -336,7 +349,8 @@ void TelegramSession::handleReadInbox(const TdObject &update) {
     publishMessages(chatID);
 }
 
-void TelegramSession::handleReadOutbox(const TdObject &update) {
+void TelegramSession::handleReadOutbox(const TdObject &update)
+{
     const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
     if (!chat)
         return;

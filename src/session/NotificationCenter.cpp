@@ -1,10 +1,12 @@
 #include "session/NotificationCenter.h"
 
-NotificationCenter &NotificationCenter::defaultCenter() {
+NotificationCenter &NotificationCenter::defaultCenter()
+{
     static NotificationCenter center;
     return center;
 }
 
-void NotificationCenter::post(const QString &name, const QVariant &object) {
+void NotificationCenter::post(const QString &name, const QVariant &object)
+{
     Q_EMIT posted(name, object);
 }

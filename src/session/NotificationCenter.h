@@ -13,7 +13,8 @@ inline constexpr auto filePanelDidFinish = "VostFilePanelDidFinish";
 inline constexpr auto commandClick = "VostCommandClick";
 } // namespace NotificationName
 
-class NotificationCenter : public QObject {
+class NotificationCenter : public QObject
+{
     Q_OBJECT
 
 public:
@@ -23,7 +24,8 @@ public:
 
     // Calls the observer, in the context's thread and lifetime, for each post of name.
     template<typename Context, typename Observer>
-    QMetaObject::Connection observe(const QString &name, Context *context, Observer observer) {
+    QMetaObject::Connection observe(const QString &name, Context *context, Observer observer)
+    {
         return connect(this, &NotificationCenter::posted, context,
                        [name, observer](const QString &postedName, const QVariant &object) {
                            if (postedName == name)

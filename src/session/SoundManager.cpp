@@ -6,7 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
-std::optional<SoundPack> soundPackFromRawValue(const QString &value) {
+std::optional<SoundPack> soundPackFromRawValue(const QString &value)
+{
     for (SoundPack pack : {SoundPack::Crystal, SoundPack::Gentle, SoundPack::Classic, SoundPack::Playful}) {
         if (rawValue(pack) == value)
             return pack;
@@ -14,7 +15,8 @@ std::optional<SoundPack> soundPackFromRawValue(const QString &value) {
     return std::nullopt;
 }
 
-QString rawValue(SoundPack pack) {
+QString rawValue(SoundPack pack)
+{
     switch (pack) {
     case SoundPack::Crystal:
         return u"crystal"_s;
@@ -28,7 +30,8 @@ QString rawValue(SoundPack pack) {
     return {};
 }
 
-QString soundName(SoundPack pack, SoundEvent event) {
+QString soundName(SoundPack pack, SoundEvent event)
+{
     using Row = std::array<const char *, 5>;
     static constexpr std::array<Row, 4> table = {{
         {"Tink", "Glass", "Ping", "Hero", "Basso"},
@@ -39,12 +42,14 @@ QString soundName(SoundPack pack, SoundEvent event) {
     return QString::fromLatin1(table[static_cast<size_t>(pack)][static_cast<size_t>(event)]);
 }
 
-SoundManager &SoundManager::shared() {
+SoundManager &SoundManager::shared()
+{
     static SoundManager manager;
     return manager;
 }
 
-bool SoundManager::isEnabled() const {
+bool SoundManager::isEnabled() const
+{
     const QVariant stored = UserDefaults::value(u"soundsEnabled"_s);
     // Only a stored boolean false turns sounds off. The settings file keeps booleans
     // as the words true and false, so those words count as booleans.
@@ -53,15 +58,15 @@ bool SoundManager::isEnabled() const {
     return stored.typeId() != QMetaType::QString || stored.toString() != "false"_L1;
 }
 
-void SoundManager::play(SoundEvent event, std::optional<SoundPack> previewPack) const {
+void SoundManager::play(SoundEvent event, std::optional<SoundPack> previewPack) const
+{
     SoundPack pack = SoundPack::Crystal;
     if (previewPack) {
         pack = *previewPack;
     } else {
         if (!isEnabled())
             return;
-        pack = soundPackFromRawValue(UserDefaults::value(u"soundPack"_s).toString())
-                   .value_or(SoundPack::Crystal);
+        pack = soundPackFromRawValue(UserDefaults::value(u"soundPack"_s).toString()).value_or(SoundPack::Crystal);
     }
     if (m_player)
         m_player->play(soundName(pack, event));

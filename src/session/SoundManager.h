@@ -17,7 +17,8 @@ QString soundName(SoundPack pack, SoundEvent event);
 
 // Chooses the sound for an event from the user's pack and plays it, unless the user
 // turned sounds off. Previews name their pack and always sound.
-class SoundManager {
+class SoundManager
+{
 public:
     static SoundManager &shared();
 

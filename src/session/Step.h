@@ -5,7 +5,8 @@
 
 // Where the session stands in TDLib's authorization: one case, with the password
 // hint or the text of an unavailable session as its payload.
-class Step {
+class Step
+{
     Q_GADGET
     Q_PROPERTY(Case kind READ kind CONSTANT)
     Q_PROPERTY(QString hint READ hint CONSTANT)
@@ -33,7 +34,8 @@ public:
 private:
     explicit Step(Case kind, QString payload = {})
         : m_kind(kind)
-        , m_payload(std::move(payload)) {}
+        , m_payload(std::move(payload))
+    {}
 
     Case m_kind = Case::Idle;
     QString m_payload;

@@ -2,7 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
-Message EmptyTelegramService::makeOutgoingMessage(const QString &text) const {
+Message EmptyTelegramService::makeOutgoingMessage(const QString &text) const
+{
     Message message;
     message.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     message.sender = User{QUuid::createUuid(), u"You"_s, u"YO"_s, AvatarColor::Blue, std::nullopt};

@@ -25,34 +25,40 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_bundle(AppBundle::main())
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
-    , m_startupStatus(u"Waiting to start"_s) {}
+    , m_startupStatus(u"Waiting to start"_s)
+{}
 
-TelegramSession::~TelegramSession() {
+TelegramSession::~TelegramSession()
+{
     shutDown();
 }
 
-void TelegramSession::setStep(const Step &step) {
+void TelegramSession::setStep(const Step &step)
+{
     if (m_step == step)
         return;
     m_step = step;
     Q_EMIT stepChanged();
 }
 
-void TelegramSession::setErrorMessage(const std::optional<QString> &message) {
+void TelegramSession::setErrorMessage(const std::optional<QString> &message)
+{
     if (m_errorMessage == message)
         return;
     m_errorMessage = message;
     Q_EMIT errorMessageChanged();
 }
 
-void TelegramSession::setStartupStatus(const QString &status) {
+void TelegramSession::setStartupStatus(const QString &status)
+{
     if (m_startupStatus == status)
         return;
     m_startupStatus = status;
     Q_EMIT startupStatusChanged();
 }
 
-void TelegramSession::setCurrentAccount(const QString &name, const QString &phoneNumber) {
+void TelegramSession::setCurrentAccount(const QString &name, const QString &phoneNumber)
+{
     if (m_currentAccountName != name) {
         m_currentAccountName = name;
         Q_EMIT currentAccountNameChanged();
@@ -63,7 +69,17 @@ void TelegramSession::setCurrentAccount(const QString &name, const QString &phon
     }
 }
 
-void TelegramSession::send(const QString &type, const TdObject &fields) {
+void TelegramSession::send(const QString &type, const TdObject &fields)
+{
+    if (type == "getChatHistory"_L1) {
+        if (const auto chat = int64From(fields.value("chat_id"_L1))) {
+            appendImageDiagnostic(QString::number(*chat),
+                                  u"request history from=%1 limit=%2 local=%3"_s
+                                      .arg(int64From(fields.value("from_message_id"_L1)).value_or(0))
+                                      .arg(integerFrom(fields.value("limit"_L1)).value_or(0))
+                                      .arg(fields.value("only_local"_L1).toBool() ? "true"_L1 : "false"_L1));
+        }
+    }
     if (m_requestSender) {
         m_requestSender(type, fields);
         return;
@@ -75,13 +91,15 @@ void TelegramSession::send(const QString &type, const TdObject &fields) {
     m_runtime->send(*m_clientID, QJsonDocument(request).toJson(QJsonDocument::Compact));
 }
 
-void TelegramSession::startClient() {
+void TelegramSession::startClient()
+{
     m_clientID = m_runtime->createClientID();
     // The first request a new client receives; its answer needs no handling.
     m_runtime->send(*m_clientID, R"({"@type":"getOption","name":"version"})"_ba);
 }
 
-void TelegramSession::handleResponse(const QString &json) {
+void TelegramSession::handleResponse(const QString &json)
+{
     // A lone surrogate cannot be written as UTF-8 without loss.
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(json);
@@ -92,12 +110,12 @@ void TelegramSession::handleResponse(const QString &json) {
     handleResponse(bytes);
 }
 
-void TelegramSession::handleResponse(const QByteArray &json) {
+void TelegramSession::handleResponse(const QByteArray &json)
+{
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     [[maybe_unused]] const QString validated = decoder(json);
     QJsonParseError parseError;
-    const QJsonDocument document =
-        decoder.hasError() ? QJsonDocument() : QJsonDocument::fromJson(json, &parseError);
+    const QJsonDocument document = decoder.hasError() ? QJsonDocument() : QJsonDocument::fromJson(json, &parseError);
     if (decoder.hasError() || parseError.error != QJsonParseError::NoError || !document.isObject()) {
         setStartupStatus(u"TDLib returned an unreadable response."_s);
         return;
@@ -108,7 +126,8 @@ void TelegramSession::handleResponse(const QByteArray &json) {
     handle(object);
 }
 
-void TelegramSession::shutDown() {
+void TelegramSession::shutDown()
+{
     if (!m_receiveLoop)
         return;
     if (m_runtime && m_clientID && m_receiveLoop->isRunning() && QCoreApplication::instance()) {

@@ -25,15 +25,15 @@ class TDLibRuntime;
 // authorization, folds every TDLib answer and update into the published state the
 // views observe, and turns each user action into one TDLib request. It lives on
 // the main thread; TDLib's events reach it through handleResponse, one at a time.
-class TelegramSession : public QObject {
+class TelegramSession : public QObject
+{
     Q_OBJECT
     Q_PROPERTY(Step step READ step NOTIFY stepChanged)
     Q_PROPERTY(bool isReady READ isReady NOTIFY stepChanged)
     Q_PROPERTY(QString errorMessage READ errorMessageText NOTIFY errorMessageChanged)
     Q_PROPERTY(QString startupStatus READ startupStatus NOTIFY startupStatusChanged)
     Q_PROPERTY(QString currentAccountName READ currentAccountName NOTIFY currentAccountNameChanged)
-    Q_PROPERTY(QString currentAccountPhoneNumber READ currentAccountPhoneNumber NOTIFY
-                   currentAccountPhoneNumberChanged)
+    Q_PROPERTY(QString currentAccountPhoneNumber READ currentAccountPhoneNumber NOTIFY currentAccountPhoneNumberChanged)
 
 public:
     // When set, every request goes to the sender instead of TDLib: the type and
@@ -64,9 +64,7 @@ public:
     const QHash<QString, QList<Message>> &messagesByChat() const { return m_messagesByChat; }
     // The per-chat record of history requests and image messages, for diagnosing
     // pictures that do not show.
-    QStringList imageDiagnostics(const QString &chatID) const {
-        return m_imageDiagnosticEvents.value(chatID);
-    }
+    QStringList imageDiagnostics(const QString &chatID) const { return m_imageDiagnosticEvents.value(chatID); }
 
     // Authorization
     Q_INVOKABLE void start(qint64 apiID, const QString &apiHash);
@@ -148,8 +146,8 @@ private:
     void handleReadOutbox(const TdObject &update);
 
     // Content and downloads
-    std::pair<std::optional<QString>, std::optional<MessageMediaKind>>
-    prepareMessageMedia(const TdObject &content, const QString &chatID);
+    std::pair<std::optional<QString>, std::optional<MessageMediaKind>> prepareMessageMedia(const TdObject &content,
+                                                                                           const QString &chatID);
     std::pair<std::optional<QString>, std::optional<QString>> prepareMessageDocument(const TdObject &content,
                                                                                      const QString &chatID);
     std::optional<QString> resolvedMediaPath(const TdObject &file, const QString &chatID);
@@ -163,8 +161,7 @@ private:
     QString presenceSubtitle(const QString &chatID, const QString &fallback) const;
     void updateTypingStatus(const TdObject &update);
     void setUserOnline(qint64 userID, bool online);
-    std::optional<QString> prepareAvatar(const QJsonValue &photo,
-                                         const std::function<void(qint64)> &recordOwner);
+    std::optional<QString> prepareAvatar(const QJsonValue &photo, const std::function<void(qint64)> &recordOwner);
     std::optional<QString> prepareChatAvatar(const QJsonValue &photo, const QString &chatID);
     std::optional<QString> prepareUserAvatar(const QJsonValue &photo, qint64 userID);
     void republishChatsWithMessages();
@@ -206,7 +203,8 @@ private:
     struct ChatSortKey {
         qint64 order;
         qint64 id;
-        bool operator<(const ChatSortKey &other) const {
+        bool operator<(const ChatSortKey &other) const
+        {
             return order != other.order ? order > other.order : id > other.id;
         }
     };

@@ -6,7 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
-void TelegramSession::storeUser(const TdObject &object) {
+void TelegramSession::storeUser(const TdObject &object)
+{
     const std::optional<qint64> id = int64From(object.value("id"_L1));
     if (!id)
         return;
@@ -29,13 +30,13 @@ void TelegramSession::storeUser(const TdObject &object) {
         if (const auto stored = m_telegramUsers.constFind(*id); stored != m_telegramUsers.cend())
             avatarPath = stored->avatarPath;
     }
-    m_telegramUsers.insert(*id,
-                           User{QUuid::createUuid(), name, initials(name), AvatarColor::Teal, avatarPath});
+    m_telegramUsers.insert(*id, User{QUuid::createUuid(), name, initials(name), AvatarColor::Teal, avatarPath});
     setUserOnline(*id, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
     republishChatsWithMessages();
 }
 
-void TelegramSession::setUserOnline(qint64 userID, bool online) {
+void TelegramSession::setUserOnline(qint64 userID, bool online)
+{
     if (online)
         m_onlineUsers.insert(userID);
     else
@@ -43,12 +44,14 @@ void TelegramSession::setUserOnline(qint64 userID, bool online) {
     refreshPresence(userID);
 }
 
-void TelegramSession::republishChatsWithMessages() {
+void TelegramSession::republishChatsWithMessages()
+{
     for (auto it = m_rawMessagesByChat.keyBegin(); it != m_rawMessagesByChat.keyEnd(); ++it)
         publishMessages(*it);
 }
 
-void TelegramSession::requestMissingUsers(const QList<TdObject> &messages) {
+void TelegramSession::requestMissingUsers(const QList<TdObject> &messages)
+{
     for (const TdObject &message : messages) {
         const TdObject sender = message.value("sender_id"_L1).toObject();
         if (typeOf(sender) != "messageSenderUser"_L1)
@@ -61,23 +64,25 @@ void TelegramSession::requestMissingUsers(const QList<TdObject> &messages) {
     }
 }
 
-QString TelegramSession::presenceSubtitle(const QString &chatID, const QString &fallback) const {
+QString TelegramSession::presenceSubtitle(const QString &chatID, const QString &fallback) const
+{
     const auto userID = m_privateChatUsers.constFind(chatID);
     if (userID != m_privateChatUsers.cend() && m_onlineUsers.contains(*userID))
         return u"Online"_s;
     return fallback;
 }
 
-void TelegramSession::refreshPresence(qint64 userID) {
+void TelegramSession::refreshPresence(qint64 userID)
+{
     const bool online = m_onlineUsers.contains(userID);
     for (const QString &chatID : m_privateChatsByUser.value(userID)) {
-        const QString subtitle =
-            online ? u"Online"_s : m_baseChatSubtitles.value(chatID, u"Private conversation"_s);
+        const QString subtitle = online ? u"Online"_s : m_baseChatSubtitles.value(chatID, u"Private conversation"_s);
         updateChat(chatID, [&subtitle](Chat &chat) { chat.subtitle = subtitle; });
     }
 }
 
-void TelegramSession::updateTypingStatus(const TdObject &update) {
+void TelegramSession::updateTypingStatus(const TdObject &update)
+{
     const std::optional<qint64> chat = int64From(update.value("chat_id"_L1));
     if (!chat)
         return;
@@ -101,7 +106,8 @@ void TelegramSession::updateTypingStatus(const TdObject &update) {
 }
 
 std::optional<QString> TelegramSession::prepareAvatar(const QJsonValue &photo,
-                                                      const std::function<void(qint64)> &recordOwner) {
+                                                      const std::function<void(qint64)> &recordOwner)
+{
     const TdObject file = photo.toObject().value("small"_L1).toObject();
     if (const auto path = completedPath(file))
         return path;
@@ -112,11 +118,12 @@ std::optional<QString> TelegramSession::prepareAvatar(const QJsonValue &photo,
     return std::nullopt;
 }
 
-std::optional<QString> TelegramSession::prepareChatAvatar(const QJsonValue &photo, const QString &chatID) {
-    return prepareAvatar(photo,
-                         [this, &chatID](qint64 fileID) { m_chatAvatarOwners.insert(fileID, chatID); });
+std::optional<QString> TelegramSession::prepareChatAvatar(const QJsonValue &photo, const QString &chatID)
+{
+    return prepareAvatar(photo, [this, &chatID](qint64 fileID) { m_chatAvatarOwners.insert(fileID, chatID); });
 }
 
-std::optional<QString> TelegramSession::prepareUserAvatar(const QJsonValue &photo, qint64 userID) {
+std::optional<QString> TelegramSession::prepareUserAvatar(const QJsonValue &photo, qint64 userID)
+{
     return prepareAvatar(photo, [this, userID](qint64 fileID) { m_userAvatarOwners.insert(fileID, userID); });
 }

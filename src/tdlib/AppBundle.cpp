@@ -10,28 +10,34 @@
 using namespace Qt::StringLiterals;
 
 AppBundle::AppBundle(QString rootPath)
-    : m_rootPath(QDir::cleanPath(std::move(rootPath))) {}
+    : m_rootPath(QDir::cleanPath(std::move(rootPath)))
+{}
 
-AppBundle AppBundle::main() {
+AppBundle AppBundle::main()
+{
     return AppBundle(QCoreApplication::applicationDirPath() + "/.."_L1);
 }
 
-std::optional<QString> AppBundle::privateLibraryFolder() const {
+std::optional<QString> AppBundle::privateLibraryFolder() const
+{
     const QString folder = m_rootPath + "/lib/vost"_L1;
     if (!QFileInfo(folder).isDir())
         return std::nullopt;
     return folder;
 }
 
-QString AppBundle::resourceFolder() const {
+QString AppBundle::resourceFolder() const
+{
     return m_rootPath + "/share/vost"_L1;
 }
 
-QString AppBundle::resourcePath(const QString &relativePath) const {
+QString AppBundle::resourcePath(const QString &relativePath) const
+{
     return resourceFolder() + u'/' + relativePath;
 }
 
-QVariantMap AppBundle::infoDictionary() const {
+QVariantMap AppBundle::infoDictionary() const
+{
     QFile file(resourcePath(u"Info.json"_s));
     if (!file.open(QIODevice::ReadOnly))
         return {};

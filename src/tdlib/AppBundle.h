@@ -7,7 +7,8 @@
 
 // The folder the application is installed in (or built in: the build tree has the
 // same shape): bin/vost, lib/vost/ for private libraries, share/vost/ for resources.
-class AppBundle {
+class AppBundle
+{
 public:
     explicit AppBundle(QString rootPath);
 

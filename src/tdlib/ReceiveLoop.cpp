@@ -15,13 +15,16 @@ constexpr double receiveTimeoutSeconds = 1.0;
 ReceiveLoop::ReceiveLoop(std::shared_ptr<const TDLibRuntime> runtime, QObject *receiver, Handler handler)
     : m_runtime(std::move(runtime))
     , m_receiver(receiver)
-    , m_handler(std::move(handler)) {}
+    , m_handler(std::move(handler))
+{}
 
-ReceiveLoop::~ReceiveLoop() {
+ReceiveLoop::~ReceiveLoop()
+{
     stop();
 }
 
-void ReceiveLoop::start() {
+void ReceiveLoop::start()
+{
     if (m_thread)
         return;
     m_thread = QThread::create([this] { run(); });
@@ -29,11 +32,13 @@ void ReceiveLoop::start() {
     m_thread->start(QThread::HighPriority);
 }
 
-bool ReceiveLoop::isRunning() const {
+bool ReceiveLoop::isRunning() const
+{
     return m_thread && m_thread->isRunning();
 }
 
-void ReceiveLoop::stop() {
+void ReceiveLoop::stop()
+{
     if (!m_thread)
         return;
     m_stopRequested = true;
@@ -45,7 +50,8 @@ void ReceiveLoop::stop() {
     m_thread = nullptr;
 }
 
-void ReceiveLoop::run() {
+void ReceiveLoop::run()
+{
     while (!m_stopRequested) {
         const char *received = m_runtime->receive(receiveTimeoutSeconds);
         if (!received)
@@ -59,7 +65,8 @@ void ReceiveLoop::run() {
     }
 }
 
-void ReceiveLoop::deliver(const QByteArray &event) {
+void ReceiveLoop::deliver(const QByteArray &event)
+{
     if (m_receiver && !m_stopRequested)
         m_handler(event);
 }

@@ -14,7 +14,8 @@ class TDLibRuntime;
 // Pulls TDLib's answers and updates on a background thread and hands each one to
 // the receiver's thread, waiting until it has been handled, so events are handled
 // one at a time and in TDLib's order.
-class ReceiveLoop : public QObject {
+class ReceiveLoop : public QObject
+{
     Q_OBJECT
 
 public:

@@ -6,7 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
-QString TDLibRuntime::RuntimeError::errorDescription() const {
+QString TDLibRuntime::RuntimeError::errorDescription() const
+{
     switch (m_kind) {
     case Kind::LibraryNotBundled:
         if (m_payload.isEmpty())
@@ -28,7 +29,8 @@ struct TDLibRuntime::Symbols {
 
 namespace {
 
-template<typename Function> Function resolve(void *handle, const char *name) {
+template<typename Function> Function resolve(void *handle, const char *name)
+{
     // dlsym returns an object pointer; POSIX guarantees it converts to a function pointer.
     Function function = reinterpret_cast<Function>(dlsym(handle, name));
     if (!function)
@@ -38,7 +40,8 @@ template<typename Function> Function resolve(void *handle, const char *name) {
 
 } // namespace
 
-TDLibRuntime::Symbols TDLibRuntime::load(const AppBundle &bundle) {
+TDLibRuntime::Symbols TDLibRuntime::load(const AppBundle &bundle)
+{
     const std::optional<QString> folder = bundle.privateLibraryFolder();
     if (!folder)
         throw TDLibRuntime::RuntimeError::libraryNotBundled();
@@ -46,8 +49,7 @@ TDLibRuntime::Symbols TDLibRuntime::load(const AppBundle &bundle) {
     void *handle = dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);
     if (!handle) {
         const char *message = dlerror();
-        throw TDLibRuntime::RuntimeError::libraryNotBundled(message ? QString::fromLocal8Bit(message)
-                                                                    : QString());
+        throw TDLibRuntime::RuntimeError::libraryNotBundled(message ? QString::fromLocal8Bit(message) : QString());
     }
     // A missing symbol leaves the library open: the failure ends the session anyway.
     Symbols symbols;
@@ -60,20 +62,24 @@ TDLibRuntime::Symbols TDLibRuntime::load(const AppBundle &bundle) {
 }
 
 TDLibRuntime::TDLibRuntime(const AppBundle &bundle)
-    : TDLibRuntime(load(bundle)) {}
+    : TDLibRuntime(load(bundle))
+{}
 
 TDLibRuntime::TDLibRuntime(const Symbols &symbols)
     : createClientID(symbols.createClientID)
     , receive(symbols.receive)
     , execute(symbols.execute)
     , m_handle(symbols.handle)
-    , m_send(symbols.send) {}
+    , m_send(symbols.send)
+{}
 
-TDLibRuntime::~TDLibRuntime() {
+TDLibRuntime::~TDLibRuntime()
+{
     dlclose(m_handle);
 }
 
-QString TDLibRuntime::libraryFileName() {
+QString TDLibRuntime::libraryFileName()
+{
 #ifdef Q_OS_MACOS
     return u"libtdjson.dylib"_s;
 #else
@@ -81,7 +87,8 @@ QString TDLibRuntime::libraryFileName() {
 #endif
 }
 
-void TDLibRuntime::send(int clientID, const QByteArray &json) const {
+void TDLibRuntime::send(int clientID, const QByteArray &json) const
+{
     // QByteArray keeps its data NUL-terminated.
     m_send(clientID, json.constData());
 }

@@ -8,18 +8,21 @@
 // The one place that touches the TDLib JSON library. It is opened at run time from
 // the bundle's private library folder, never linked, and stays open for the life of
 // this object. Immutable after construction, so any thread may use it.
-class TDLibRuntime {
+class TDLibRuntime
+{
 public:
     using CreateClientIDFunction = int (*)();
     using SendFunction = void (*)(int, const char *);
     using ReceiveFunction = const char *(*)(double);
     using ExecuteFunction = const char *(*)(const char *);
 
-    class RuntimeError {
+    class RuntimeError
+    {
     public:
         enum class Kind { LibraryNotBundled, MissingFunction };
 
-        static RuntimeError libraryNotBundled(QString loaderMessage = {}) {
+        static RuntimeError libraryNotBundled(QString loaderMessage = {})
+        {
             return {Kind::LibraryNotBundled, std::move(loaderMessage)};
         }
         static RuntimeError missingFunction(QString name) { return {Kind::MissingFunction, std::move(name)}; }
@@ -31,7 +34,8 @@ public:
     private:
         RuntimeError(Kind kind, QString payload)
             : m_kind(kind)
-            , m_payload(std::move(payload)) {}
+            , m_payload(std::move(payload))
+        {}
         Kind m_kind;
         QString m_payload;
     };

@@ -2,7 +2,8 @@
 
 #include <limits>
 
-std::optional<qint64> parseInt64(QStringView text) {
+std::optional<qint64> parseInt64(QStringView text)
+{
     qsizetype position = 0;
     bool negative = false;
     if (!text.isEmpty() && (text.front() == u'+' || text.front() == u'-')) {
@@ -30,7 +31,8 @@ std::optional<qint64> parseInt64(QStringView text) {
     return -value;
 }
 
-std::optional<qint64> integerFrom(const QJsonValue &value) {
+std::optional<qint64> integerFrom(const QJsonValue &value)
+{
     if (!value.isDouble())
         return std::nullopt;
     // toInteger falls back to its argument for fractions and out-of-range values;
@@ -41,7 +43,8 @@ std::optional<qint64> integerFrom(const QJsonValue &value) {
     return first;
 }
 
-std::optional<qint64> int64From(const QJsonValue &value) {
+std::optional<qint64> int64From(const QJsonValue &value)
+{
     if (value.isString())
         return parseInt64(value.toString());
     return integerFrom(value);

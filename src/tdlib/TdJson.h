@@ -22,11 +22,13 @@ std::optional<qint64> int64From(const QJsonValue &value);
 // A JSON integer (not a string); TDLib's 32-bit fields.
 std::optional<qint64> integerFrom(const QJsonValue &value);
 
-inline QString typeOf(const QJsonObject &object) {
+inline QString typeOf(const QJsonObject &object)
+{
     return object.value(QLatin1StringView("@type")).toString();
 }
 
 // The "@type" of a nested object, empty when there is none.
-inline QString typeOf(const QJsonValue &value) {
+inline QString typeOf(const QJsonValue &value)
+{
     return value.toObject().value(QLatin1StringView("@type")).toString();
 }

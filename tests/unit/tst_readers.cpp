@@ -61,9 +61,10 @@ private Q_SLOTS:
     void tdlibValues()
     {
         // TDLib writes 64-bit values as strings and 32-bit ones as numbers.
-        const QJsonObject object = QJsonDocument::fromJson(
-            R"({"order":"9221294784512000005","id":123,"big":9007199254740993,"fraction":1.5,"flag":true,"text":"x"})")
-                                       .object();
+        const QJsonObject object =
+            QJsonDocument::fromJson(
+                R"({"order":"9221294784512000005","id":123,"big":9007199254740993,"fraction":1.5,"flag":true,"text":"x"})")
+                .object();
         QCOMPARE(int64From(object.value("order"_L1)), std::optional<qint64>(9221294784512000005LL));
         QCOMPARE(int64From(object.value("id"_L1)), std::optional<qint64>(123));
         QCOMPARE(int64From(object.value("big"_L1)), std::optional<qint64>(9007199254740993LL));

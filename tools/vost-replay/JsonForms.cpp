@@ -4,7 +4,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString caseName(Step::Case kind) {
+QString caseName(Step::Case kind)
+{
     switch (kind) {
     case Step::Case::Password:
         return u"password"_s;
@@ -24,7 +25,8 @@ QString caseName(Step::Case kind) {
     return {};
 }
 
-QString caseName(MessageDeliveryState state) {
+QString caseName(MessageDeliveryState state)
+{
     switch (state) {
     case MessageDeliveryState::None:
         return u"none"_s;
@@ -38,7 +40,8 @@ QString caseName(MessageDeliveryState state) {
     return {};
 }
 
-QString caseName(MessageMediaKind kind) {
+QString caseName(MessageMediaKind kind)
+{
     switch (kind) {
     case MessageMediaKind::Photo:
         return u"photo"_s;
@@ -56,7 +59,8 @@ QString caseName(MessageMediaKind kind) {
     return {};
 }
 
-QString caseName(StickerFormat format) {
+QString caseName(StickerFormat format)
+{
     switch (format) {
     case StickerFormat::Webp:
         return u"webp"_s;
@@ -70,7 +74,8 @@ QString caseName(StickerFormat format) {
 
 } // namespace
 
-QJsonValue toJson(const Step &step) {
+QJsonValue toJson(const Step &step)
+{
     QJsonObject object{{"case"_L1, caseName(step.kind())}};
     if (step.kind() == Step::Case::Password)
         object.insert("hint"_L1, step.hint());
@@ -79,7 +84,8 @@ QJsonValue toJson(const Step &step) {
     return object;
 }
 
-QJsonValue toJson(const User &user) {
+QJsonValue toJson(const User &user)
+{
     return QJsonObject{{"id"_L1, user.id.toString(QUuid::WithoutBraces)},
                        {"name"_L1, user.name},
                        {"initials"_L1, user.initials},
@@ -87,12 +93,13 @@ QJsonValue toJson(const User &user) {
                        {"avatarPath"_L1, optionalToJson(user.avatarPath)}};
 }
 
-QJsonValue toJson(const MessageReaction &reaction) {
-    return QJsonObject{
-        {"emoji"_L1, reaction.emoji}, {"count"_L1, reaction.count}, {"isChosen"_L1, reaction.isChosen}};
+QJsonValue toJson(const MessageReaction &reaction)
+{
+    return QJsonObject{{"emoji"_L1, reaction.emoji}, {"count"_L1, reaction.count}, {"isChosen"_L1, reaction.isChosen}};
 }
 
-QJsonValue toJson(const Message &message) {
+QJsonValue toJson(const Message &message)
+{
     return QJsonObject{
         {"id"_L1, message.id},
         {"sender"_L1, toJson(message.sender)},
@@ -113,7 +120,8 @@ QJsonValue toJson(const Message &message) {
     };
 }
 
-QJsonValue toJson(const Chat &chat) {
+QJsonValue toJson(const Chat &chat)
+{
     return QJsonObject{
         {"id"_L1, chat.id},
         {"title"_L1, chat.title},
@@ -133,7 +141,8 @@ QJsonValue toJson(const Chat &chat) {
     };
 }
 
-Message messageFromJson(const QJsonObject &object) {
+Message messageFromJson(const QJsonObject &object)
+{
     Message message;
     message.id = object.value("id"_L1).toVariant().toString();
     message.text = object.value("text"_L1).toString();
@@ -147,7 +156,8 @@ Message messageFromJson(const QJsonObject &object) {
     return message;
 }
 
-QList<Message> messagesFromJson(const QJsonArray &array) {
+QList<Message> messagesFromJson(const QJsonArray &array)
+{
     QList<Message> messages;
     for (const QJsonValue &value : array)
         messages.append(messageFromJson(value.toObject()));

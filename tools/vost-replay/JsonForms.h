@@ -12,7 +12,8 @@
 
 #include <optional>
 
-template<typename T> QJsonValue optionalToJson(const std::optional<T> &value) {
+template<typename T> QJsonValue optionalToJson(const std::optional<T> &value)
+{
     return value ? QJsonValue(*value) : QJsonValue(QJsonValue::Null);
 }
 
@@ -26,7 +27,8 @@ QJsonValue toJson(const MessageReaction &reaction);
 Message messageFromJson(const QJsonObject &object);
 QList<Message> messagesFromJson(const QJsonArray &array);
 
-template<typename T> QJsonArray toJsonArray(const QList<T> &values) {
+template<typename T> QJsonArray toJsonArray(const QList<T> &values)
+{
     QJsonArray array;
     for (const T &value : values)
         array.append(toJson(value));

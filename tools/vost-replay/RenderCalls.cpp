@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::optional<StickerFormat> stickerFormat(const QString &name) {
+std::optional<StickerFormat> stickerFormat(const QString &name)
+{
     if (name == "webp"_L1)
         return StickerFormat::Webp;
     if (name == "animated"_L1)
@@ -24,17 +25,18 @@ std::optional<StickerFormat> stickerFormat(const QString &name) {
     return std::nullopt;
 }
 
-QJsonValue previewToJson(const LinkPreviewMetadata &metadata) {
+QJsonValue previewToJson(const LinkPreviewMetadata &metadata)
+{
     QJsonValue image = QJsonValue::Null;
     if (metadata.hasImage())
         image = QJsonObject{{"width"_L1, metadata.image().width()}, {"height"_L1, metadata.image().height()}};
-    return QJsonObject{
-        {"title"_L1, metadata.title()}, {"siteName"_L1, metadata.siteName()}, {"image"_L1, image}};
+    return QJsonObject{{"title"_L1, metadata.title()}, {"siteName"_L1, metadata.siteName()}, {"image"_L1, image}};
 }
 
 } // namespace
 
-void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options) {
+void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options)
+{
     AppStoreConfiguration store;
     if (!options.appStoreHost.isEmpty())
         store.webHost = options.appStoreHost;

@@ -8,31 +8,38 @@ using namespace Qt::StringLiterals;
 
 ReplayDriver::ReplayDriver(FILE *output, QObject *parent)
     : QObject(parent)
-    , m_output(output) {}
+    , m_output(output)
+{}
 
-void ReplayDriver::addCall(const QString &name, Call call) {
+void ReplayDriver::addCall(const QString &name, Call call)
+{
     m_calls.insert(name, std::move(call));
 }
 
-void ReplayDriver::addState(const QString &name, StateReader reader) {
+void ReplayDriver::addState(const QString &name, StateReader reader)
+{
     m_states.insert(name, std::move(reader));
 }
 
-void ReplayDriver::addInput(const QString &key, InputHandler handler) {
+void ReplayDriver::addInput(const QString &key, InputHandler handler)
+{
     m_inputs.insert(key, std::move(handler));
 }
 
-void ReplayDriver::emitLine(const QJsonObject &line) {
+void ReplayDriver::emitLine(const QJsonObject &line)
+{
     const QByteArray text = QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
     std::fwrite(text.constData(), 1, size_t(text.size()), m_output);
     std::fflush(m_output);
 }
 
-void ReplayDriver::holdInput() {
+void ReplayDriver::holdInput()
+{
     ++m_holds;
 }
 
-void ReplayDriver::releaseInput() {
+void ReplayDriver::releaseInput()
+{
     if (m_holds == 0)
         return;
     --m_holds;
@@ -40,17 +47,20 @@ void ReplayDriver::releaseInput() {
     QTimer::singleShot(0, this, &ReplayDriver::processQueue);
 }
 
-void ReplayDriver::feed(const QByteArray &line) {
+void ReplayDriver::feed(const QByteArray &line)
+{
     m_pending.enqueue(line);
     processQueue();
 }
 
-void ReplayDriver::finishInput() {
+void ReplayDriver::finishInput()
+{
     m_inputEnded = true;
     processQueue();
 }
 
-void ReplayDriver::processQueue() {
+void ReplayDriver::processQueue()
+{
     while (m_holds == 0 && !m_pending.isEmpty())
         process(m_pending.dequeue());
     if (m_holds == 0 && m_pending.isEmpty() && m_inputEnded) {
@@ -59,7 +69,8 @@ void ReplayDriver::processQueue() {
     }
 }
 
-void ReplayDriver::process(const QByteArray &line) {
+void ReplayDriver::process(const QByteArray &line)
+{
     if (line.trimmed().isEmpty())
         return;
     QJsonParseError error;
@@ -85,8 +96,7 @@ void ReplayDriver::process(const QByteArray &line) {
         QTimer::singleShot(object.value("wait_ms"_L1).toInt(), this, &ReplayDriver::releaseInput);
     } else if (object.contains("echo"_L1)) {
         emitLine({{"echo"_L1, object.value("echo"_L1)}});
-    } else if (object.contains("expect"_L1) || object.contains("comment"_L1) ||
-               object.contains("options"_L1)) {
+    } else if (object.contains("expect"_L1) || object.contains("comment"_L1) || object.contains("options"_L1)) {
         // Expected output, notes and options for the test runner; nothing to do here.
     } else {
         for (auto it = object.begin(); it != object.end(); ++it) {
@@ -99,7 +109,8 @@ void ReplayDriver::process(const QByteArray &line) {
     }
 }
 
-void ReplayDriver::runCall(const QJsonObject &line) {
+void ReplayDriver::runCall(const QJsonObject &line)
+{
     const QString name = line.value("call"_L1).toString();
     const auto call = m_calls.constFind(name);
     if (call == m_calls.cend()) {
@@ -109,12 +120,12 @@ void ReplayDriver::runCall(const QJsonObject &line) {
     (*call)(line.value("args"_L1).toArray());
 }
 
-void ReplayDriver::printState(const QJsonArray &names) {
+void ReplayDriver::printState(const QJsonArray &names)
+{
     QJsonObject state;
     for (const QJsonValue &name : names) {
         const auto reader = m_states.constFind(name.toString());
-        state.insert(name.toString(),
-                     reader == m_states.cend() ? QJsonValue(u"unknown state"_s) : (*reader)());
+        state.insert(name.toString(), reader == m_states.cend() ? QJsonValue(u"unknown state"_s) : (*reader)());
     }
     emitLine({{"state"_L1, state}});
 }

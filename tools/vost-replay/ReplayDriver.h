@@ -12,7 +12,8 @@
 // Reads JSON Lines one at a time as they arrive, runs what each asks for, and
 // writes JSON Lines, flushed after every line. Calls and states are registered
 // by the modules that own them.
-class ReplayDriver : public QObject {
+class ReplayDriver : public QObject
+{
     Q_OBJECT
 
 public:

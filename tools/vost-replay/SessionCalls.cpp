@@ -11,15 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString stringArgument(const QJsonArray &args, qsizetype index) {
+QString stringArgument(const QJsonArray &args, qsizetype index)
+{
     return args.at(index).toString();
 }
 
 } // namespace
 
-void registerSessionCalls(ReplayDriver &driver, TelegramSession &session) {
-    driver.addInput(u"raw"_s,
-                    [&session](const QJsonValue &text) { session.handleResponse(text.toString()); });
+void registerSessionCalls(ReplayDriver &driver, TelegramSession &session)
+{
+    driver.addInput(u"raw"_s, [&session](const QJsonValue &text) { session.handleResponse(text.toString()); });
     driver.addInput(u"defaults"_s, [](const QJsonValue &values) {
         const QJsonObject object = values.toObject();
         for (auto it = object.begin(); it != object.end(); ++it)
@@ -29,16 +30,13 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session) {
     driver.addCall(u"start"_s, [&session](const QJsonArray &args) {
         session.start(args.at(0).toInteger(), stringArgument(args, 1));
     });
-    driver.addCall(u"submitPhoneNumber"_s, [&session](const QJsonArray &args) {
-        session.submitPhoneNumber(stringArgument(args, 0));
-    });
-    driver.addCall(u"submitVerificationCode"_s, [&session](const QJsonArray &args) {
-        session.submitVerificationCode(stringArgument(args, 0));
-    });
+    driver.addCall(u"submitPhoneNumber"_s,
+                   [&session](const QJsonArray &args) { session.submitPhoneNumber(stringArgument(args, 0)); });
+    driver.addCall(u"submitVerificationCode"_s,
+                   [&session](const QJsonArray &args) { session.submitVerificationCode(stringArgument(args, 0)); });
     driver.addCall(u"submitPassword"_s,
                    [&session](const QJsonArray &args) { session.submitPassword(stringArgument(args, 0)); });
-    driver.addCall(u"logOutAndChangeAccount"_s,
-                   [&session](const QJsonArray &) { session.logOutAndChangeAccount(); });
+    driver.addCall(u"logOutAndChangeAccount"_s, [&session](const QJsonArray &) { session.logOutAndChangeAccount(); });
     driver.addCall(u"requestChats"_s, [&session](const QJsonArray &) { session.requestChats(); });
     driver.addCall(u"refreshContacts"_s, [&session](const QJsonArray &) { session.refreshContacts(); });
     driver.addCall(u"loadMessages"_s,

@@ -24,10 +24,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Prints the name of each sound instead of playing it.
-class RecordingSoundPlayer : public SoundPlayer {
+class RecordingSoundPlayer : public SoundPlayer
+{
 public:
     explicit RecordingSoundPlayer(ReplayDriver &driver)
-        : m_driver(driver) {}
+        : m_driver(driver)
+    {}
     void play(const QString &name) override { m_driver.emitLine({{"sound"_L1, name}}); }
 
 private:
@@ -36,19 +38,20 @@ private:
 
 // Reads lines on a thread of its own, so a pipe that another program keeps writing
 // to is handled line by line as it arrives.
-void readLines(std::istream &input, ReplayDriver *driver) {
+void readLines(std::istream &input, ReplayDriver *driver)
+{
     std::string line;
     while (std::getline(input, line)) {
         QMetaObject::invokeMethod(
-            driver, [driver, text = QByteArray::fromStdString(line)] { driver->feed(text); },
-            Qt::QueuedConnection);
+            driver, [driver, text = QByteArray::fromStdString(line)] { driver->feed(text); }, Qt::QueuedConnection);
     }
     QMetaObject::invokeMethod(driver, &ReplayDriver::finishInput, Qt::QueuedConnection);
 }
 
 } // namespace
 
-int main(int argc, char *argv[]) {
+int main(int argc, char *argv[])
+{
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
@@ -60,10 +63,10 @@ int main(int argc, char *argv[]) {
     parser.addPositionalArgument(u"script"_s, u"A .jsonl file; standard input when absent."_s);
     const QCommandLineOption nowOption(u"now"_s, u"Fixes the clock at UNIX_SECONDS."_s, u"UNIX_SECONDS"_s);
     const QCommandLineOption bundleOption(u"bundle"_s, u"Loads TDLib from the bundle at DIR."_s, u"DIR"_s);
-    const QCommandLineOption appStoreHostOption(u"app-store-host"_s, u"The app store's web host."_s,
-                                                u"HOST"_s, u"apps.apple.com"_s);
-    const QCommandLineOption appStoreLookupOption(u"app-store-lookup"_s, u"The app store's lookup address."_s,
-                                                  u"URL"_s, u"https://itunes.apple.com/lookup?id="_s);
+    const QCommandLineOption appStoreHostOption(u"app-store-host"_s, u"The app store's web host."_s, u"HOST"_s,
+                                                u"apps.apple.com"_s);
+    const QCommandLineOption appStoreLookupOption(u"app-store-lookup"_s, u"The app store's lookup address."_s, u"URL"_s,
+                                                  u"https://itunes.apple.com/lookup?id="_s);
     parser.addOptions({nowOption, bundleOption, appStoreHostOption, appStoreLookupOption});
     parser.process(application);
 
@@ -82,8 +85,7 @@ int main(int argc, char *argv[]) {
         request.insert("@type"_L1, type);
         driver.emitLine({{"request"_L1, request}});
     });
-    session.setBundle(parser.isSet(bundleOption) ? std::optional(AppBundle(parser.value(bundleOption)))
-                                                 : std::nullopt);
+    session.setBundle(parser.isSet(bundleOption) ? std::optional(AppBundle(parser.value(bundleOption))) : std::nullopt);
     if (parser.isSet(nowOption)) {
         const QDateTime now = QDateTime::fromSecsSinceEpoch(parser.value(nowOption).toLongLong());
         session.setClock([now] { return now; });
@@ -91,9 +93,8 @@ int main(int argc, char *argv[]) {
 
     QObject::connect(&NotificationCenter::defaultCenter(), &NotificationCenter::posted, &driver,
                      [&driver](const QString &name, const QVariant &object) {
-                         driver.emitLine(
-                             {{"posted"_L1, QJsonObject{{"name"_L1, name},
-                                                        {"object"_L1, QJsonValue::fromVariant(object)}}}});
+                         driver.emitLine({{"posted"_L1, QJsonObject{{"name"_L1, name},
+                                                                    {"object"_L1, QJsonValue::fromVariant(object)}}}});
                      });
 
     registerSessionCalls(driver, session);
