@@ -16,17 +16,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-AppStoreConfiguration &configuration() {
+AppStoreConfiguration &configuration()
+{
     static AppStoreConfiguration value;
     return value;
 }
 
-QPointer<QNetworkAccessManager> &sharedManager() {
+QPointer<QNetworkAccessManager> &sharedManager()
+{
     static QPointer<QNetworkAccessManager> manager;
     return manager;
 }
 
-std::optional<QString> optionalString(const QJsonObject &object, const QString &key, bool &ok) {
+std::optional<QString> optionalString(const QJsonObject &object, const QString &key, bool &ok)
+{
     const QJsonValue value = object.value(key);
     if (value.isUndefined() || value.isNull())
         return std::nullopt;
@@ -36,22 +39,26 @@ std::optional<QString> optionalString(const QJsonObject &object, const QString &
 }
 
 // A reply the server answered (with any status) is no transport error.
-bool isTransportError(QNetworkReply *reply) {
+bool isTransportError(QNetworkReply *reply)
+{
     return reply->error() != QNetworkReply::NoError &&
            !reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
 }
 
-QUrl strictUrl(const QString &text) {
+QUrl strictUrl(const QString &text)
+{
     const QUrl url(text, QUrl::StrictMode);
     return url.isValid() && !url.isRelative() ? url : QUrl();
 }
 
-QString mimeType(QNetworkReply *reply) {
+QString mimeType(QNetworkReply *reply)
+{
     const QString header = reply->header(QNetworkRequest::ContentTypeHeader).toString();
     return header.section(u';', 0, 0).trimmed().toLower();
 }
 
-std::optional<QString> decodeBody(const QByteArray &body) {
+std::optional<QString> decodeBody(const QByteArray &body)
+{
     QStringDecoder utf8(QStringDecoder::Utf8);
     QString text = utf8.decode(body);
     if (!utf8.hasError())
@@ -65,7 +72,8 @@ std::optional<QString> decodeBody(const QByteArray &body) {
 
 } // namespace
 
-std::optional<AppStoreLookupResponse> decodeAppStoreLookup(const QByteArray &body) {
+std::optional<AppStoreLookupResponse> decodeAppStoreLookup(const QByteArray &body)
+{
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(body, &error);
     if (error.error != QJsonParseError::NoError || !document.isObject())
@@ -79,8 +87,7 @@ std::optional<AppStoreLookupResponse> decodeAppStoreLookup(const QByteArray &bod
         if (!item.isObject() || !object.value("trackName"_L1).isString())
             return std::nullopt;
         bool ok = true;
-        AppStoreResult result{object.value("trackName"_L1).toString(),
-                              optionalString(object, u"sellerName"_s, ok),
+        AppStoreResult result{object.value("trackName"_L1).toString(), optionalString(object, u"sellerName"_s, ok),
                               optionalString(object, u"artworkUrl100"_s, ok)};
         if (!ok)
             return std::nullopt;
@@ -89,7 +96,8 @@ std::optional<AppStoreLookupResponse> decodeAppStoreLookup(const QByteArray &bod
     return response;
 }
 
-HtmlPreviewFields parseHtmlPreviewFields(const QString &html, const QUrl &pageUrl) {
+HtmlPreviewFields parseHtmlPreviewFields(const QString &html, const QUrl &pageUrl)
+{
     static const QRegularExpression metaTag(uR"((?is)<meta\s+[^>]*>)"_s);
     static const QRegularExpression titleElement(uR"((?is)<title[^>]*>(.*?)</title>)"_s);
     static const QRegularExpression linkTag(uR"((?is)<link\s+[^>]*>)"_s);
@@ -146,13 +154,15 @@ HtmlPreviewFields parseHtmlPreviewFields(const QString &html, const QUrl &pageUr
 
 LinkPreviewMetadata::LinkPreviewMetadata(const QUrl &url, QObject *parent)
     : QObject(parent)
-    , m_url(url) {
+    , m_url(url)
+{
     const QString host = url.host(QUrl::PrettyDecoded);
     m_title = host.isEmpty() ? url.toString(QUrl::FullyEncoded) : host;
     m_siteName = m_title;
 }
 
-LinkPreviewMetadata::~LinkPreviewMetadata() {
+LinkPreviewMetadata::~LinkPreviewMetadata()
+{
     for (const QPointer<QNetworkReply> &reply : std::as_const(m_replies)) {
         if (!reply)
             continue;
@@ -162,26 +172,31 @@ LinkPreviewMetadata::~LinkPreviewMetadata() {
     }
 }
 
-AppStoreConfiguration LinkPreviewMetadata::appStoreConfiguration() {
+AppStoreConfiguration LinkPreviewMetadata::appStoreConfiguration()
+{
     return configuration();
 }
 
-void LinkPreviewMetadata::setAppStoreConfiguration(const AppStoreConfiguration &value) {
+void LinkPreviewMetadata::setAppStoreConfiguration(const AppStoreConfiguration &value)
+{
     configuration() = value;
 }
 
-QNetworkAccessManager *LinkPreviewMetadata::networkAccessManager() {
+QNetworkAccessManager *LinkPreviewMetadata::networkAccessManager()
+{
     QPointer<QNetworkAccessManager> &manager = sharedManager();
     if (!manager)
         manager = new QNetworkAccessManager(QCoreApplication::instance());
     return manager;
 }
 
-void LinkPreviewMetadata::setNetworkAccessManager(QNetworkAccessManager *manager) {
+void LinkPreviewMetadata::setNetworkAccessManager(QNetworkAccessManager *manager)
+{
     sharedManager() = manager;
 }
 
-void LinkPreviewMetadata::load() {
+void LinkPreviewMetadata::load()
+{
     if (m_hasLoaded)
         return;
     m_hasLoaded = true;
@@ -201,7 +216,8 @@ void LinkPreviewMetadata::load() {
     });
 }
 
-void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> completion) {
+void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> completion)
+{
     const AppStoreConfiguration store = configuration();
     const QString host = m_url.host();
     if (host.isEmpty() || store.webHost.isEmpty() || !host.endsWith(store.webHost))
@@ -232,7 +248,8 @@ void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> complet
     });
 }
 
-void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion) {
+void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion)
+{
     QNetworkRequest request(m_url);
     request.setTransferTimeout(pageTimeoutMilliseconds); // previews give up after 15 s
     request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
@@ -256,7 +273,8 @@ void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion) {
     });
 }
 
-void LinkPreviewMetadata::loadImage(const QUrl &from, std::function<void()> completion) {
+void LinkPreviewMetadata::loadImage(const QUrl &from, std::function<void()> completion)
+{
     QNetworkRequest request(from);
     request.setTransferTimeout(defaultTimeoutMilliseconds);
     fetch(request, [this, completion](QNetworkReply *reply) {
@@ -271,7 +289,8 @@ void LinkPreviewMetadata::loadImage(const QUrl &from, std::function<void()> comp
     });
 }
 
-std::optional<QString> LinkPreviewMetadata::attribute(const QString &name, const QString &tag) {
+std::optional<QString> LinkPreviewMetadata::attribute(const QString &name, const QString &tag)
+{
     const QRegularExpression expression(u"(?i)\\b"_s + QRegularExpression::escape(name) +
                                         uR"(\s*=\s*["']([^"']*)["'])"_s);
     const QRegularExpressionMatch match = expression.match(tag);
@@ -280,12 +299,13 @@ std::optional<QString> LinkPreviewMetadata::attribute(const QString &name, const
     return match.captured(1);
 }
 
-QString LinkPreviewMetadata::decodeHTMLEntities(const QString &text) {
+QString LinkPreviewMetadata::decodeHTMLEntities(const QString &text)
+{
     return QTextDocumentFragment::fromHtml(text).toPlainText();
 }
 
-void LinkPreviewMetadata::fetch(const QNetworkRequest &request,
-                                std::function<void(QNetworkReply *)> handler) {
+void LinkPreviewMetadata::fetch(const QNetworkRequest &request, std::function<void(QNetworkReply *)> handler)
+{
     QNetworkReply *reply = networkAccessManager()->get(request);
     m_replies.removeAll(nullptr);
     m_replies.append(reply);
@@ -296,14 +316,16 @@ void LinkPreviewMetadata::fetch(const QNetworkRequest &request,
     });
 }
 
-void LinkPreviewMetadata::setTitle(const QString &title) {
+void LinkPreviewMetadata::setTitle(const QString &title)
+{
     if (title == m_title)
         return;
     m_title = title;
     Q_EMIT titleChanged();
 }
 
-void LinkPreviewMetadata::setSiteName(const QString &siteName) {
+void LinkPreviewMetadata::setSiteName(const QString &siteName)
+{
     if (siteName == m_siteName)
         return;
     m_siteName = siteName;

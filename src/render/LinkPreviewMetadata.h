@@ -49,7 +49,8 @@ struct AppStoreConfiguration {
 // What a link preview card shows for one address: a title, a site name and a
 // thumbnail. Best effort: every failure leaves the values set so far (at least the
 // host name). Lives on the main thread; all property changes happen there.
-class LinkPreviewMetadata : public QObject {
+class LinkPreviewMetadata : public QObject
+{
     Q_OBJECT
     Q_PROPERTY(QUrl url READ url CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
@@ -80,8 +81,8 @@ public:
     static QNetworkAccessManager *networkAccessManager();
     static void setNetworkAccessManager(QNetworkAccessManager *manager);
 
-    static inline const QByteArray userAgent = QByteArrayLiteral(
-        "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 Safari/605.1.15");
+    static inline const QByteArray userAgent =
+        QByteArrayLiteral("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 Safari/605.1.15");
     static constexpr int pageTimeoutMilliseconds = 15'000;
     // The usual time-out of a URL loader's default request.
     static constexpr int defaultTimeoutMilliseconds = 60'000;

@@ -34,7 +34,8 @@ constexpr auto addressChars = uR"([^\s<>"«»“”‘’])";
 // One domain label: letters and digits of any script, inner hyphens.
 constexpr auto label = uR"([\p{L}\p{N}](?:[\p{L}\p{N}\-]{0,61}[\p{L}\p{N}])?)";
 
-const QRegularExpression &schemeExpression() {
+const QRegularExpression &schemeExpression()
+{
     static const QRegularExpression expression(
         uR"((?<![A-Za-z0-9+.\-])[A-Za-z][A-Za-z0-9+.\-]{0,31}://[^\s<>"«»“”‘’/?#])"_s +
             QString::fromUtf16(addressChars) + u'*',
@@ -42,25 +43,27 @@ const QRegularExpression &schemeExpression() {
     return expression;
 }
 
-const QRegularExpression &domainExpression() {
+const QRegularExpression &domainExpression()
+{
     // Optional e-mail local part, then labels, the top-level domain (captured),
     // an optional port and an optional path, query or fragment.
     static const QRegularExpression expression(
         uR"((?<![\p{L}\p{N}_@.\-])((?:mailto:)?[\p{L}\p{N}_%+\-]+(?:\.[\p{L}\p{N}_%+\-]+)*@)?)"_s +
-            u"(?:%1\\.)+(\\p{L}{2,63})(?![\\p{L}\\p{N}_\\-])(:\\d{1,5}(?!\\d))?"_s.arg(
-                QString::fromUtf16(label)) +
+            u"(?:%1\\.)+(\\p{L}{2,63})(?![\\p{L}\\p{N}_\\-])(:\\d{1,5}(?!\\d))?"_s.arg(QString::fromUtf16(label)) +
             u"(?:[/?#]%1*)?"_s.arg(QString::fromUtf16(addressChars)),
         QRegularExpression::UseUnicodePropertiesOption);
     return expression;
 }
 
-bool isSentencePunctuation(QChar c) {
+bool isSentencePunctuation(QChar c)
+{
     return QStringView(u".,;:!?'\"…*_").contains(c) || c == u'\u3002' || c == u'\uFF0C';
 }
 
 // Leaves out what people write after an address: sentence punctuation and closing
 // brackets without an opening one inside the address.
-qsizetype trimmedLength(QStringView address, qsizetype minimum) {
+qsizetype trimmedLength(QStringView address, qsizetype minimum)
+{
     qsizetype length = address.size();
     while (length > minimum) {
         const QChar last = address.at(length - 1);
@@ -85,7 +88,8 @@ qsizetype trimmedLength(QStringView address, qsizetype minimum) {
 
 } // namespace
 
-bool isKnownTopLevelDomain(const QString &name) {
+bool isKnownTopLevelDomain(const QString &name)
+{
     static const QSet<QString> names = [] {
         QSet<QString> set;
         for (const QStringView word : topLevelDomains.split(u' ', Qt::SkipEmptyParts))
@@ -95,7 +99,8 @@ bool isKnownTopLevelDomain(const QString &name) {
     return names.contains(name.toLower());
 }
 
-QList<TextLink> findLinks(const QString &text) {
+QList<TextLink> findLinks(const QString &text)
+{
     QList<TextLink> links;
     auto overlapsFound = [&links](qsizetype start, qsizetype end) {
         return std::any_of(links.cbegin(), links.cend(), [&](const TextLink &link) {
@@ -135,20 +140,19 @@ QList<TextLink> findLinks(const QString &text) {
         const QString address = text.mid(start, length);
         QUrl url;
         if (isEmail)
-            url =
-                QUrl(address.startsWith(u"mailto:"_s) ? address : u"mailto:"_s + address, QUrl::TolerantMode);
+            url = QUrl(address.startsWith(u"mailto:"_s) ? address : u"mailto:"_s + address, QUrl::TolerantMode);
         else
             url = QUrl(u"http://"_s + address, QUrl::TolerantMode);
         if (url.isValid())
             links.append({start, length, isEmail ? TextLink::Kind::Email : TextLink::Kind::Web, url});
     }
 
-    std::sort(links.begin(), links.end(),
-              [](const TextLink &a, const TextLink &b) { return a.start < b.start; });
+    std::sort(links.begin(), links.end(), [](const TextLink &a, const TextLink &b) { return a.start < b.start; });
     return links;
 }
 
-std::optional<QUrl> firstPreviewableLink(const QString &text) {
+std::optional<QUrl> firstPreviewableLink(const QString &text)
+{
     for (const TextLink &link : findLinks(text)) {
         const QString scheme = link.url.scheme();
         if (link.kind == TextLink::Kind::Web && (scheme == "http"_L1 || scheme == "https"_L1) &&

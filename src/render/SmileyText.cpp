@@ -17,7 +17,8 @@ struct Row {
     QString emoji;
 };
 
-QHash<QString, QString> buildReplacements() {
+QHash<QString, QString> buildReplacements()
+{
     const QList<Row> rows = {
         {{u":)"_s, u":-)"_s, u":]"_s, u"=)"_s}, u"\U0001F642"_s},
         {{u":D"_s, u":-D"_s, u"=D"_s}, u"\U0001F603"_s},
@@ -39,7 +40,8 @@ QHash<QString, QString> buildReplacements() {
     return table;
 }
 
-QRegularExpression buildPattern() {
+QRegularExpression buildPattern()
+{
     QList<QString> keys = replacements().keys();
     // The alternation takes the first alternative that fits, so longer keys go first.
     std::sort(keys.begin(), keys.end(), [](const QString &a, const QString &b) {
@@ -60,17 +62,20 @@ QRegularExpression buildPattern() {
 
 } // namespace
 
-const QHash<QString, QString> &replacements() {
+const QHash<QString, QString> &replacements()
+{
     static const QHash<QString, QString> table = buildReplacements();
     return table;
 }
 
-const QRegularExpression &pattern() {
+const QRegularExpression &pattern()
+{
     static const QRegularExpression expression = buildPattern();
     return expression;
 }
 
-QString render(const QString &text) {
+QString render(const QString &text)
+{
     const QList<TextLink> links = findLinks(text);
 
     struct Match {

@@ -25,9 +25,8 @@ constexpr auto head =
 // Inflates the gzip bytes with a running total (a guard against decompression
 // bombs), parses the JSON and plays it looping in the container; any failure shows
 // a short note instead.
-constexpr auto lottieLoaderStart =
-    "</script><script>(async()=>{const box=document.getElementById('sticker');try{"
-    "const bytes=Uint8Array.from(atob('"_L1;
+constexpr auto lottieLoaderStart = "</script><script>(async()=>{const box=document.getElementById('sticker');try{"
+                                   "const bytes=Uint8Array.from(atob('"_L1;
 constexpr auto lottieLoaderEnd =
     "'),c=>c.charCodeAt(0));"
     "const reader=new Blob([bytes]).stream().pipeThrough(new DecompressionStream('gzip')).getReader();"
@@ -39,7 +38,8 @@ constexpr auto lottieLoaderEnd =
     "lottie.loadAnimation({container:box,renderer:'svg',loop:true,autoplay:true,animationData});"
     "}catch(e){box.textContent='Sticker unavailable';}})();</script>"_L1;
 
-std::optional<QString> readPlayerScript(const QString &path) {
+std::optional<QString> readPlayerScript(const QString &path)
+{
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
@@ -55,11 +55,13 @@ std::optional<QString> readPlayerScript(const QString &path) {
 
 } // namespace
 
-QString playerScriptPath() {
+QString playerScriptPath()
+{
     return AppBundle::main().resourcePath(u"Vost_Vost.bundle/Resources/lottie_light.min.js"_s);
 }
 
-QString key(const QString &path, StickerFormat format) {
+QString key(const QString &path, StickerFormat format)
+{
     switch (format) {
     case StickerFormat::Webp:
         return path + "stickerFormatWebp"_L1;
@@ -71,11 +73,13 @@ QString key(const QString &path, StickerFormat format) {
     return path + "stickerFormatWebm"_L1;
 }
 
-std::optional<QString> html(const QByteArray &data, StickerFormat format) {
+std::optional<QString> html(const QByteArray &data, StickerFormat format)
+{
     return html(data, format, playerScriptPath());
 }
 
-std::optional<QString> html(const QByteArray &data, StickerFormat format, const QString &scriptPath) {
+std::optional<QString> html(const QByteArray &data, StickerFormat format, const QString &scriptPath)
+{
     const QString base64 = QString::fromLatin1(data.toBase64());
     QString body;
     if (format == StickerFormat::Animated) {
@@ -84,8 +88,7 @@ std::optional<QString> html(const QByteArray &data, StickerFormat format, const 
             return std::nullopt;
         body = "<script>"_L1 + *script + lottieLoaderStart + base64 + lottieLoaderEnd;
     } else {
-        body = "<video autoplay loop muted playsinline src='data:video/webm;base64,"_L1 + base64 +
-               "'></video>"_L1;
+        body = "<video autoplay loop muted playsinline src='data:video/webm;base64,"_L1 + base64 + "'></video>"_L1;
     }
     QString page = head;
     if (format == StickerFormat::Video)
@@ -94,7 +97,8 @@ std::optional<QString> html(const QByteArray &data, StickerFormat format, const 
     return page;
 }
 
-std::optional<QString> Coordinator::update(const QString &path, StickerFormat format) {
+std::optional<QString> Coordinator::update(const QString &path, StickerFormat format)
+{
     const QString pageKey = StickerPage::key(path, format);
     if (pageKey == m_key)
         return std::nullopt; // a redraw never reloads a playing sticker

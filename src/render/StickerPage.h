@@ -30,11 +30,13 @@ std::optional<QString> html(const QByteArray &data, StickerFormat format);
 std::optional<QString> html(const QByteArray &data, StickerFormat format, const QString &playerScriptPath);
 
 // Decides when a view loads a new page. One per view.
-class Coordinator {
+class Coordinator
+{
 public:
     Coordinator() = default;
     explicit Coordinator(QString playerScriptPath)
-        : m_playerScriptPath(std::move(playerScriptPath)) {}
+        : m_playerScriptPath(std::move(playerScriptPath))
+    {}
 
     // The page to load now, or none: when the key is the one already loaded, when
     // the file cannot be read or is over the size limit, or when there is no page.

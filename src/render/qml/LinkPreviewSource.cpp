@@ -1,9 +1,11 @@
 #include "LinkPreviewSource.h"
 
 LinkPreviewSource::LinkPreviewSource(QObject *parent)
-    : QObject(parent) {}
+    : QObject(parent)
+{}
 
-void LinkPreviewSource::setUrl(const QUrl &url) {
+void LinkPreviewSource::setUrl(const QUrl &url)
+{
     if (url == m_url && m_metadata)
         return;
     m_url = url;
@@ -16,7 +18,8 @@ void LinkPreviewSource::setUrl(const QUrl &url) {
     Q_EMIT metadataChanged();
 }
 
-void LinkPreviewSource::start() {
+void LinkPreviewSource::start()
+{
     if (m_metadata)
         m_metadata->load();
 }

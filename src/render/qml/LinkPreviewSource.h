@@ -10,7 +10,8 @@
 
 // A card's view of LinkPreviewMetadata: one metadata object per address, owned
 // here, made anew when the address changes.
-class LinkPreviewSource : public QObject {
+class LinkPreviewSource : public QObject
+{
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged)

@@ -6,7 +6,8 @@
 
 // Paints a QImage scaled to cover the item (cropping what overflows), with rounded
 // corners.
-class PreviewImage : public QQuickPaintedItem {
+class PreviewImage : public QQuickPaintedItem
+{
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)

@@ -9,15 +9,18 @@ using namespace Qt::StringLiterals;
 
 namespace VostRender {
 
-void initializeStickerEngine() {
+void initializeStickerEngine()
+{
     QtWebEngineQuick::initialize();
 }
 
-void addImportPath(QQmlEngine &engine) {
+void addImportPath(QQmlEngine &engine)
+{
     engine.addImportPath(u"qrc:/qt/qml"_s);
 }
 
-bool isStickerEngineStarted() {
+bool isStickerEngineStarted()
+{
     return StickerWebProfile::hasSharedProfile();
 }
 

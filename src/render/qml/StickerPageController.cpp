@@ -3,9 +3,11 @@
 #include <QMetaObject>
 
 StickerPageController::StickerPageController(QObject *parent)
-    : QObject(parent) {}
+    : QObject(parent)
+{}
 
-void StickerPageController::setPath(const QString &path) {
+void StickerPageController::setPath(const QString &path)
+{
     const bool changed = path != m_path;
     m_path = path;
     if (changed)
@@ -13,7 +15,8 @@ void StickerPageController::setPath(const QString &path) {
     scheduleUpdate();
 }
 
-void StickerPageController::setFormat(Format format) {
+void StickerPageController::setFormat(Format format)
+{
     const bool changed = format != m_format;
     m_format = format;
     if (changed)
@@ -21,14 +24,16 @@ void StickerPageController::setFormat(Format format) {
     scheduleUpdate();
 }
 
-void StickerPageController::scheduleUpdate() {
+void StickerPageController::scheduleUpdate()
+{
     if (m_updateScheduled)
         return;
     m_updateScheduled = true;
     QMetaObject::invokeMethod(this, &StickerPageController::update, Qt::QueuedConnection);
 }
 
-void StickerPageController::update() {
+void StickerPageController::update()
+{
     m_updateScheduled = false;
     if (m_path.isEmpty())
         return;

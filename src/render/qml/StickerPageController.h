@@ -9,7 +9,8 @@
 // Decides, for one sticker view, when a new page is loaded: only when the sticker's
 // path or format changes, never on a redraw. Both may change together (a reused
 // list delegate): the decision waits for the event loop, so it sees both.
-class StickerPageController : public QObject {
+class StickerPageController : public QObject
+{
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged)

@@ -5,14 +5,16 @@
 
 namespace {
 
-QPointer<QQuickWebEngineProfile> &instance() {
+QPointer<QQuickWebEngineProfile> &instance()
+{
     static QPointer<QQuickWebEngineProfile> profile;
     return profile;
 }
 
 } // namespace
 
-QQuickWebEngineProfile *StickerWebProfile::sharedProfile() {
+QQuickWebEngineProfile *StickerWebProfile::sharedProfile()
+{
     QPointer<QQuickWebEngineProfile> &profile = instance();
     if (!profile) {
         profile = new QQuickWebEngineProfile(QCoreApplication::instance());
@@ -23,6 +25,7 @@ QQuickWebEngineProfile *StickerWebProfile::sharedProfile() {
     return profile;
 }
 
-bool StickerWebProfile::hasSharedProfile() {
+bool StickerWebProfile::hasSharedProfile()
+{
     return !instance().isNull();
 }

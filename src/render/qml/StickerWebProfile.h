@@ -9,7 +9,8 @@ class QJSEngine;
 
 // The one off-the-record profile of every sticker view: nothing reaches the disk.
 // It is made when the first sticker page is about to be shown.
-class StickerWebProfile : public QObject {
+class StickerWebProfile : public QObject
+{
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
@@ -17,7 +18,8 @@ class StickerWebProfile : public QObject {
 
 public:
     explicit StickerWebProfile(QObject *parent = nullptr)
-        : QObject(parent) {}
+        : QObject(parent)
+    {}
 
     static QQuickWebEngineProfile *sharedProfile();
     static bool hasSharedProfile();

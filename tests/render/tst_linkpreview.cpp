@@ -1,0 +1,231 @@
+// Link previews: the parsing helpers, and whole loads against a server on loopback.
+
+#include "LoopbackHttpServer.h"
+
+#include "render/LinkPreviewMetadata.h"
+
+#include <QBuffer>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray png(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+} // namespace
+
+class LinkPreviewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(m_server.isListening());
+        m_server.answer("/img/a.png", {200, "image/png", png(3, 2)});
+        m_server.answer("/dir/favicon.png", {200, "image/png", png(16, 16)});
+        m_server.answer("/art.png", {200, "image/png", png(100, 100)});
+        m_server.answer("/fake.png", {200, "text/html", png(5, 5)});
+    }
+
+    void cleanup() { LinkPreviewMetadata::setAppStoreConfiguration({}); }
+
+    void attributes()
+    {
+        const QString tag = u"<meta Property=\"og:title\" content='It''s' name=bare data-x = \"1\">"_s;
+        QCOMPARE(LinkPreviewMetadata::attribute(u"property"_s, tag), u"og:title"_s);
+        QCOMPARE(LinkPreviewMetadata::attribute(u"PROPERTY"_s, tag), u"og:title"_s);
+        QCOMPARE(LinkPreviewMetadata::attribute(u"content"_s, tag), u"It"_s);
+        QCOMPARE(LinkPreviewMetadata::attribute(u"name"_s, tag), std::nullopt); // unquoted
+        QCOMPARE(LinkPreviewMetadata::attribute(u"x"_s, tag), u"1"_s);
+        QCOMPARE(LinkPreviewMetadata::attribute(u"a.b"_s, u"<meta aXb=\"no\">"_s), std::nullopt);
+    }
+
+    void entities()
+    {
+        QCOMPARE(LinkPreviewMetadata::decodeHTMLEntities(u"Tom &amp; Jerry &#8212; &eacute;t&eacute; &#x27;x&#39;"_s),
+                 u"Tom & Jerry \u2014 \u00e9t\u00e9 'x'"_s);
+        QCOMPARE(LinkPreviewMetadata::decodeHTMLEntities(u"plain"_s), u"plain"_s);
+    }
+
+    void lookupDecoding()
+    {
+        auto response = decodeAppStoreLookup(
+            R"({"resultCount":2,"results":[{"trackName":"A","sellerName":null},{"trackName":"B","artworkUrl100":"x"}]})");
+        QVERIFY(response);
+        QCOMPARE(response->results.size(), 2);
+        QCOMPARE(response->results[0].sellerName, std::nullopt);
+        QCOMPARE(response->results[1].artworkUrl100, u"x"_s);
+        QCOMPARE(decodeAppStoreLookup(R"({"results":[{"trackName":"A"},{"sellerName":"S"}]})"), std::nullopt);
+        QCOMPARE(decodeAppStoreLookup(R"({"results":[{"trackName":"A","sellerName":5}]})"), std::nullopt);
+        QCOMPARE(decodeAppStoreLookup(R"({"resultCount":0})"), std::nullopt);
+        QCOMPARE(decodeAppStoreLookup("<html>"), std::nullopt);
+        QVERIFY(decodeAppStoreLookup(R"({"results":[]})")->results.isEmpty());
+    }
+
+    void initialValues()
+    {
+        const LinkPreviewMetadata withHost(QUrl(u"https://www.example.com/a?b"_s));
+        QCOMPARE(withHost.title(), u"www.example.com"_s);
+        QCOMPARE(withHost.siteName(), u"www.example.com"_s);
+        QVERIFY(!withHost.hasImage());
+        QVERIFY(!withHost.hasLoaded());
+        const LinkPreviewMetadata withoutHost(QUrl(u"mailto:me@example.com"_s));
+        QCOMPARE(withoutHost.title(), u"mailto:me@example.com"_s);
+    }
+
+    void openGraphPage()
+    {
+        m_server.answer("/og", {200, "text/html; charset=utf-8",
+                                "<html><head><title>Element title</title>\n"
+                                "<META property=\"og:title\" content=\"Tom &amp; Jerry\">\n"
+                                "<meta property='og:site_name' content='Example Site'>\n"
+                                "<meta property=\"og:image\" content=\"/img/a.png\"></head></html>"});
+        auto metadata = load(m_server.url(u"/og"_s));
+        QCOMPARE(metadata->title(), u"Tom & Jerry"_s);
+        QCOMPARE(metadata->siteName(), u"Example Site"_s);
+        QCOMPARE(metadata->image().size(), QSize(3, 2));
+        QVERIFY(metadata->hasLoaded());
+        QVERIFY(!metadata->isLoading());
+        const auto &requests = m_server.requests();
+        const auto page =
+            std::find_if(requests.cbegin(), requests.cend(), [](const auto &request) { return request.path == "/og"; });
+        QVERIFY(page != requests.cend());
+        QCOMPARE(page->headers.value("user-agent"), LinkPreviewMetadata::userAgent);
+        QVERIFY(m_server.requestedPaths().contains("/img/a.png"));
+    }
+
+    void firstAndCapitalKeysWin()
+    {
+        m_server.answer("/dup", {200, "text/html",
+                                 "<meta name=\"description\" content=\"d\">"
+                                 "<meta property=\"OG:TITLE\" content=\"First\">"
+                                 "<meta property=\"og:title\" content=\"Second\">"
+                                 "<meta property=\"og:site_name\" content=\"\">"
+                                 "<title>Element</title>"});
+        auto metadata = load(m_server.url(u"/dup"_s));
+        QCOMPARE(metadata->title(), u"First"_s);
+        QCOMPARE(metadata->siteName(), u"127.0.0.1"_s); // an empty site name is not used
+        QVERIFY(!metadata->hasImage());
+    }
+
+    void titleElementOnly()
+    {
+        m_server.answer("/title", {200, "text/html", "<HTML><Title lang=en>\n  Plain &amp; simple\n</TITLE>"});
+        auto metadata = load(m_server.url(u"/title"_s));
+        QCOMPARE(metadata->title(), u"Plain & simple"_s);
+        QCOMPARE(metadata->siteName(), u"127.0.0.1"_s);
+    }
+
+    void notFoundKeepsTheHost()
+    {
+        m_server.answer("/gone", {404, "text/html", "<meta property=\"og:title\" content=\"Missing\">"});
+        auto metadata = load(m_server.url(u"/gone"_s));
+        QCOMPARE(metadata->title(), u"127.0.0.1"_s);
+        QCOMPARE(metadata->siteName(), u"127.0.0.1"_s);
+    }
+
+    void shortcutIconBecomesTheThumbnail()
+    {
+        m_server.answer("/dir/page", {200, "text/html",
+                                      "<link rel=\"stylesheet\" href=\"s.css\">"
+                                      "<link rel=\"Shortcut Icon\" href=\"favicon.png\"><title>T</title>"});
+        auto metadata = load(m_server.url(u"/dir/page"_s));
+        QCOMPARE(metadata->title(), u"T"_s);
+        QCOMPARE(metadata->image().size(), QSize(16, 16));
+        QVERIFY(!m_server.requestedPaths().contains("/dir/s.css"));
+    }
+
+    void latin1Page()
+    {
+        m_server.answer("/latin1", {200, "text/html; charset=iso-8859-1", "<title>Caf\xe9 cr\xe8me</title>"});
+        auto metadata = load(m_server.url(u"/latin1"_s));
+        QCOMPARE(metadata->title(), u"Caf\u00e9 cr\u00e8me"_s);
+    }
+
+    void thumbnailMustBeAnImage()
+    {
+        m_server.answer("/fakeimage", {200, "text/html", "<meta property=\"og:image\" content=\"/fake.png\">"});
+        auto metadata = load(m_server.url(u"/fakeimage"_s));
+        QVERIFY(m_server.requestedPaths().contains("/fake.png"));
+        QVERIFY(!metadata->hasImage());
+    }
+
+    void appStoreLookup()
+    {
+        LinkPreviewMetadata::setAppStoreConfiguration({u"127.0.0.1"_s, m_server.url(u"/lookup?id="_s).toString()});
+        m_server.answer(
+            "/lookup?id=42",
+            {200, "application/json",
+             R"({"resultCount":1,"results":[{"trackName":"Vost","sellerName":"Vost Team","artworkUrl100":")" +
+                 m_server.url(u"/art.png"_s).toEncoded() + R"("}]})"});
+        auto metadata = load(m_server.url(u"/us/app/vost/id42?mt=8"_s));
+        QCOMPARE(metadata->title(), u"Vost"_s);
+        QCOMPARE(metadata->siteName(), u"Vost Team"_s);
+        QCOMPARE(metadata->image().size(), QSize(100, 100));
+        QVERIFY(!m_server.requestedPaths().contains("/us/app/vost/id42?mt=8")); // the page itself is not read
+
+        m_server.answer("/lookup?id=43", {200, "application/json", R"({"results":[{"trackName":"Other"}]})"});
+        metadata = load(m_server.url(u"/app/id43"_s));
+        QCOMPARE(metadata->title(), u"Other"_s);
+        QCOMPARE(metadata->siteName(), u"App Store"_s);
+        QVERIFY(!metadata->hasImage());
+    }
+
+    void appStoreWithoutResultReadsThePage()
+    {
+        LinkPreviewMetadata::setAppStoreConfiguration({u"127.0.0.1"_s, m_server.url(u"/lookup?id="_s).toString()});
+        m_server.answer("/lookup?id=7", {200, "application/json", R"({"resultCount":0,"results":[]})"});
+        m_server.answer("/app/id7", {200, "text/html", "<title>From the page</title>"});
+        auto metadata = load(m_server.url(u"/app/id7"_s));
+        QVERIFY(m_server.requestedPaths().contains("/lookup?id=7"));
+        QCOMPARE(metadata->title(), u"From the page"_s);
+    }
+
+    void otherHostsAreNotLookedUp()
+    {
+        // The default store host: a loopback address is no app-store page.
+        m_server.answer("/plain/id99", {200, "text/html", "<title>Plain</title>"});
+        auto metadata = load(m_server.url(u"/plain/id99"_s));
+        QCOMPARE(metadata->title(), u"Plain"_s);
+        QVERIFY(!m_server.requestedPaths().contains("/lookup?id=99"));
+    }
+
+    void loadsOnce()
+    {
+        m_server.answer("/once", {200, "text/html", "<title>Once</title>"});
+        auto metadata = load(m_server.url(u"/once"_s));
+        QSignalSpy finished(metadata.get(), &LinkPreviewMetadata::finished);
+        metadata->load();
+        QCOMPARE(finished.count(), 0);
+        QCOMPARE(m_server.requestedPaths().count("/once"), 1);
+    }
+
+private:
+    std::unique_ptr<LinkPreviewMetadata> load(const QUrl &url)
+    {
+        auto metadata = std::make_unique<LinkPreviewMetadata>(url);
+        QSignalSpy finished(metadata.get(), &LinkPreviewMetadata::finished);
+        metadata->load();
+        [&] { QVERIFY(finished.wait(30'000)); }();
+        return metadata;
+    }
+
+    LoopbackHttpServer m_server;
+};
+
+QTEST_MAIN(LinkPreviewTest)
+#include "tst_linkpreview.moc"

@@ -1,0 +1,276 @@
+// The sticker page in the real web engine: a Lottie animation of our own plays, a
+// decompression bomb is refused, the page can reach no network, and a view loads a
+// new page only when the sticker's key changes. Needs a display (Xvfb in CI).
+
+#include "LoopbackHttpServer.h"
+
+#include "StickerEngine.h"
+#include "StickerWebProfile.h"
+#include "render/StickerPage.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include <array>
+#include <cstdio>
+
+Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int waitMs = 60'000; // a generous bound for a slow machine; nothing is timed
+
+quint32 crc32(const QByteArray &data)
+{
+    static const auto table = [] {
+        std::array<quint32, 256> entries{};
+        for (quint32 i = 0; i < 256; ++i) {
+            quint32 c = i;
+            for (int k = 0; k < 8; ++k)
+                c = (c & 1) ? 0xEDB88320u ^ (c >> 1) : c >> 1;
+            entries[i] = c;
+        }
+        return entries;
+    }();
+    quint32 c = 0xFFFFFFFFu;
+    for (const char byte : data)
+        c = table[(c ^ quint8(byte)) & 0xFF] ^ (c >> 8);
+    return c ^ 0xFFFFFFFFu;
+}
+
+// qCompress gives a length and a zlib stream; gzip wants the same deflate data
+// between its own header and trailer.
+QByteArray gzip(const QByteArray &data)
+{
+    const QByteArray zlib = qCompress(data, 9);
+    const QByteArray deflate = zlib.mid(4 + 2, zlib.size() - 4 - 2 - 4);
+    QByteArray out("\x1f\x8b\x08\x00\x00\x00\x00\x00\x02\xff", 10);
+    out += deflate;
+    for (const quint32 value : {crc32(data), quint32(data.size())})
+        for (int shift = 0; shift < 32; shift += 8)
+            out += char((value >> shift) & 0xFF);
+    return out;
+}
+
+// A red square that turns once a second.
+const QByteArray animation =
+    R"({"v":"5.7.4","fr":30,"ip":0,"op":30,"w":100,"h":100,"nm":"square","ddd":0,"assets":[],)"
+    R"("layers":[{"ddd":0,"ind":1,"ty":4,"nm":"box","sr":1,"ip":0,"op":30,"st":0,"bm":0,)"
+    R"("ks":{"o":{"a":0,"k":100},"r":{"a":1,"k":[{"t":0,"s":[0],"i":{"x":[0.5],"y":[0.5]},)"
+    R"("o":{"x":[0.5],"y":[0.5]}},{"t":30,"s":[360]}]},"p":{"a":0,"k":[50,50,0]},"a":{"a":0,"k":[0,0,0]},)"
+    R"("s":{"a":0,"k":[100,100,100]}},"shapes":[{"ty":"rc","nm":"r","d":1,"s":{"a":0,"k":[40,40]},)"
+    R"("p":{"a":0,"k":[0,0]},"r":{"a":0,"k":4}},{"ty":"fl","nm":"f","c":{"a":0,"k":[1,0,0,1]},)"
+    R"("o":{"a":0,"k":100},"r":1}]}]})";
+
+const QByteArray harness = R"(
+import QtQuick
+import Vost.Render
+Item {
+    width: 160; height: 160
+    property int loads: 0
+    property bool probed: false
+    property var probeResult
+    property alias sticker: sticker
+    AnimatedStickerView { id: sticker; anchors.fill: parent; onPageLoaded: loads++ }
+    function probe(script) {
+        probed = false
+        sticker.runJavaScript(script, function (result) { probeResult = result; probed = true })
+    }
+}
+)";
+
+const QByteArray bareViewHarness = R"(
+import QtQuick
+import Vost.Render
+Item {
+    width: 160; height: 160
+    property bool loaded: false
+    property bool probed: false
+    property var probeResult
+    StickerWebView { id: view; anchors.fill: parent; onPageLoaded: loaded = true }
+    function show(page) { loaded = false; view.show(page) }
+    function probe(script) {
+        probed = false
+        view.runJavaScript(script, function (result) { probeResult = result; probed = true })
+    }
+}
+)";
+
+} // namespace
+
+class StickerViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(m_folder.isValid());
+        VostRender::addImportPath(m_engine);
+        m_window.resize(480, 480);
+        m_window.show();
+    }
+
+    void cleanup()
+    {
+        delete m_root;
+        m_root = nullptr;
+    }
+
+    void engineStartsOnlyForAPage()
+    {
+        QVERIFY(!VostRender::isStickerEngineStarted());
+        QVERIFY(make(harness));
+        m_root->setProperty("probeResult", 0);
+        sticker()->setProperty("path", m_folder.filePath(u"missing.tgs"_s));
+        QTest::qWait(300); // the update runs from the event loop
+        QVERIFY(!VostRender::isStickerEngineStarted());
+        QCOMPARE(sticker()->property("pageKey").toString(), QString());
+    }
+
+    void lottieAnimationPlays()
+    {
+        const QString path = write(u"square.tgs"_s, gzip(animation));
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(VostRender::isStickerEngineStarted());
+        QVERIFY(StickerWebProfile::sharedProfile()->isOffTheRecord());
+        QTRY_COMPARE_WITH_TIMEOUT(
+            probe(u"document.querySelectorAll('#sticker svg').length + ':' + document.body.innerText"_s),
+            QVariant(u"1:"_s), waitMs);
+    }
+
+    void decompressionBombIsRefused()
+    {
+        QByteArray padded = animation;
+        padded.insert(1, QByteArray(StickerPage::maximumAnimationSize + 1000, ' '));
+        const QString path = write(u"bomb.tgs"_s, gzip(padded));
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(probe(u"document.getElementById('sticker').textContent"_s),
+                                  QVariant(u"Sticker unavailable"_s), waitMs);
+        QCOMPARE(probe(u"document.querySelectorAll('svg').length"_s).toInt(), 0);
+    }
+
+    void sameStickerLoadsOnceAndFormatChangeReloads()
+    {
+        const QString path = write(u"again.tgs"_s, gzip(animation));
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        // Redraws: the same path and format written again.
+        sticker()->setProperty("path", path);
+        sticker()->setProperty("format", 1);
+        QTest::qWait(500);
+        QCOMPARE(m_root->property("loads").toInt(), 1);
+        QCOMPARE(sticker()->property("pageKey").toString(), StickerPage::key(path, StickerFormat::Animated));
+        // The same file as a video sticker is a new page.
+        sticker()->setProperty("format", 2);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 2, waitMs);
+        QCOMPARE(sticker()->property("pageKey").toString(), StickerPage::key(path, StickerFormat::Video));
+        QCOMPARE(probe(u"document.querySelectorAll('video').length"_s).toInt(), 1);
+    }
+
+    void pageCanReachNoNetwork()
+    {
+        LoopbackHttpServer server;
+        QVERIFY(server.isListening());
+        server.answer("/probe.png", {200, "image/png", QByteArray()});
+        const QString origin = server.url(QString()).toString();
+        // A script in the page tries a fetch, an image and a beacon.
+        const QString attempt =
+            u"<script>window.attempts=Promise.allSettled(["
+            "fetch('%1/fetch',{mode:'no-cors'}),"
+            "new Promise(r=>{const i=new Image();i.onload=i.onerror=r;i.src='%1/probe.png';}),"
+            "new Promise(r=>{const x=new XMLHttpRequest();x.onloadend=r;try{x.open('GET','%1/xhr');x.send();}"
+            "catch(e){r();}})]).then(()=>{window.attemptsDone=true;});</script></body></html>"_s.arg(origin);
+        const QString page = *StickerPage::html(gzip(animation), StickerFormat::Animated);
+        QString probing = page;
+        probing.replace(u"</body></html>"_s, attempt);
+
+        QVERIFY(make(bareViewHarness));
+        QMetaObject::invokeMethod(m_root, "show", Q_ARG(QVariant, probing));
+        QTRY_VERIFY_WITH_TIMEOUT(m_root->property("loaded").toBool(), waitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(probe(u"window.attemptsDone === true"_s), QVariant(true), waitMs);
+        QCOMPARE(probe(u"document.querySelectorAll('#sticker svg').length"_s).toInt(), 1);
+        QTest::qWait(300);
+        QCOMPARE(server.requestedPaths(), QList<QByteArray>());
+
+        // The same page without its security policy does reach the server, so the
+        // check above can see a request when there is one.
+        QString open = probing;
+        const qsizetype start = open.indexOf(u"<meta http-equiv"_s);
+        open.remove(start, open.indexOf(u'>', start) + 1 - start);
+        QMetaObject::invokeMethod(m_root, "show", Q_ARG(QVariant, open));
+        QTRY_VERIFY_WITH_TIMEOUT(m_root->property("loaded").toBool(), waitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(probe(u"window.attemptsDone === true"_s), QVariant(true), waitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!server.requests().isEmpty(), waitMs);
+    }
+
+private:
+    bool make(const QByteArray &qml)
+    {
+        QQmlComponent component(&m_engine);
+        component.setData(qml, QUrl(u"qrc:/test/Harness.qml"_s));
+        m_root = qobject_cast<QQuickItem *>(component.create());
+        if (!m_root) {
+            qWarning().noquote() << component.errorString();
+            return false;
+        }
+        m_root->setParentItem(m_window.contentItem());
+        return true;
+    }
+
+    QObject *sticker() const { return m_root->property("sticker").value<QObject *>(); }
+
+    QVariant probe(const QString &script)
+    {
+        QMetaObject::invokeMethod(m_root, "probe", Q_ARG(QVariant, script));
+        if (!QTest::qWaitFor([this] { return m_root->property("probed").toBool(); }, waitMs))
+            return u"no answer"_s;
+        return m_root->property("probeResult");
+    }
+
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        const QString path = m_folder.filePath(name);
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(path));
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+    QQmlEngine m_engine;
+    QQuickWindow m_window;
+    QQuickItem *m_root = nullptr;
+};
+
+int main(int argc, char *argv[])
+{
+    if (qEnvironmentVariable("QT_QPA_PLATFORM") == "xcb"_L1 && qEnvironmentVariableIsEmpty("DISPLAY")) {
+        std::fputs("No display: run this test under xvfb-run.\n", stderr);
+        return 77; // reported as skipped
+    }
+    VostRender::initializeStickerEngine();
+    QGuiApplication application(argc, argv);
+    StickerViewTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_stickerview.moc"
