@@ -1,0 +1,39 @@
+#include "session/NotificationService.h"
+
+#include "platform/NotificationPoster.h"
+#include "session/NotificationCenter.h"
+
+#include <QUuid>
+
+using namespace Qt::StringLiterals;
+
+NotificationService &NotificationService::shared()
+{
+    static NotificationService service;
+    return service;
+}
+
+void NotificationService::setPoster(NotificationPoster *poster)
+{
+    if (m_poster)
+        disconnect(m_poster, nullptr, this, nullptr);
+    m_poster = poster;
+    if (m_poster)
+        connect(m_poster, &NotificationPoster::clicked, this, &NotificationService::didReceive);
+}
+
+void NotificationService::notify(const QString &title, const QString &body, const QString &chatID)
+{
+    if (!m_poster)
+        return;
+    const QString identifier =
+        u"telegram-message-"_s + chatID + u'-' + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    m_poster->show(identifier, title, body, chatID);
+}
+
+void NotificationService::didReceive(const QString &chatID)
+{
+    if (m_activate)
+        m_activate();
+    NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::openTelegramChat), chatID);
+}
