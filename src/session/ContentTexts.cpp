@@ -81,10 +81,15 @@ QString previewText(const std::optional<TdObject> &message)
 
 QString draftText(const QJsonValue &draft)
 {
-    const TdObject input = draft.toObject().value("input_message_text"_L1).toObject();
-    if (typeOf(input) != "inputMessageText"_L1)
-        return {};
-    return input.value("text"_L1).toObject().value("text"_L1).toString();
+    const TdObject object = draft.toObject();
+    const TdObject input = object.value("input_message_text"_L1).toObject();
+    if (typeOf(input) == "inputMessageText"_L1)
+        return input.value("text"_L1).toObject().value("text"_L1).toString();
+    // TDLib 1.8.67 keeps the draft's text under "content".
+    const TdObject content = object.value("content"_L1).toObject();
+    if (typeOf(content) == "draftMessageContentText"_L1)
+        return content.value("text"_L1).toObject().value("text"_L1).toString();
+    return {};
 }
 
 QString chatSubtitle(const QJsonValue &chatType)

@@ -1,0 +1,154 @@
+// What chats and messages show: content texts, previews, drafts, subtitles,
+// initials, date texts across midnight, file helpers and reactions.
+
+#include "session/ContentTexts.h"
+#include "session/DateTexts.h"
+#include "session/Initials.h"
+
+#include <QJsonDocument>
+#include <QTest>
+#include <QTimeZone>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TdObject json(const char *text)
+{
+    return QJsonDocument::fromJson(text).object();
+}
+
+} // namespace
+
+class TextsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void messageTexts_data()
+    {
+        QTest::addColumn<QString>("content");
+        QTest::addColumn<QString>("bubble");
+        QTest::addColumn<QString>("preview");
+        QTest::newRow("text") << uR"j({"@type":"messageText","text":{"text":"hi :)"}})j"_s << u"hi :)"_s << u"hi :)"_s;
+        QTest::newRow("text without text") << uR"j({"@type":"messageText"})j"_s << u"Message"_s << u"Message"_s;
+        QTest::newRow("photo with caption")
+            << uR"j({"@type":"messagePhoto","caption":{"text":"our trip"}})j"_s << u"our trip"_s << u"Photo"_s;
+        QTest::newRow("photo, empty caption")
+            << uR"j({"@type":"messagePhoto","caption":{"text":""}})j"_s << u"📷 Photo"_s << u"Photo"_s;
+        QTest::newRow("video") << uR"j({"@type":"messageVideo"})j"_s << u"🎬 Video"_s << u"Video"_s;
+        QTest::newRow("document") << uR"j({"@type":"messageDocument"})j"_s << u"📎 Document"_s << u"Document"_s;
+        QTest::newRow("audio") << uR"j({"@type":"messageAudio"})j"_s << u"🎵 Audio"_s << u"Audio"_s;
+        QTest::newRow("voice") << uR"j({"@type":"messageVoiceNote"})j"_s << u"🎤 Voice message"_s << u"Voice message"_s;
+        QTest::newRow("animated emoji") << uR"j({"@type":"messageAnimatedEmoji","emoji":"🎉"})j"_s << u"🎉"_s << u"🎉"_s;
+        QTest::newRow("location") << uR"j({"@type":"messageLocation"})j"_s << u"📍 Location"_s << u"Message"_s;
+        QTest::newRow("poll") << uR"j({"@type":"messagePoll"})j"_s << u"Poll"_s << u"Message"_s;
+        QTest::newRow("unknown") << uR"j({"@type":"messageDice"})j"_s << u"Unsupported message"_s << u"Message"_s;
+        QTest::newRow("no type") << u"{}"_s << u"Message"_s << u"Message"_s;
+    }
+    void messageTexts()
+    {
+        QFETCH(QString, content);
+        QFETCH(QString, bubble);
+        QFETCH(QString, preview);
+        const TdObject object = QJsonDocument::fromJson(content.toUtf8()).object();
+        QCOMPARE(messageText(object), bubble);
+        QCOMPARE(previewText(TdObject{{"content"_L1, object}}), preview);
+    }
+
+    void previewsAndDrafts()
+    {
+        QCOMPARE(previewText(std::nullopt), u"No messages yet"_s);
+        QCOMPARE(previewText(TdObject{{"id"_L1, 1}}), u"No messages yet"_s);
+        QCOMPARE(draftText(json(R"({"input_message_text":{"@type":"inputMessageText","text":{"text":"later"}}})")),
+                 u"later"_s);
+        QCOMPARE(draftText(json(R"({"content":{"@type":"draftMessageContentText","text":{"text":"now"}}})")), u"now"_s);
+        QCOMPARE(draftText(json(R"({"input_message_text":{"@type":"inputMessageVoiceNote"}})")), QString());
+        QCOMPARE(draftText(json(R"({"content":{"@type":"draftMessageContentVoiceNote"}})")), QString());
+        QCOMPARE(draftText(QJsonValue()), QString());
+        QCOMPARE(chatSubtitle(json(R"({"@type":"chatTypeSupergroup","is_channel":true})")), u"Group or channel"_s);
+        QCOMPARE(chatSubtitle(QJsonValue()), u"Telegram"_s);
+    }
+
+    void initialsOfNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("two words") << u"Grace Hopper"_s << u"GH"_s;
+        QTest::newRow("three words, double space") << u"ada  lovelace byron"_s << u"AL"_s;
+        QTest::newRow("one word") << u"alan"_s << u"A"_s;
+        QTest::newRow("leading blanks") << u"  x"_s << u"X"_s;
+        QTest::newRow("empty") << QString() << QString();
+        QTest::newRow("letters beyond the basic plane") << u"𝔸da 𝔹yron"_s << u"𝔸𝔹"_s;
+        QTest::newRow("non-Latin") << u"ёлка палка"_s << u"ЁП"_s;
+    }
+    void initialsOfNames()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, expected);
+        QCOMPARE(initials(name), expected);
+    }
+
+    void datesAcrossMidnight()
+    {
+        // Local time is fixed by the test's TZ: UTC+2 without daylight saving.
+        const QDateTime now(QDate(2024, 3, 10), QTime(0, 30), QTimeZone(2 * 3600));
+        const auto at = [](int day, int hour, int minute) {
+            return QDateTime(QDate(2024, 3, day), QTime(hour, minute), QTimeZone(2 * 3600)).toSecsSinceEpoch();
+        };
+        QCOMPARE(timestampText(at(10, 0, 5), now), u"0:05"_s);
+        QCOMPARE(timestampText(at(9, 23, 59), now), u"Yesterday"_s);
+        QCOMPARE(timestampText(at(9, 0, 0), now), u"Yesterday"_s);
+        QCOMPARE(timestampText(at(8, 23, 59), now), u"8 Mar"_s);
+        QCOMPARE(timestampText(std::nullopt, now), QString());
+        QCOMPARE(messageTime(at(9, 23, 59)), u"23:59"_s);
+        QCOMPARE(messageTime(std::nullopt), QString());
+    }
+
+    void files()
+    {
+        QVERIFY(isImageDocument(json(R"({"mime_type":"IMAGE/PNG"})")));
+        QVERIFY(isImageDocument(json(R"({"mime_type":"application/octet-stream","file_name":"SCAN.JPG"})")));
+        QVERIFY(isImageDocument(json(R"({"file_name":"x.heif"})")));
+        QVERIFY(!isImageDocument(json(R"({"mime_type":"application/pdf","file_name":"jpg.pdf"})")));
+        QCOMPARE(completedPath(json(R"({"local":{"path":"/a","is_downloading_completed":true}})")),
+                 std::optional<QString>(u"/a"_s));
+        QCOMPARE(completedPath(json(R"({"local":{"path":"/a","is_downloading_completed":false}})")),
+                 std::optional<QString>());
+        QCOMPARE(completedPath(json(R"({"local":{"path":"","is_downloading_completed":true}})")),
+                 std::optional<QString>());
+    }
+
+    void stickerFormats()
+    {
+        QCOMPARE(stickerFormat(json(R"({"@type":"stickerFormatTgs"})")), StickerFormat::Animated);
+        QCOMPARE(stickerFormat(json(R"({"@type":"stickerFormatWebm"})")), StickerFormat::Video);
+        QCOMPARE(stickerFormat(json(R"({"@type":"stickerFormatWebp"})")), StickerFormat::Webp);
+        QCOMPARE(stickerFormat(QJsonValue()), StickerFormat::Webp);
+    }
+
+    void reactions()
+    {
+        QVERIFY(messageReactions(json(R"({})")).isEmpty());
+        // Reactions given directly as an array are not TDLib's shape.
+        QVERIFY(messageReactions(
+                    json(R"({"interaction_info":{"reactions":[{"type":{"@type":"reactionTypeEmoji","emoji":"👍"}}]}})"))
+                    .isEmpty());
+        const QList<MessageReaction> read = messageReactions(json(R"({"interaction_info":{"reactions":{"reactions":[
+            {"type":{"@type":"reactionTypeEmoji","emoji":"❤"},"total_count":3,"is_chosen":true},
+            {"type":{"@type":"reactionTypeCustomEmoji","custom_emoji_id":"1"},"total_count":9},
+            {"type":{"@type":"reactionTypePaid"},"total_count":1},
+            {"type":{"@type":"reactionTypeEmoji","emoji":"🔥"},"total_count":"2","is_chosen":1}]}}})"));
+        QCOMPARE(read, (QList<MessageReaction>{{u"❤"_s, 3, true}, {u"🔥"_s, 0, false}}));
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    qputenv("TZ", "UTC-2"); // POSIX notation: two hours east of UTC
+    QCoreApplication application(argc, argv);
+    TextsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_texts.moc"
