@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QJsonObject>
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace demo {
+
+class Client;
+
+// The process-wide state behind TDLib's four JSON entry points: the clients, the
+// queue of answers and updates that td_receive hands out, and the timers of the
+// simulated world, which run on one internal thread. Every client is touched only
+// with the mutex held.
+class Runtime
+{
+public:
+    static Runtime &instance();
+
+    int createClient();
+    void send(int clientID, const char *request);
+    const char *receive(double timeout);
+    static const char *execute(const char *request);
+
+    // With the mutex held (from a client):
+    void post(int clientID, QJsonObject object);
+    void schedule(int clientID, int delayMilliseconds, std::function<void(Client &)> task);
+
+    // VOST_DEMO_DETERMINISTIC=1: fixed clock and timing, no spontaneous activity.
+    static bool deterministic();
+    // Unix seconds; VOST_DEMO_NOW in deterministic mode.
+    static int now();
+
+private:
+    Runtime() = default;
+    void runTimers();
+
+    using Clock = std::chrono::steady_clock;
+    struct Timer {
+        int clientID = 0;
+        std::function<void(Client &)> task;
+    };
+
+    std::mutex m_mutex;
+    std::condition_variable m_outputReady;
+    std::condition_variable m_timersChanged;
+    std::deque<std::string> m_output;
+    std::string m_current;
+    std::map<int, std::unique_ptr<Client>> m_clients;
+    std::map<std::pair<Clock::time_point, quint64>, Timer> m_timers;
+    quint64 m_timerSequence = 0;
+    int m_lastClientID = 0;
+    std::thread m_timerThread;
+};
+
+} // namespace demo

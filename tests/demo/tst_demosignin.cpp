@@ -1,0 +1,70 @@
+// Signing in to the demo account through the real loader, receive loop and session.
+#include "session/TelegramSession.h"
+#include "tdlib/AppBundle.h"
+
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class DemoSignInTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_home.isValid());
+        qputenv("HOME", QFile::encodeName(m_home.path()));
+        qputenv("VOST_DEMO_DETERMINISTIC", "1");
+        QStandardPaths::setTestModeEnabled(true);
+    }
+
+    void signsInWithCodeAndLogsOut()
+    {
+        TelegramSession session;
+        session.setBundle(AppBundle(QStringLiteral(VOST_DEMO_BUNDLE)));
+        session.start(12345, u"demo-hash"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
+
+        session.submitPhoneNumber(u"+1 555 0100"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::verificationCode(), 5000);
+        session.submitVerificationCode(u"12345"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.errorMessageText(), u"PHONE_CODE_INVALID"_s, 5000);
+        QCOMPARE(session.step(), Step::verificationCode());
+
+        session.submitVerificationCode(u"22222"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::ready(), 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(session.currentAccountName(), u"Alex Demo"_s, 5000);
+        QCOMPARE(session.currentAccountPhoneNumber(), u"15550100"_s);
+
+        session.logOutAndChangeAccount();
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
+        QCOMPARE(session.currentAccountName(), QString());
+    }
+
+    void secondNumberAsksForThePassword()
+    {
+        TelegramSession session;
+        session.setBundle(AppBundle(QStringLiteral(VOST_DEMO_BUNDLE)));
+        session.start(12345, u"demo-hash"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
+        session.submitPhoneNumber(u"+15550101"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::verificationCode(), 5000);
+        session.submitVerificationCode(u"22222"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::password(u"the app's name, then demo"_s), 5000);
+        session.submitPassword(u"wrong"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.errorMessageText(), u"PASSWORD_HASH_INVALID"_s, 5000);
+        session.submitPassword(u"vostdemo"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::ready(), 5000);
+        session.logOutAndChangeAccount();
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
+    }
+
+private:
+    QTemporaryDir m_home;
+};
+
+QTEST_GUILESS_MAIN(DemoSignInTest)
+#include "tst_demosignin.moc"
