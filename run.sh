@@ -12,7 +12,7 @@ BUILD_DIR=${VOST_BUILD_DIR:-build}
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
 DEBIAN_PACKAGES=(
-    g++ cmake ninja-build pkg-config zlib1g-dev nodejs:node npm:npm
+    g++ cmake ninja-build pkg-config zlib1g-dev libicu-dev nodejs:node npm:npm
     qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev libgl-dev qt6-qpa-plugins
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine

@@ -186,6 +186,7 @@ void TelegramSession::resetAccountState()
 {
     // The user cache, read markers, avatar owners, base subtitles and muted chats
     // are kept on purpose: they describe Telegram, not the account that left.
+    cancelConversation();
     m_knownChats.clear();
     m_chatIndex.clear();
     m_chatIndexKeys.clear();
@@ -197,6 +198,19 @@ void TelegramSession::resetAccountState()
     for (const QString &chatID : chatsWithMessages)
         Q_EMIT messagesChanged(chatID);
     setCurrentAccount(QString(), QString());
+    m_deletingChats.clear();
+    Q_EMIT deletingChatsChanged();
+    setConversationError(std::nullopt);
+    m_newlyOpenedChatID.reset();
+    Q_EMIT newlyOpenedChatIDChanged();
+    m_contacts.clear();
+    Q_EMIT contactsChanged();
+    m_contactResults.clear();
+    Q_EMIT contactResultsChanged();
+    m_recentStickers.clear();
+    Q_EMIT recentStickersChanged();
+    setRecentStickersLoaded(false);
+    setStickerError(std::nullopt);
 
     m_removedChatIDs.clear();
     m_privateChatUsers.clear();
@@ -217,5 +231,11 @@ void TelegramSession::resetAccountState()
     m_loadingChatLists.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
+    m_pendingRecentStickers.clear();
+    m_rosterOrder.clear();
+    m_contactUsers.clear();
     m_currentUserID.reset();
+    m_requestedTrendingStickers = false;
+    // Late answers to the old account's sticker requests no longer match.
+    m_stickerRequestID = QUuid::createUuid().toString(QUuid::WithoutBraces);
 }

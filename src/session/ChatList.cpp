@@ -60,7 +60,7 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     const std::optional<qint64> date =
         lastMessage.isObject() ? integerFrom(lastMessage.toObject().value("date"_L1)) : std::nullopt;
     chat.preview = previewText(lastMessage.isObject() ? std::optional(lastMessage.toObject()) : std::nullopt);
-    chat.timestamp = timestampText(date, m_now());
+    chat.timestamp = timestampText(date, localToday());
     m_chatTimestamps.insert(id, date.value_or(0));
     chat.unreadCount = integerFrom(object.value("unread_count"_L1)).value_or(0);
     chat.isMuted = isMuted(object.value("notification_settings"_L1));
@@ -96,9 +96,9 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     if (typeOf(type) == "chatTypePrivate"_L1) {
         if (const auto userID = int64From(type.value("user_id"_L1))) {
             if (const auto previous = m_privateChatUsers.constFind(id); previous != m_privateChatUsers.cend())
-                m_privateChatsByUser[*previous].remove(id);
+                m_privateChatsByUser.remove(*previous, id);
             m_privateChatUsers.insert(id, *userID);
-            m_privateChatsByUser[*userID].insert(id);
+            m_privateChatsByUser.insert(*userID, id);
         }
     }
     const QString baseSubtitle = chatSubtitle(type);
@@ -111,7 +111,7 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
         m_mutedChatIDs.insert(id);
     else
         m_mutedChatIDs.remove(id);
-    m_chatsToSort.insert(id);
+    m_chatsToSort.append(id);
     updatePositions(id, object.contains("positions"_L1) ? QJsonValue(positions) : QJsonValue(QJsonArray()), true);
     sortChats();
 }
@@ -135,7 +135,7 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
         message.isObject() ? integerFrom(message.toObject().value("date"_L1)) : std::nullopt;
     m_chatTimestamps.insert(chatID, date.value_or(0));
     const QString preview = previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
-    const QString timestamp = timestampText(date, m_now());
+    const QString timestamp = timestampText(date, localToday());
     updateChat(chatID, [&](Chat &chat) {
         chat.preview = preview;
         chat.timestamp = timestamp;
@@ -150,29 +150,32 @@ void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &p
 {
     if (!positions.isArray())
         return;
-    QHash<QString, ChatPosition> map = replacing ? QHash<QString, ChatPosition>() : m_chatPositions.value(chatID);
+    ChatPositions stored = replacing ? ChatPositions() : m_chatPositions.value(chatID);
     for (const QJsonValue &value : positions.toArray()) {
         const TdObject position = value.toObject();
         const QString listType = typeOf(position.value("list"_L1));
-        if (listType != mainList && listType != archiveList)
-            continue;
+        std::optional<ChatPosition> *slot = listType == mainList      ? &stored.main
+                                            : listType == archiveList ? &stored.archive
+                                                                      : nullptr;
+        if (!slot)
+            continue; // folders and other lists do not place a chat
         const std::optional<qint64> order = int64From(position.value("order"_L1));
         if (!order || *order < 1) {
-            map.remove(listType);
+            slot->reset();
             m_explicitlyOpenedChats.remove(chatID);
         } else {
-            map.insert(listType, {*order, position.value("is_pinned"_L1).toBool()});
+            *slot = ChatPosition{*order, position.value("is_pinned"_L1).toBool()};
         }
     }
-    if (!map.isEmpty())
+    if (!stored.isEmpty())
         m_explicitlyOpenedChats.remove(chatID);
-    const auto sortEntry = map.contains(archiveList) ? map.constFind(archiveList) : map.constFind(mainList);
-    const bool hasEntry = sortEntry != map.cend();
-    m_chatOrders.insert(chatID, hasEntry ? sortEntry->order : 0);
-    const bool pinned = hasEntry && sortEntry->isPinned;
-    const bool archived = map.contains(archiveList);
-    m_chatPositions.insert(chatID, std::move(map));
-    m_chatsToSort.insert(chatID);
+    // The archive decides the order and the pin of a chat that is in both lists.
+    const std::optional<ChatPosition> &sortEntry = stored.archive ? stored.archive : stored.main;
+    m_chatOrders.insert(chatID, sortEntry ? sortEntry->order : 0);
+    const bool pinned = sortEntry && sortEntry->isPinned;
+    const bool archived = stored.archive.has_value();
+    m_chatPositions.insert(chatID, stored);
+    m_chatsToSort.append(chatID);
     updateChat(chatID, [&](Chat &chat) {
         chat.isArchived = archived;
         chat.isPinned = pinned;
@@ -189,15 +192,18 @@ void TelegramSession::sortChats()
 {
     // Only the chats touched since the last sort can have moved.
     for (const QString &chatID : std::as_const(m_chatsToSort)) {
-        if (const auto key = m_chatIndexKeys.constFind(chatID); key != m_chatIndexKeys.cend()) {
-            m_chatIndex.erase(*key);
-            m_chatIndexKeys.erase(key);
-        }
         const bool visible = m_knownChats.contains(chatID) && !m_removedChatIDs.contains(chatID) &&
                              (hasListPosition(chatID) || m_explicitlyOpenedChats.contains(chatID));
+        const ChatSortKey key{m_chatOrders.value(chatID, 0), parseInt64(chatID).value_or(0)};
+        const auto indexed = m_chatIndexKeys.find(chatID);
+        if (indexed != m_chatIndexKeys.end()) {
+            if (visible && !(*indexed < key) && !(key < *indexed))
+                continue; // already in place
+            m_chatIndex.erase(*indexed);
+            m_chatIndexKeys.erase(indexed);
+        }
         if (!visible)
             continue;
-        const ChatSortKey key{m_chatOrders.value(chatID, 0), parseInt64(chatID).value_or(0)};
         m_chatIndex.emplace(key, chatID);
         m_chatIndexKeys.insert(chatID, key);
     }

@@ -1,10 +1,394 @@
-// Contacts and conversations.
+// Contacts and conversations: the roster and contact search, adding a contact by
+// phone number, opening a public username or a private chat (one outstanding
+// request with a time-out), and deleting chats and contacts.
 
+#include "session/ContactInput.h"
+#include "session/Initials.h"
 #include "session/TelegramSession.h"
+
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int conversationTimeoutMs = 45000;
+constexpr int maximumNameLength = 64;
+
+TdObject tagged(const QString &purpose, std::initializer_list<std::pair<QLatin1StringView, QJsonValue>> context = {})
+{
+    TdObject extra{{"purpose"_L1, purpose}};
+    for (const auto &[key, value] : context)
+        extra.insert(key, value);
+    return extra;
+}
+
+QString errorText(const TdObject &error)
+{
+    const QJsonValue message = error.value("message"_L1);
+    return message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
+}
+
+} // namespace
+
+void TelegramSession::setConversationError(const std::optional<QString> &error)
+{
+    if (m_conversationError == error)
+        return;
+    m_conversationError = error;
+    Q_EMIT conversationErrorChanged();
+}
+
+void TelegramSession::setCreatingConversation(bool creating)
+{
+    if (m_creatingConversation == creating)
+        return;
+    m_creatingConversation = creating;
+    Q_EMIT creatingConversationChanged();
+}
+
 void TelegramSession::refreshContacts()
 {
-    send(u"getContacts"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"contact_roster"_s}}}});
+    send(u"getContacts"_s, {{"@extra"_L1, tagged(u"contact_roster"_s)}});
+}
+
+void TelegramSession::searchContacts(const QString &query)
+{
+    const QString trimmed = query.trimmed();
+    m_contactQuery = trimmed;
+    if (trimmed.isEmpty()) {
+        m_contactResults.clear();
+        Q_EMIT contactResultsChanged();
+        return;
+    }
+    send(
+        u"searchContacts"_s,
+        {{"query"_L1, trimmed}, {"limit"_L1, 30}, {"@extra"_L1, tagged(u"contact_search"_s, {{"query"_L1, trimmed}})}});
+}
+
+QString TelegramSession::beginConversation()
+{
+    cancelConversation();
+    setConversationError(std::nullopt);
+    setCreatingConversation(true);
+    const QString requestID = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    m_conversationRequestID = requestID;
+    m_conversationTimeout->start(conversationTimeoutMs);
+    return requestID;
+}
+
+void TelegramSession::cancelConversation()
+{
+    m_conversationTimeout->stop();
+    m_conversationRequestID.reset();
+    setCreatingConversation(false);
+}
+
+void TelegramSession::failConversation(const QString &text)
+{
+    cancelConversation();
+    setConversationError(text);
+}
+
+void TelegramSession::createContact(const QString &firstName, const QString &lastName, const QString &phone,
+                                    const QString &note)
+{
+    if (m_creatingConversation)
+        return;
+    const QString first = firstName.trimmed();
+    const QString last = lastName.trimmed();
+    if (first.isEmpty() || first.size() > maximumNameLength || last.size() > maximumNameLength) {
+        setConversationError(u"Enter a first name. First and last names can each contain up to 64 characters."_s);
+        return;
+    }
+    const std::optional<QString> number = normalizedContactPhone(phone);
+    if (!number) {
+        setConversationError(
+            u"Enter a valid phone number including + and the country code (for example, +44 7700 900123)."_s);
+        return;
+    }
+    const QString requestID = beginConversation();
+    const QJsonValue noteText =
+        note.isEmpty()
+            ? QJsonValue(QJsonValue::Null)
+            : QJsonValue(TdObject{{"@type"_L1, u"formattedText"_s}, {"text"_L1, note}, {"entities"_L1, QJsonArray()}});
+    send(u"importContacts"_s, {{"contacts"_L1, QJsonArray{TdObject{{"@type"_L1, u"importedContact"_s},
+                                                                   {"phone_number"_L1, *number},
+                                                                   {"first_name"_L1, first},
+                                                                   {"last_name"_L1, last},
+                                                                   {"note"_L1, noteText}}}},
+                               {"@extra"_L1, tagged(u"new_contact"_s, {{"conversation_request"_L1, requestID}})}});
+}
+
+void TelegramSession::openUsername(const QString &username)
+{
+    if (m_creatingConversation)
+        return;
+    const std::optional<QString> name = cleanedUsername(username);
+    if (!name) {
+        setConversationError(
+            u"Enter a Telegram username, such as @username, using letters, numbers and underscores."_s);
+        return;
+    }
+    const QString requestID = beginConversation();
+    send(u"searchPublicChat"_s,
+         {{"username"_L1, *name},
+          {"@extra"_L1, tagged(u"open_private_chat"_s, {{"conversation_request"_L1, requestID}})}});
+}
+
+void TelegramSession::requestPrivateChat(qint64 userID, const QString &requestID, bool contactSaved)
+{
+    send(u"createPrivateChat"_s, {{"user_id"_L1, userID},
+                                  {"force"_L1, false},
+                                  {"@extra"_L1, tagged(u"open_private_chat"_s, {{"conversation_request"_L1, requestID},
+                                                                                {"contact_saved"_L1, contactSaved}})}});
+}
+
+void TelegramSession::deleteChat(const QString &chatID, bool includingContact)
+{
+    const std::optional<qint64> chat = parseInt64(chatID);
+    if (!chat)
+        return;
+    m_deletingChats.insert(chatID);
+    Q_EMIT deletingChatsChanged();
+    TdObject extra = tagged(u"delete_chat"_s, {{"chat_id"_L1, chatID}});
+    if (includingContact)
+        extra.insert("contact_id"_L1, m_privateChatUsers.value(chatID, 0));
+    send(u"deleteChatHistory"_s,
+         {{"chat_id"_L1, *chat}, {"remove_from_chat_list"_L1, true}, {"revoke"_L1, false}, {"@extra"_L1, extra}});
+}
+
+void TelegramSession::deleteContact(qint64 userID)
+{
+    send(u"removeContacts"_s, {{"user_ids"_L1, QJsonArray{userID}},
+                               {"@extra"_L1, tagged(u"delete_contact"_s, {{"contact_id"_L1, userID}})}});
+}
+
+bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object)
+{
+    const TdObject extra = object.value("@extra"_L1).toObject();
+    const QJsonValue request = extra.value("conversation_request"_L1);
+    if (purpose == "new_contact"_L1 || purpose == "open_private_chat"_L1 || !request.isUndefined()) {
+        if (type != "importedContacts"_L1 && type != "chat"_L1 && type != "error"_L1)
+            return false;
+        if (request.toString() != m_conversationRequestID)
+            return true; // a late answer to a conversation that has ended
+        if (type == "error"_L1) {
+            failConversation(
+                extra.value("contact_saved"_L1).toBool()
+                    ? u"The contact was saved, but the chat could not be opened. Try opening it from Contacts."_s
+                    : errorText(object));
+        } else if (type == "chat"_L1) {
+            openConversationChat(object);
+        } else if (purpose == "new_contact"_L1) {
+            refreshContacts();
+            for (const QJsonValue &id : object.value("user_ids"_L1).toArray()) {
+                if (const auto userID = int64From(id); userID && *userID != 0) {
+                    requestPrivateChat(*userID, request.toString(), true);
+                    return true;
+                }
+            }
+            failConversation(u"No Telegram account could be found for that number. Check the country code or try their "
+                             u"username; Telegram privacy settings can prevent phone-number lookup."_s);
+        } else {
+            return false;
+        }
+        return true;
+    }
+    if (purpose == "delete_chat"_L1 && (type == "ok"_L1 || type == "error"_L1)) {
+        const QString chatID = extra.value("chat_id"_L1).toString();
+        if (type == "error"_L1) {
+            m_deletingChats.remove(chatID);
+            Q_EMIT deletingChatsChanged();
+            setConversationError(u"Telegram could not complete this action."_s);
+            return true;
+        }
+        forgetChat(chatID);
+        const qint64 contactID = int64From(extra.value("contact_id"_L1)).value_or(0);
+        if (contactID != 0) {
+            send(u"removeContacts"_s, {{"user_ids"_L1, QJsonArray{contactID}},
+                                       {"@extra"_L1, tagged(u"chat_deleted"_s, {{"contact_id"_L1, contactID}})}});
+        }
+        return true;
+    }
+    if ((purpose == "chat_deleted"_L1 || purpose == "delete_contact"_L1 || purpose == "contact_saved"_L1) &&
+        (type == "ok"_L1 || type == "error"_L1)) {
+        if (type == "error"_L1) {
+            if (purpose == "chat_deleted"_L1)
+                setConversationError(u"The chat was deleted, but the contact could not be removed."_s);
+            else if (purpose == "contact_saved"_L1)
+                setConversationError(
+                    u"The contact was saved, but the chat could not be opened. Try opening it from Contacts."_s);
+            else
+                setConversationError(u"Telegram could not complete this action."_s);
+            return true;
+        }
+        if (const auto contactID = int64From(extra.value("contact_id"_L1))) {
+            m_contactUserIDs.remove(*contactID);
+            m_rosterOrder.removeAll(*contactID);
+            if (m_contacts.removeIf([id = *contactID](const ContactChoice &c) { return c.id == id; }) > 0)
+                Q_EMIT contactsChanged();
+        }
+        refreshContacts();
+        return true;
+    }
+    if (purpose == "contact_search"_L1 && type == "users"_L1) {
+        const QJsonArray ids = object.value("user_ids"_L1).toArray();
+        const QString query = extra.value("query"_L1).toString();
+        if (query == m_contactQuery) {
+            m_contactResults.clear();
+            Q_EMIT contactResultsChanged();
+        }
+        for (const QJsonValue &id : ids) {
+            if (const auto userID = int64From(id))
+                send(u"getUser"_s, {{"user_id"_L1, *userID},
+                                    {"@extra"_L1, tagged(u"contact_search_result"_s, {{"query"_L1, query}})}});
+        }
+        return true;
+    }
+    if (purpose == "contact_roster"_L1 && type == "users"_L1) {
+        m_rosterOrder.clear();
+        for (const QJsonValue &id : object.value("user_ids"_L1).toArray()) {
+            if (const auto userID = int64From(id)) {
+                m_rosterOrder.append(*userID);
+                send(u"getUser"_s, {{"user_id"_L1, *userID}, {"@extra"_L1, tagged(u"contact_roster_result"_s)}});
+            }
+        }
+        // Contacts that left the roster leave the list.
+        if (m_contacts.removeIf([this](const ContactChoice &c) { return !m_rosterOrder.contains(c.id); }) > 0)
+            Q_EMIT contactsChanged();
+        return true;
+    }
+    if (purpose == "contact_search_result"_L1 && type == "user"_L1) {
+        storeUser(object);
+        publishContactResult(object, extra.value("query"_L1).toString());
+        return true;
+    }
+    if (purpose == "contact_roster_result"_L1 && type == "user"_L1) {
+        storeUser(object);
+        publishRosterContact(object);
+        return true;
+    }
+    return false;
+}
+
+void TelegramSession::openConversationChat(const TdObject &chat)
+{
+    const std::optional<qint64> id = int64From(chat.value("id"_L1));
+    if (!id) {
+        failConversation(u"Telegram returned an unknown error."_s);
+        return;
+    }
+    const QString chatID = QString::number(*id);
+    m_removedChatIDs.remove(chatID);
+    // Opened directly, so shown even before TDLib gives it a list position.
+    m_explicitlyOpenedChats.insert(chatID);
+    addOrUpdateChat(chat);
+    cancelConversation();
+    m_newlyOpenedChatID = chatID;
+    Q_EMIT newlyOpenedChatIDChanged();
+}
+
+void TelegramSession::forgetChat(const QString &chatID)
+{
+    m_removedChatIDs.insert(chatID);
+    m_deletingChats.remove(chatID);
+    Q_EMIT deletingChatsChanged();
+    m_knownChats.remove(chatID);
+    m_chatPositions.remove(chatID);
+    m_chatOrders.remove(chatID);
+    m_chatTimestamps.remove(chatID);
+    m_explicitlyOpenedChats.remove(chatID);
+    m_rawMessagesByChat.remove(chatID);
+    m_loadingInitialHistory.remove(chatID);
+    m_initialHistoryProgress.remove(chatID);
+    m_loadingOlderHistory.remove(chatID);
+    m_exhaustedHistory.remove(chatID);
+    m_expandedHistory.remove(chatID);
+    if (m_messagesByChat.remove(chatID) > 0)
+        Q_EMIT messagesChanged(chatID);
+    m_chatsToSort.append(chatID);
+    sortChats();
+}
+
+ContactChoice TelegramSession::makeContactChoice(qint64 userID, const TdObject &user) const
+{
+    QStringList names;
+    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
+        const QString name = user.value(key).toString();
+        if (!name.isEmpty())
+            names.append(name);
+    }
+    const QString name = names.isEmpty() ? u"Telegram contact"_s : names.join(u' ');
+    const QJsonArray active = user.value("usernames"_L1).toObject().value("active_usernames"_L1).toArray();
+    const QString username = active.isEmpty() ? QString() : u"@"_s + active.first().toString();
+    const auto stored = m_telegramUsers.constFind(userID);
+    return {userID,
+            name,
+            username,
+            initials(name),
+            stored != m_telegramUsers.cend() ? stored->avatarPath : std::nullopt,
+            m_onlineUsers.contains(userID)};
+}
+
+void TelegramSession::publishRosterContact(const TdObject &user)
+{
+    const std::optional<qint64> userID = int64From(user.value("id"_L1));
+    if (!userID || !m_rosterOrder.contains(*userID))
+        return;
+    m_contactUsers.insert(*userID, user);
+    const ContactChoice choice = makeContactChoice(*userID, user);
+    const auto same = std::find_if(m_contacts.begin(), m_contacts.end(),
+                                   [&choice](const ContactChoice &c) { return c.id == choice.id; });
+    if (same != m_contacts.end()) {
+        *same = choice;
+    } else {
+        // Keep the roster's order.
+        const qsizetype rank = m_rosterOrder.indexOf(*userID);
+        const auto after = std::find_if(m_contacts.begin(), m_contacts.end(), [this, rank](const ContactChoice &c) {
+            return m_rosterOrder.indexOf(c.id) > rank;
+        });
+        m_contacts.insert(after, choice);
+    }
+    Q_EMIT contactsChanged();
+}
+
+void TelegramSession::publishContactResult(const TdObject &user, const QString &query)
+{
+    const std::optional<qint64> userID = int64From(user.value("id"_L1));
+    if (!userID || query != m_contactQuery)
+        return; // a result of an earlier search
+    m_contactUsers.insert(*userID, user);
+    const ContactChoice choice = makeContactChoice(*userID, user);
+    const auto same = std::find_if(m_contactResults.begin(), m_contactResults.end(),
+                                   [&choice](const ContactChoice &c) { return c.id == choice.id; });
+    if (same != m_contactResults.end())
+        *same = choice;
+    else
+        m_contactResults.append(choice);
+    Q_EMIT contactResultsChanged();
+}
+
+void TelegramSession::refreshContactEntries(qint64 userID)
+{
+    const auto refresh = [this, userID](QList<ContactChoice> &list) {
+        bool changed = false;
+        for (ContactChoice &contact : list) {
+            if (contact.id != userID)
+                continue;
+            ContactChoice updated = makeContactChoice(userID, m_contactUsers.value(userID));
+            if (!m_contactUsers.contains(userID)) {
+                updated.name = contact.name;
+                updated.username = contact.username;
+                updated.initials = contact.initials;
+            }
+            changed |= updated != contact;
+            contact = updated;
+        }
+        return changed;
+    };
+    if (refresh(m_contacts))
+        Q_EMIT contactsChanged();
+    if (refresh(m_contactResults))
+        Q_EMIT contactResultsChanged();
 }

@@ -4,23 +4,31 @@
 
 using namespace Qt::StringLiterals;
 
-QString timestampText(std::optional<qint64> date, const QDateTime &now)
+namespace {
+// Read once: the system locale does not change under a running client.
+const QLocale &userLocale()
+{
+    static const QLocale locale = QLocale::system();
+    return locale;
+}
+} // namespace
+
+QString timestampText(std::optional<qint64> date, QDate today)
 {
     if (!date)
         return {};
     const QDateTime time = QDateTime::fromSecsSinceEpoch(*date);
-    const QDate today = now.toLocalTime().date();
     const QDate day = time.date();
     if (day == today)
-        return QLocale::system().toString(time, u"H:mm"_s);
+        return userLocale().toString(time, u"H:mm"_s);
     if (day == today.addDays(-1))
         return u"Yesterday"_s;
-    return QLocale::system().toString(time, u"d MMM"_s);
+    return userLocale().toString(time, u"d MMM"_s);
 }
 
 QString messageTime(std::optional<qint64> date)
 {
     if (!date)
         return {};
-    return QLocale::system().toString(QDateTime::fromSecsSinceEpoch(*date), u"H:mm"_s);
+    return userLocale().toString(QDateTime::fromSecsSinceEpoch(*date), u"H:mm"_s);
 }

@@ -17,10 +17,9 @@ std::optional<QString> chatIDIn(const TdObject &object)
 
 } // namespace
 
-void TelegramSession::handle(const TdObject &object)
+void TelegramSession::handle(const TdObject &object, const QString &type)
 {
-    recordImageDiagnosticEvent(object);
-    const QString type = typeOf(object);
+    recordImageDiagnosticEvent(type, object);
     if (type == "updateConnectionState"_L1) {
         if (typeOf(object.value("state"_L1)) == "connectionStateReady"_L1 && isReady()) {
             requestChats();
@@ -28,8 +27,10 @@ void TelegramSession::handle(const TdObject &object)
         }
         return;
     }
+    if (routeStickerAnswer(type, object))
+        return;
     const QJsonValue purpose = object.value("@extra"_L1).toObject().value("purpose"_L1);
-    if (purpose.isString() && routeByPurpose(purpose.toString(), object))
+    if (purpose.isString() && routeByPurpose(purpose.toString(), type, object))
         return;
     if (routeByType(type, object))
         return;
@@ -41,9 +42,8 @@ void TelegramSession::handle(const TdObject &object)
         handleGenericError(object);
 }
 
-bool TelegramSession::routeByPurpose(const QString &purpose, const TdObject &object)
+bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type, const TdObject &object)
 {
-    const QString type = typeOf(object);
     if (purpose == "load_chat_list"_L1) {
         const QString listType = object.value("@extra"_L1).toObject().value("list"_L1).toString();
         if (type == "ok"_L1) {
@@ -61,6 +61,8 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const TdObject &obj
         }
         return false;
     }
+    if (routeContactAnswer(purpose, type, object))
+        return true;
     if (purpose == "current_user"_L1 && type == "user"_L1) {
         storeCurrentUser(object);
         storeUser(object);
@@ -76,18 +78,11 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const TdObject &obj
 
 bool TelegramSession::routeByType(const QString &type, const TdObject &object)
 {
-    // Updates about one chat: the chat's key, when the update names one.
+    // Updates about one chat carry its key; only those need it read.
+    if (!type.startsWith("updateChat"_L1))
+        return routeByTypeWithoutChat(type, object);
     const std::optional<QString> chatID = chatIDIn(object);
-    if (type == "updateNewChat"_L1) {
-        addOrUpdateChat(object.value("chat"_L1).toObject());
-    } else if (type == "chat"_L1) {
-        addOrUpdateChat(object);
-    } else if (type == "chats"_L1) {
-        for (const QJsonValue &id : object.value("chat_ids"_L1).toArray()) {
-            if (const auto chat = int64From(id))
-                requestChat(*chat);
-        }
-    } else if (type == "updateChatPosition"_L1) {
+    if (type == "updateChatPosition"_L1) {
         if (!chatID)
             return true;
         updatePositions(*chatID, QJsonArray{object.value("position"_L1)}, false);
@@ -123,6 +118,36 @@ bool TelegramSession::routeByType(const QString &type, const TdObject &object)
         handleReadInbox(object);
     } else if (type == "updateChatReadOutbox"_L1) {
         handleReadOutbox(object);
+    } else if (type == "updateChatAction"_L1) {
+        updateTypingStatus(object);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void TelegramSession::handleGenericError(const TdObject &error)
+{
+    const QJsonValue message = error.value("message"_L1);
+    const QString text = message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
+    setErrorMessage(text);
+    // An error before the first authorization state ends the session.
+    if (m_step.kind() == Step::Case::Starting)
+        setStep(Step::unavailable(text));
+    m_soundManager->play(SoundEvent::Failure);
+}
+
+bool TelegramSession::routeByTypeWithoutChat(const QString &type, const TdObject &object)
+{
+    if (type == "updateNewChat"_L1) {
+        addOrUpdateChat(object.value("chat"_L1).toObject());
+    } else if (type == "chat"_L1) {
+        addOrUpdateChat(object);
+    } else if (type == "chats"_L1) {
+        for (const QJsonValue &id : object.value("chat_ids"_L1).toArray()) {
+            if (const auto chat = int64From(id))
+                requestChat(*chat);
+        }
     } else if (type == "messages"_L1) {
         storeMessages(object.value("messages"_L1).toArray(), object.value("@extra"_L1).toObject());
     } else if (type == "message"_L1) {
@@ -153,23 +178,10 @@ bool TelegramSession::routeByType(const QString &type, const TdObject &object)
     } else if (type == "updateUserStatus"_L1) {
         if (const auto userID = int64From(object.value("user_id"_L1)))
             setUserOnline(*userID, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
-    } else if (type == "updateChatAction"_L1) {
-        updateTypingStatus(object);
     } else if (type == "updateFile"_L1) {
         applyDownloadedFile(object.value("file"_L1).toObject());
     } else {
         return false;
     }
     return true;
-}
-
-void TelegramSession::handleGenericError(const TdObject &error)
-{
-    const QJsonValue message = error.value("message"_L1);
-    const QString text = message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
-    setErrorMessage(text);
-    // An error before the first authorization state ends the session.
-    if (m_step.kind() == Step::Case::Starting)
-        setStep(Step::unavailable(text));
-    m_soundManager->play(SoundEvent::Failure);
 }

@@ -130,9 +130,11 @@ void TelegramSession::applyDownloadedFile(const TdObject &file)
         if (const auto user = m_telegramUsers.find(*userID); user != m_telegramUsers.end()) {
             user->avatarPath = path;
             republishChatsWithMessages();
+            refreshContactEntries(*userID);
         }
     }
     m_downloadedMediaPaths.insert(*fileID, *path);
+    completePendingStickers(*fileID, *path);
     for (const QString &chatID : m_messageMediaOwners.value(*fileID))
         publishMessages(chatID);
 }

@@ -18,9 +18,8 @@ void TelegramSession::appendImageDiagnostic(const QString &chatID, const QString
         lines.removeFirst();
 }
 
-void TelegramSession::recordImageDiagnosticEvent(const TdObject &object)
+void TelegramSession::recordImageDiagnosticEvent(const QString &type, const TdObject &object)
 {
-    const QString type = typeOf(object);
     QJsonArray messages;
     if (type == "messages"_L1)
         messages = object.value("messages"_L1).toArray();

@@ -329,11 +329,12 @@ void TelegramSession::handleNewMessage(const TdObject &message)
         const QString chatID = QString::number(*chat);
         // A new message brings a deleted chat back.
         m_removedChatIDs.remove(chatID);
-        m_chatsToSort.insert(chatID);
+        m_chatsToSort.append(chatID);
         if (!m_chatIndexKeys.contains(chatID))
             requestChat(*chat);
     }
     storeNewMessage(message);
+    notifyIfNeeded(message);
 }
 
 void TelegramSession::handleReadInbox(const TdObject &update)

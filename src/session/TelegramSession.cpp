@@ -26,11 +26,28 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
     , m_startupStatus(u"Waiting to start"_s)
-{}
+    , m_stickerRequestID(QUuid::createUuid().toString(QUuid::WithoutBraces))
+    , m_conversationTimeout(new QTimer(this))
+{
+    m_conversationTimeout->setSingleShot(true);
+    connect(m_conversationTimeout, &QTimer::timeout, this, [this] {
+        failConversation(u"Telegram took too long to respond. A submitted contact may already be saved. Check "
+                         u"Contacts or try again."_s);
+    });
+}
 
 TelegramSession::~TelegramSession()
 {
     shutDown();
+}
+
+QDate TelegramSession::localToday()
+{
+    if (!m_todayAge.isValid() || m_todayAge.hasExpired(1000)) {
+        m_today = m_now().toLocalTime().date();
+        m_todayAge.start();
+    }
+    return m_today;
 }
 
 void TelegramSession::setStep(const Step &step)
@@ -54,6 +71,7 @@ void TelegramSession::setStartupStatus(const QString &status)
     if (m_startupStatus == status)
         return;
     m_startupStatus = status;
+    m_lastEventType.clear();
     Q_EMIT startupStatusChanged();
 }
 
@@ -112,18 +130,22 @@ void TelegramSession::handleResponse(const QString &json)
 
 void TelegramSession::handleResponse(const QByteArray &json)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    [[maybe_unused]] const QString validated = decoder(json);
+    const bool valid = isValidUtf8(json);
     QJsonParseError parseError;
-    const QJsonDocument document = decoder.hasError() ? QJsonDocument() : QJsonDocument::fromJson(json, &parseError);
-    if (decoder.hasError() || parseError.error != QJsonParseError::NoError || !document.isObject()) {
+    const QJsonDocument document = valid ? QJsonDocument::fromJson(json, &parseError) : QJsonDocument();
+    if (!valid || parseError.error != QJsonParseError::NoError || !document.isObject()) {
         setStartupStatus(u"TDLib returned an unreadable response."_s);
         return;
     }
     const TdObject object = document.object();
     const QJsonValue type = object.value("@type"_L1);
-    setStartupStatus(u"Received TDLib event: "_s + (type.isString() ? type.toString() : u"unknown"_s));
-    handle(object);
+    const QString typeName = type.isString() ? type.toString() : QString();
+    // Consecutive events of one type leave the text as it is; this runs for every event.
+    if (typeName.isEmpty() || typeName != m_lastEventType) {
+        setStartupStatus(u"Received TDLib event: "_s + (type.isString() ? typeName : u"unknown"_s));
+        m_lastEventType = typeName;
+    }
+    handle(object, typeName);
 }
 
 void TelegramSession::shutDown()

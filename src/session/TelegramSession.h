@@ -6,6 +6,7 @@
 #include "tdlib/TdJson.h"
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QObject>
 
 #include <QHash>
@@ -17,6 +18,7 @@
 #include <optional>
 
 class QEventLoop;
+class QTimer;
 class ReceiveLoop;
 class SoundManager;
 class TDLibRuntime;
@@ -49,7 +51,11 @@ public:
     void setBundle(std::optional<AppBundle> bundle) { m_bundle = std::move(bundle); }
     void setSoundManager(const SoundManager *soundManager) { m_soundManager = soundManager; }
     // The clock behind date texts; the system clock unless set.
-    void setClock(Clock clock) { m_now = std::move(clock); }
+    void setClock(Clock clock)
+    {
+        m_now = std::move(clock);
+        m_todayAge.invalidate();
+    }
 
     Step step() const { return m_step; }
     bool isReady() const { return m_step.kind() == Step::Case::Ready; }
@@ -82,8 +88,42 @@ public:
     Q_INVOKABLE void loadOlderMessages(const QString &chatID, const QString &messageID);
     void markMessagesRead(const QList<Message> &messages, const QString &chatID);
 
-    // Contacts
+    // Sending, editing, forwarding and deleting. Identifiers are decimal text;
+    // a bad one sends nothing.
+    Q_INVOKABLE void sendText(const QString &text, const QString &chatID, const QString &replyTo = {});
+    Q_INVOKABLE void editText(const QString &messageID, const QString &text, const QString &chatID);
+    Q_INVOKABLE void deleteMessage(const QString &messageID, const QString &chatID);
+    Q_INVOKABLE void forwardMessage(const QString &messageID, const QString &fromChatID, const QString &toChatID);
+    void sendAttachments(const QList<PendingAttachment> &attachments, const QString &caption, const QString &chatID);
+    Q_INVOKABLE void sendPhoto(const QString &path, const QString &caption, const QString &chatID);
+    Q_INVOKABLE void sendDocument(const QString &path, const QString &caption, const QString &chatID);
+    // Adds the reaction, or removes it when the user has it chosen now.
+    Q_INVOKABLE void setReaction(const QString &emoji, bool chosen, const QString &messageID, const QString &chatID);
+
+    // Stickers. source: "all", "recent", "installed" or "trending".
+    Q_INVOKABLE void loadStickers(const QString &query, const QString &source);
+    void sendSticker(const StickerChoice &sticker, const QString &chatID);
+    const QList<StickerChoice> &recentStickers() const { return m_recentStickers; }
+    bool recentStickersLoaded() const { return m_recentStickersLoaded; }
+    std::optional<QString> stickerError() const { return m_stickerError; }
+
+    // Contacts and conversations
     Q_INVOKABLE void refreshContacts();
+    Q_INVOKABLE void searchContacts(const QString &query);
+    Q_INVOKABLE void createContact(const QString &firstName, const QString &lastName, const QString &phone,
+                                   const QString &note);
+    Q_INVOKABLE void openUsername(const QString &username);
+    // Starts the one outstanding conversation request and returns its identifier.
+    Q_INVOKABLE QString beginConversation();
+    Q_INVOKABLE void requestPrivateChat(qint64 userID, const QString &requestID, bool contactSaved);
+    Q_INVOKABLE void deleteChat(const QString &chatID, bool includingContact);
+    Q_INVOKABLE void deleteContact(qint64 userID);
+    const QList<ContactChoice> &contacts() const { return m_contacts; }
+    const QList<ContactChoice> &contactResults() const { return m_contactResults; }
+    std::optional<QString> conversationError() const { return m_conversationError; }
+    bool creatingConversation() const { return m_creatingConversation; }
+    const QSet<QString> &deletingChats() const { return m_deletingChats; }
+    std::optional<QString> newlyOpenedChatID() const { return m_newlyOpenedChatID; }
 
     // One raw answer or update as TDLib delivered it.
     void handleResponse(const QByteArray &json);
@@ -101,6 +141,15 @@ Q_SIGNALS:
     void startupStatusChanged();
     void currentAccountNameChanged();
     void currentAccountPhoneNumberChanged();
+    void recentStickersChanged();
+    void recentStickersLoadedChanged();
+    void stickerErrorChanged();
+    void contactsChanged();
+    void contactResultsChanged();
+    void conversationErrorChanged();
+    void creatingConversationChanged();
+    void deletingChatsChanged();
+    void newlyOpenedChatIDChanged();
 
 private:
     // Channel
@@ -108,11 +157,12 @@ private:
     void startClient();
     void quietTDLibLog();
     friend class ChannelTest;
-    void handle(const TdObject &object);
+    void handle(const TdObject &object, const QString &type);
 
     // Dispatcher
-    bool routeByPurpose(const QString &purpose, const TdObject &object);
+    bool routeByPurpose(const QString &purpose, const QString &type, const TdObject &object);
     bool routeByType(const QString &type, const TdObject &object);
+    bool routeByTypeWithoutChat(const QString &type, const TdObject &object);
     void handleGenericError(const TdObject &error);
 
     // Authorization
@@ -166,9 +216,45 @@ private:
     std::optional<QString> prepareUserAvatar(const QJsonValue &photo, qint64 userID);
     void republishChatsWithMessages();
 
+    // Outgoing
+    void sendAttachmentGroups(const QList<PendingAttachment> &attachments, const QString &caption,
+                              const QString &chatID);
+    void sendAttachmentGroup(const QList<PendingAttachment> &attachments, const QString &caption,
+                             const QString &chatID);
+    void sendFile(const QString &path, const QString &caption, const QString &chatID, PendingAttachmentKind kind);
+
+    // Stickers
+    bool routeStickerAnswer(const QString &type, const TdObject &object);
+    void requestTrendingStickers();
+    void requestStickerSets(const QJsonArray &sets);
+    void prepareStickerChoices(const QJsonArray &stickers, bool reset);
+    void addRecentSticker(const StickerChoice &choice);
+    void completePendingStickers(qint64 fileID, const QString &path);
+    void setRecentStickersLoaded(bool loaded);
+    void setStickerError(const std::optional<QString> &error);
+
+    // Contacts and conversations
+    bool routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object);
+    void cancelConversation();
+    void failConversation(const QString &text);
+    void setConversationError(const std::optional<QString> &error);
+    void setCreatingConversation(bool creating);
+    void openConversationChat(const TdObject &chat);
+    void forgetChat(const QString &chatID);
+    ContactChoice makeContactChoice(qint64 userID, const TdObject &user) const;
+    void publishRosterContact(const TdObject &user);
+    void publishContactResult(const TdObject &user, const QString &query);
+    void refreshContactEntries(qint64 userID);
+
+    // Notifications
+    void notifyIfNeeded(const TdObject &message);
+
     // Image diagnostics
-    void recordImageDiagnosticEvent(const TdObject &object);
+    void recordImageDiagnosticEvent(const QString &type, const TdObject &object);
     void appendImageDiagnostic(const QString &chatID, const QString &line);
+
+    // The user's calendar day, read from the clock at most once a second.
+    QDate localToday();
 
     void setStep(const Step &step);
     void setErrorMessage(const std::optional<QString> &message);
@@ -179,11 +265,14 @@ private:
     std::optional<AppBundle> m_bundle;
     const SoundManager *m_soundManager;
     Clock m_now;
+    QDate m_today;
+    QElapsedTimer m_todayAge;
 
     // Published
     Step m_step;
     std::optional<QString> m_errorMessage;
     QString m_startupStatus;
+    QString m_lastEventType; // the event type behind the status text, when it names one
     QString m_currentAccountName;
     QString m_currentAccountPhoneNumber;
 
@@ -212,21 +301,27 @@ private:
         qint64 order = 0;
         bool isPinned = false;
     };
+    // A chat's places in the main list and in the archive.
+    struct ChatPositions {
+        std::optional<ChatPosition> main;
+        std::optional<ChatPosition> archive;
+        bool isEmpty() const { return !main && !archive; }
+    };
     QHash<QString, Chat> m_knownChats;
-    QHash<QString, QHash<QString, ChatPosition>> m_chatPositions; // by list type
+    QHash<QString, ChatPositions> m_chatPositions;
     QHash<QString, qint64> m_chatOrders;
     QHash<QString, qint64> m_chatTimestamps;
     QHash<QString, qint64> m_lastReadInbox;
     QSet<QString> m_mutedChatIDs;
     QHash<QString, qint64> m_privateChatUsers;
-    QHash<qint64, QSet<QString>> m_privateChatsByUser;
+    QMultiHash<qint64, QString> m_privateChatsByUser;
     QHash<QString, QString> m_baseChatSubtitles;
     QSet<QString> m_explicitlyOpenedChats;
     QSet<QString> m_removedChatIDs;
     QSet<QString> m_loadingChatLists;
     std::map<ChatSortKey, QString> m_chatIndex;
     QHash<QString, ChatSortKey> m_chatIndexKeys;
-    QSet<QString> m_chatsToSort;
+    QList<QString> m_chatsToSort; // may repeat; sorting is idempotent
     mutable QList<Chat> m_publishedChats;
     mutable bool m_publishedChatsValid = true;
 
@@ -255,4 +350,26 @@ private:
     QSet<qint64> m_contactUserIDs;
 
     QHash<QString, QStringList> m_imageDiagnosticEvents;
+
+    // Stickers
+    QList<StickerChoice> m_recentStickers;
+    bool m_recentStickersLoaded = false;
+    std::optional<QString> m_stickerError;
+    QString m_stickerRequestID;
+    QHash<qint64, QList<StickerChoice>> m_pendingRecentStickers;
+    bool m_requestedTrendingStickers = false;
+    QSet<qint64> m_requestedStickerSets;
+
+    // Contacts and conversations
+    QList<ContactChoice> m_contacts;
+    QList<qint64> m_rosterOrder;
+    QHash<qint64, TdObject> m_contactUsers; // the user objects behind contact entries
+    QList<ContactChoice> m_contactResults;
+    QString m_contactQuery;
+    std::optional<QString> m_conversationError;
+    bool m_creatingConversation = false;
+    QSet<QString> m_deletingChats;
+    std::optional<QString> m_newlyOpenedChatID;
+    std::optional<QString> m_conversationRequestID;
+    QTimer *m_conversationTimeout;
 };

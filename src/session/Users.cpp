@@ -13,10 +13,13 @@ void TelegramSession::storeUser(const TdObject &object)
         return;
     const QJsonValue isContact = object.value("is_contact"_L1);
     if (isContact.isBool()) {
-        if (isContact.toBool())
+        if (isContact.toBool()) {
             m_contactUserIDs.insert(*id);
-        else
+        } else {
             m_contactUserIDs.remove(*id);
+            if (m_contacts.removeIf([id](const ContactChoice &c) { return c.id == *id; }) > 0)
+                Q_EMIT contactsChanged();
+        }
     }
     QStringList names;
     for (const auto key : {"first_name"_L1, "last_name"_L1}) {
@@ -31,6 +34,8 @@ void TelegramSession::storeUser(const TdObject &object)
             avatarPath = stored->avatarPath;
     }
     m_telegramUsers.insert(*id, User{QUuid::createUuid(), name, initials(name), AvatarColor::Teal, avatarPath});
+    if (m_contactUsers.contains(*id))
+        m_contactUsers.insert(*id, object);
     setUserOnline(*id, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
     republishChatsWithMessages();
 }
@@ -75,10 +80,13 @@ QString TelegramSession::presenceSubtitle(const QString &chatID, const QString &
 void TelegramSession::refreshPresence(qint64 userID)
 {
     const bool online = m_onlineUsers.contains(userID);
-    for (const QString &chatID : m_privateChatsByUser.value(userID)) {
+    for (auto it = m_privateChatsByUser.constFind(userID); it != m_privateChatsByUser.cend() && it.key() == userID;
+         ++it) {
+        const QString &chatID = it.value();
         const QString subtitle = online ? u"Online"_s : m_baseChatSubtitles.value(chatID, u"Private conversation"_s);
         updateChat(chatID, [&subtitle](Chat &chat) { chat.subtitle = subtitle; });
     }
+    refreshContactEntries(userID);
 }
 
 void TelegramSession::updateTypingStatus(const TdObject &update)

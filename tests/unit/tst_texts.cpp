@@ -30,20 +30,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("content");
         QTest::addColumn<QString>("bubble");
         QTest::addColumn<QString>("preview");
-        QTest::newRow("text") << uR"j({"@type":"messageText","text":{"text":"hi :)"}})j"_s << u"hi :)"_s << u"hi :)"_s;
-        QTest::newRow("text without text") << uR"j({"@type":"messageText"})j"_s << u"Message"_s << u"Message"_s;
+        QTest::newRow("text") << uR"({"@type":"messageText","text":{"text":"see you"}})"_s << u"see you"_s << u"see you"_s;
+        QTest::newRow("text without text") << uR"({"@type":"messageText"})"_s << u"Message"_s << u"Message"_s;
         QTest::newRow("photo with caption")
-            << uR"j({"@type":"messagePhoto","caption":{"text":"our trip"}})j"_s << u"our trip"_s << u"Photo"_s;
+            << uR"({"@type":"messagePhoto","caption":{"text":"our trip"}})"_s << u"our trip"_s << u"Photo"_s;
         QTest::newRow("photo, empty caption")
-            << uR"j({"@type":"messagePhoto","caption":{"text":""}})j"_s << u"📷 Photo"_s << u"Photo"_s;
-        QTest::newRow("video") << uR"j({"@type":"messageVideo"})j"_s << u"🎬 Video"_s << u"Video"_s;
-        QTest::newRow("document") << uR"j({"@type":"messageDocument"})j"_s << u"📎 Document"_s << u"Document"_s;
-        QTest::newRow("audio") << uR"j({"@type":"messageAudio"})j"_s << u"🎵 Audio"_s << u"Audio"_s;
-        QTest::newRow("voice") << uR"j({"@type":"messageVoiceNote"})j"_s << u"🎤 Voice message"_s << u"Voice message"_s;
-        QTest::newRow("animated emoji") << uR"j({"@type":"messageAnimatedEmoji","emoji":"🎉"})j"_s << u"🎉"_s << u"🎉"_s;
-        QTest::newRow("location") << uR"j({"@type":"messageLocation"})j"_s << u"📍 Location"_s << u"Message"_s;
-        QTest::newRow("poll") << uR"j({"@type":"messagePoll"})j"_s << u"Poll"_s << u"Message"_s;
-        QTest::newRow("unknown") << uR"j({"@type":"messageDice"})j"_s << u"Unsupported message"_s << u"Message"_s;
+            << uR"({"@type":"messagePhoto","caption":{"text":""}})"_s << u"📷 Photo"_s << u"Photo"_s;
+        QTest::newRow("video") << uR"({"@type":"messageVideo"})"_s << u"🎬 Video"_s << u"Video"_s;
+        QTest::newRow("document") << uR"({"@type":"messageDocument"})"_s << u"📎 Document"_s << u"Document"_s;
+        QTest::newRow("audio") << uR"({"@type":"messageAudio"})"_s << u"🎵 Audio"_s << u"Audio"_s;
+        QTest::newRow("voice") << uR"({"@type":"messageVoiceNote"})"_s << u"🎤 Voice message"_s << u"Voice message"_s;
+        QTest::newRow("animated emoji") << uR"({"@type":"messageAnimatedEmoji","emoji":"🎉"})"_s << u"🎉"_s << u"🎉"_s;
+        QTest::newRow("location") << uR"({"@type":"messageLocation"})"_s << u"📍 Location"_s << u"Message"_s;
+        QTest::newRow("poll") << uR"({"@type":"messagePoll"})"_s << u"Poll"_s << u"Message"_s;
+        QTest::newRow("unknown") << uR"({"@type":"messageDice"})"_s << u"Unsupported message"_s << u"Message"_s;
         QTest::newRow("no type") << u"{}"_s << u"Message"_s << u"Message"_s;
     }
     void messageTexts()
@@ -92,15 +92,15 @@ private Q_SLOTS:
     void datesAcrossMidnight()
     {
         // Local time is fixed by the test's TZ: UTC+2 without daylight saving.
-        const QDateTime now(QDate(2024, 3, 10), QTime(0, 30), QTimeZone(2 * 3600));
+        const QDate today = QDateTime(QDate(2024, 3, 10), QTime(0, 30), QTimeZone(2 * 3600)).toLocalTime().date();
         const auto at = [](int day, int hour, int minute) {
             return QDateTime(QDate(2024, 3, day), QTime(hour, minute), QTimeZone(2 * 3600)).toSecsSinceEpoch();
         };
-        QCOMPARE(timestampText(at(10, 0, 5), now), u"0:05"_s);
-        QCOMPARE(timestampText(at(9, 23, 59), now), u"Yesterday"_s);
-        QCOMPARE(timestampText(at(9, 0, 0), now), u"Yesterday"_s);
-        QCOMPARE(timestampText(at(8, 23, 59), now), u"8 Mar"_s);
-        QCOMPARE(timestampText(std::nullopt, now), QString());
+        QCOMPARE(timestampText(at(10, 0, 5), today), u"0:05"_s);
+        QCOMPARE(timestampText(at(9, 23, 59), today), u"Yesterday"_s);
+        QCOMPARE(timestampText(at(9, 0, 0), today), u"Yesterday"_s);
+        QCOMPARE(timestampText(at(8, 23, 59), today), u"8 Mar"_s);
+        QCOMPARE(timestampText(std::nullopt, today), QString());
         QCOMPARE(messageTime(at(9, 23, 59)), u"23:59"_s);
         QCOMPARE(messageTime(std::nullopt), QString());
     }

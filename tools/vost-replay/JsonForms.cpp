@@ -163,3 +163,46 @@ QList<Message> messagesFromJson(const QJsonArray &array)
         messages.append(messageFromJson(value.toObject()));
     return messages;
 }
+
+QJsonValue toJson(const StickerChoice &sticker)
+{
+    return QJsonObject{{"id"_L1, sticker.id},       {"fileID"_L1, sticker.fileID}, {"path"_L1, sticker.path},
+                       {"emoji"_L1, sticker.emoji}, {"width"_L1, sticker.width},   {"height"_L1, sticker.height},
+                       {"format"_L1, caseName(sticker.format)}};
+}
+
+QJsonValue toJson(const ContactChoice &contact)
+{
+    return QJsonObject{{"id"_L1, contact.id},
+                       {"name"_L1, contact.name},
+                       {"username"_L1, contact.username},
+                       {"initials"_L1, contact.initials},
+                       {"avatarPath"_L1, optionalToJson(contact.avatarPath)},
+                       {"isOnline"_L1, contact.isOnline}};
+}
+
+StickerChoice stickerFromJson(const QJsonObject &object)
+{
+    const QString format = object.value("format"_L1).toString();
+    return {object.value("id"_L1).toVariant().toLongLong(),
+            object.value("fileID"_L1).toVariant().toLongLong(),
+            object.value("path"_L1).toString(),
+            object.value("emoji"_L1).toString(),
+            object.value("width"_L1).toInt(),
+            object.value("height"_L1).toInt(),
+            format == "animated"_L1 ? StickerFormat::Animated
+            : format == "video"_L1  ? StickerFormat::Video
+                                    : StickerFormat::Webp};
+}
+
+QList<PendingAttachment> attachmentsFromJson(const QJsonArray &array)
+{
+    QList<PendingAttachment> attachments;
+    for (const QJsonValue &value : array) {
+        const QJsonObject object = value.toObject();
+        attachments.append({QUuid::createUuid(), object.value("path"_L1).toString(),
+                            object.value("kind"_L1).toString() == "document"_L1 ? PendingAttachmentKind::Document
+                                                                                : PendingAttachmentKind::Photo});
+    }
+    return attachments;
+}

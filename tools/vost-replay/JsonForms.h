@@ -23,7 +23,12 @@ QJsonValue toJson(const Message &message);
 QJsonValue toJson(const Chat &chat);
 QJsonValue toJson(const MessageReaction &reaction);
 
-// Messages given in their JSON form; fields that are missing keep their defaults.
+QJsonValue toJson(const StickerChoice &sticker);
+QJsonValue toJson(const ContactChoice &contact);
+
+// Values given in their JSON form; fields that are missing keep their defaults.
+StickerChoice stickerFromJson(const QJsonObject &object);
+QList<PendingAttachment> attachmentsFromJson(const QJsonArray &array);
 Message messageFromJson(const QJsonObject &object);
 QList<Message> messagesFromJson(const QJsonArray &array);
 

@@ -14,4 +14,5 @@ struct ReplayOptions {
 };
 
 void registerSessionCalls(ReplayDriver &driver, TelegramSession &session);
+void registerActionCalls(ReplayDriver &driver, TelegramSession &session);
 void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options);

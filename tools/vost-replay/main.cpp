@@ -3,8 +3,10 @@
 #include "ReplayDriver.h"
 #include "ReplayModules.h"
 
+#include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "session/NotificationCenter.h"
+#include "session/NotificationService.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
 
@@ -31,6 +33,24 @@ public:
         : m_driver(driver)
     {}
     void play(const QString &name) override { m_driver.emitLine({{"sound"_L1, name}}); }
+
+private:
+    ReplayDriver &m_driver;
+};
+
+// Prints each desktop notification instead of showing it.
+class RecordingNotificationPoster : public NotificationPoster
+{
+public:
+    explicit RecordingNotificationPoster(ReplayDriver &driver)
+        : m_driver(driver)
+    {
+    }
+    void show(const QString &, const QString &title, const QString &body, const QString &chatID) override
+    {
+        m_driver.emitLine(
+            {{"notification"_L1, QJsonObject{{"title"_L1, title}, {"body"_L1, body}, {"chatID"_L1, chatID}}}});
+    }
 
 private:
     ReplayDriver &m_driver;
@@ -97,7 +117,11 @@ int main(int argc, char *argv[])
                                                                     {"object"_L1, QJsonValue::fromVariant(object)}}}});
                      });
 
+    RecordingNotificationPoster notificationPoster(driver);
+    NotificationService::shared().setPoster(&notificationPoster);
+
     registerSessionCalls(driver, session);
+    registerActionCalls(driver, session);
     registerRenderCalls(driver, {parser.value(appStoreHostOption), parser.value(appStoreLookupOption)});
 
     QObject::connect(&driver, &ReplayDriver::finished, &application, &QCoreApplication::quit);

@@ -1,0 +1,26 @@
+// Every incoming message in a chat that is not muted is announced with a desktop
+// notification and the sound pack's sound, whichever chat is open.
+
+#include "session/ContentTexts.h"
+#include "session/NotificationService.h"
+#include "session/SoundManager.h"
+#include "session/TelegramSession.h"
+
+using namespace Qt::StringLiterals;
+
+void TelegramSession::notifyIfNeeded(const TdObject &message)
+{
+    if (message.value("is_outgoing"_L1).toBool())
+        return;
+    const std::optional<qint64> chat = int64From(message.value("chat_id"_L1));
+    const QJsonValue content = message.value("content"_L1);
+    if (!chat || !content.isObject())
+        return;
+    const QString chatID = QString::number(*chat);
+    if (m_mutedChatIDs.contains(chatID))
+        return;
+    const QString title =
+        m_chatIndexKeys.contains(chatID) ? m_knownChats.value(chatID).title : u"New Telegram message"_s;
+    NotificationService::shared().notify(title, messageText(content.toObject()), chatID);
+    m_soundManager->play(SoundEvent::IncomingMessage);
+}
