@@ -2,9 +2,14 @@
 // script's {"expect": LINE} lines, in order. In expected values the string
 // "<any>" matches any value. A line {"options": [...]} gives the driver's options;
 // "@FAKE_BUNDLE@" in them stands for the fake TDLib bundle.
+//
+// Lines go to the driver one at a time, as a program answering it would send them:
+// the string "$last:KEY" in a line becomes the value of KEY in the "@extra" of the
+// latest request that carried one (a generated identifier, say).
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -81,14 +86,56 @@ int main(int argc, char *argv[])
     QProcess replay;
     replay.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     replay.start(args.at(1), options);
-    replay.write(input);
+    if (!replay.waitForStarted()) {
+        err << "vost-replay did not start\n";
+        return 1;
+    }
+    QList<QJsonValue> actual;
+    QHash<QString, QJsonValue> lastExtra;
+    QByteArray pending;
+    // Reads printed lines up to the echo of marker.
+    const auto readUntil = [&](const QString &marker) {
+        while (true) {
+            const qsizetype end = pending.indexOf('\n');
+            if (end < 0) {
+                if (!replay.waitForReadyRead(60000))
+                    return false;
+                pending += replay.readAllStandardOutput();
+                continue;
+            }
+            const QJsonObject line = QJsonDocument::fromJson(pending.left(end)).object();
+            pending.remove(0, end + 1);
+            if (line.value("echo"_L1).toString() == marker)
+                return true;
+            const QJsonObject extra = line.value("request"_L1).toObject().value("@extra"_L1).toObject();
+            for (auto it = extra.begin(); it != extra.end(); ++it)
+                lastExtra.insert(it.key(), it.value());
+            actual.append(line);
+        }
+    };
+    int number = 0;
+    for (QByteArray line : input.split('\n')) {
+        if (line.trimmed().isEmpty())
+            continue;
+        for (auto it = lastExtra.begin(); it != lastExtra.end(); ++it) {
+            const QByteArray placeholder = "\"$last:" + it.key().toUtf8() + '"';
+            const QByteArray value = QJsonDocument(QJsonArray{it.value()}).toJson(QJsonDocument::Compact);
+            line.replace(placeholder, value.mid(1, value.size() - 2));
+        }
+        const QString marker = u"#line %1"_s.arg(++number);
+        replay.write(line + "\n{\"echo\":\"" + marker.toUtf8() + "\"}\n");
+        if (!readUntil(marker)) {
+            err << "vost-replay stopped answering at line " << number << '\n';
+            return 1;
+        }
+    }
     replay.closeWriteChannel();
     if (!replay.waitForFinished(60000) || replay.exitStatus() != QProcess::NormalExit || replay.exitCode() != 0) {
         err << "vost-replay did not finish cleanly\n";
         return 1;
     }
-    QList<QJsonValue> actual;
-    for (const QByteArray &line : replay.readAllStandardOutput().split('\n')) {
+    pending += replay.readAllStandardOutput();
+    for (const QByteArray &line : pending.split('\n')) {
         if (!line.isEmpty())
             actual.append(QJsonDocument::fromJson(line).object());
     }

@@ -18,8 +18,7 @@ QString text(const QJsonArray &args, qsizetype index)
     return value.isDouble() ? QString::number(value.toInteger()) : value.toString();
 }
 
-template<typename T>
-QJsonArray listToJson(const T &values)
+template<typename T> QJsonArray listToJson(const T &values)
 {
     QJsonArray array;
     for (const auto &value : values)
@@ -50,9 +49,8 @@ void registerActionCalls(ReplayDriver &driver, TelegramSession &session)
     call(u"sendSticker"_s,
          [&session](const QJsonArray &a) { session.sendSticker(stickerFromJson(a.at(0).toObject()), text(a, 1)); });
     call(u"searchContacts"_s, [&session](const QJsonArray &a) { session.searchContacts(text(a, 0)); });
-    call(u"createContact"_s, [&session](const QJsonArray &a) {
-        session.createContact(text(a, 0), text(a, 1), text(a, 2), text(a, 3));
-    });
+    call(u"createContact"_s,
+         [&session](const QJsonArray &a) { session.createContact(text(a, 0), text(a, 1), text(a, 2), text(a, 3)); });
     call(u"openUsername"_s, [&session](const QJsonArray &a) { session.openUsername(text(a, 0)); });
     call(u"beginConversation"_s,
          [&driver, &session](const QJsonArray &) { driver.printResult(session.beginConversation()); });
@@ -68,6 +66,7 @@ void registerActionCalls(ReplayDriver &driver, TelegramSession &session)
     });
 
     driver.addState(u"recentStickers"_s, [&session] { return QJsonValue(listToJson(session.recentStickers())); });
+    driver.addState(u"recentStickerCount"_s, [&session] { return QJsonValue(session.recentStickers().size()); });
     driver.addState(u"recentStickersLoaded"_s, [&session] { return QJsonValue(session.recentStickersLoaded()); });
     driver.addState(u"stickerError"_s, [&session] { return optionalToJson(session.stickerError()); });
     driver.addState(u"contacts"_s, [&session] { return QJsonValue(listToJson(session.contacts())); });

@@ -1,0 +1,76 @@
+// What users type to reach people: phone numbers, usernames, and sticker queries
+// that are searched as emoji.
+
+#include "session/ContactInput.h"
+#include "session/Emoji.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class ContactInputTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void phoneNumbers_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<std::optional<QString>>("expected");
+        const auto none = std::optional<QString>();
+        QTest::newRow("punctuation around 11 digits")
+            << u" +44 (7700) 900-12.3 \n"_s << std::optional(u"+447700900123"_s);
+        QTest::newRow("six digits") << u"+123456"_s << std::optional(u"+123456"_s);
+        QTest::newRow("fifteen digits") << u"+123456789012345"_s << std::optional(u"+123456789012345"_s);
+        QTest::newRow("no plus") << u"447700900123"_s << none;
+        QTest::newRow("letter") << u"+44 7700 9OO123"_s << none;
+        QTest::newRow("five digits") << u"+12345"_s << none;
+        QTest::newRow("sixteen digits") << u"+1234567890123456"_s << none;
+        QTest::newRow("zero after plus") << u"+0447700900123"_s << none;
+        QTest::newRow("second plus") << u"+44+7700900123"_s << none;
+        QTest::newRow("slash") << u"+44/7700900123"_s << none;
+        QTest::newRow("full-width digits") << u"+４４７７００９００１２３"_s << none;
+        QTest::newRow("empty") << QString() << none;
+    }
+    void phoneNumbers()
+    {
+        QFETCH(QString, typed);
+        QFETCH(std::optional<QString>, expected);
+        QCOMPARE(normalizedContactPhone(typed), expected);
+    }
+
+    void usernames_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<std::optional<QString>>("expected");
+        const auto none = std::optional<QString>();
+        QTest::newRow("at sign dropped") << u" @grace_h0pper "_s << std::optional(u"grace_h0pper"_s);
+        QTest::newRow("thirty-two letters") << QString(32, u'a') << std::optional(QString(32, u'a'));
+        QTest::newRow("thirty-three letters") << QString(33, u'a') << none;
+        QTest::newRow("hyphen") << u"grace-hopper"_s << none;
+        QTest::newRow("dot") << u"grace.hopper"_s << none;
+        QTest::newRow("two at signs") << u"@@grace"_s << none;
+        QTest::newRow("only an at sign") << u"@"_s << none;
+        QTest::newRow("non-ASCII letter") << u"grâce"_s << none;
+    }
+    void usernames()
+    {
+        QFETCH(QString, typed);
+        QFETCH(std::optional<QString>, expected);
+        QCOMPARE(cleanedUsername(typed), expected);
+    }
+
+    void emojiQueries()
+    {
+        QVERIFY(containsEmoji(u"❤️"_s));
+        QVERIFY(containsEmoji(u"cat 🐱"_s));
+        QVERIFY(containsEmoji(u"cat7"_s)); // digits have the Emoji property
+        QVERIFY(containsEmoji(u"#"_s));
+        QVERIFY(!containsEmoji(u"cat"_s));
+        QVERIFY(!containsEmoji(u"кот"_s));
+        QVERIFY(!containsEmoji(QString()));
+    }
+};
+
+QTEST_GUILESS_MAIN(ContactInputTest)
+#include "tst_contactinput.moc"
