@@ -5,7 +5,8 @@
 //
 // Lines go to the driver one at a time, as a program answering it would send them:
 // the string "$last:KEY" in a line becomes the value of KEY in the "@extra" of the
-// latest request that carried one (a generated identifier, say).
+// latest request that carried one (a generated identifier, say), and "$last:result"
+// the latest {"result": VALUE} printed.
 
 #include <QCoreApplication>
 #include <QFile>
@@ -110,6 +111,8 @@ int main(int argc, char *argv[])
             const QJsonObject extra = line.value("request"_L1).toObject().value("@extra"_L1).toObject();
             for (auto it = extra.begin(); it != extra.end(); ++it)
                 lastExtra.insert(it.key(), it.value());
+            if (line.contains("result"_L1))
+                lastExtra.insert(u"result"_s, line.value("result"_L1));
             actual.append(line);
         }
     };
