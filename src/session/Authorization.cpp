@@ -1,5 +1,6 @@
 // Start-up, TDLib's authorization states, sign-in and logging out.
 
+#include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
 #include "tdlib/ReceiveLoop.h"
@@ -125,13 +126,7 @@ void TelegramSession::completeSignIn()
 void TelegramSession::storeCurrentUser(const TdObject &user)
 {
     m_currentUserID = int64From(user.value("id"_L1));
-    QStringList names;
-    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
-        const QString name = user.value(key).toString();
-        if (!name.isEmpty())
-            names.append(name);
-    }
-    setCurrentAccount(names.join(u' '), user.value("phone_number"_L1).toString());
+    setCurrentAccount(fullName(user), user.value("phone_number"_L1).toString());
 }
 
 void TelegramSession::submitTDLibParameters()

@@ -3,6 +3,7 @@
 // request with a time-out), and deleting chats and contacts.
 
 #include "session/ContactInput.h"
+#include "session/ContentTexts.h"
 #include "session/Initials.h"
 #include "session/TelegramSession.h"
 
@@ -313,13 +314,8 @@ void TelegramSession::forgetChat(const QString &chatID)
 
 ContactChoice TelegramSession::makeContactChoice(qint64 userID, const TdObject &user) const
 {
-    QStringList names;
-    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
-        const QString name = user.value(key).toString();
-        if (!name.isEmpty())
-            names.append(name);
-    }
-    const QString name = names.isEmpty() ? u"Telegram contact"_s : names.join(u' ');
+    const QString joined = fullName(user);
+    const QString name = joined.isEmpty() ? u"Telegram contact"_s : joined;
     const QJsonArray active = user.value("usernames"_L1).toObject().value("active_usernames"_L1).toArray();
     const QString username = active.isEmpty() ? QString() : u"@"_s + active.first().toString();
     const auto stored = m_telegramUsers.constFind(userID);

@@ -106,6 +106,17 @@ QString chatSubtitle(const QJsonValue &chatType)
     return u"Telegram"_s;
 }
 
+QString fullName(const TdObject &user)
+{
+    QStringList names;
+    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
+        const QString name = user.value(key).toString();
+        if (!name.isEmpty())
+            names.append(name);
+    }
+    return names.join(u' ');
+}
+
 StickerFormat stickerFormat(const QJsonValue &format)
 {
     const QString type = typeOf(format);

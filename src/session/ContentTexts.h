@@ -17,6 +17,8 @@ std::optional<QString> caption(const TdObject &content);
 QString draftText(const QJsonValue &draft);
 // The line under a chat's title, from its "type" object.
 QString chatSubtitle(const QJsonValue &chatType);
+// A user's first and last names joined by a blank, leaving out empty ones.
+QString fullName(const TdObject &user);
 
 StickerFormat stickerFormat(const QJsonValue &format);
 // Emoji reactions from a message's "interaction_info", in TDLib's order.

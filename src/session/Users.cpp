@@ -21,13 +21,8 @@ void TelegramSession::storeUser(const TdObject &object)
                 Q_EMIT contactsChanged();
         }
     }
-    QStringList names;
-    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
-        const QString name = object.value(key).toString();
-        if (!name.isEmpty())
-            names.append(name);
-    }
-    const QString name = names.isEmpty() ? u"Telegram user"_s : names.join(u' ');
+    const QString joined = fullName(object);
+    const QString name = joined.isEmpty() ? u"Telegram user"_s : joined;
     std::optional<QString> avatarPath = prepareUserAvatar(object.value("profile_photo"_L1), *id);
     if (!avatarPath) {
         if (const auto stored = m_telegramUsers.constFind(*id); stored != m_telegramUsers.cend())
