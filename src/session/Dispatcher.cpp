@@ -19,6 +19,10 @@ std::optional<QString> chatIDIn(const TdObject &object)
 
 void TelegramSession::handle(const TdObject &object, const QString &type)
 {
+    // Answers to a client the session has left behind (after logging out) are stale.
+    const std::optional<qint64> clientID = integerFrom(object.value("@client_id"_L1));
+    if (clientID && m_clientID && *clientID != *m_clientID)
+        return;
     recordImageDiagnosticEvent(type, object);
     if (type == "updateConnectionState"_L1) {
         if (typeOf(object.value("state"_L1)) == "connectionStateReady"_L1 && isReady()) {

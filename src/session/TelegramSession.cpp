@@ -89,6 +89,8 @@ void TelegramSession::setCurrentAccount(const QString &name, const QString &phon
 
 void TelegramSession::send(const QString &type, const TdObject &fields)
 {
+    if (m_requestObserver)
+        m_requestObserver(type, fields);
     if (type == "getChatHistory"_L1) {
         if (const auto chat = int64From(fields.value("chat_id"_L1))) {
             appendImageDiagnostic(QString::number(*chat),
@@ -130,6 +132,8 @@ void TelegramSession::handleResponse(const QString &json)
 
 void TelegramSession::handleResponse(const QByteArray &json)
 {
+    if (m_responseObserver)
+        m_responseObserver(json);
     const bool valid = isValidUtf8(json);
     QJsonParseError parseError;
     const QJsonDocument document = valid ? QJsonDocument::fromJson(json, &parseError) : QJsonDocument();

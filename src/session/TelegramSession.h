@@ -41,6 +41,11 @@ public:
     // When set, every request goes to the sender instead of TDLib: the type and
     // the fields without "@type".
     using RequestSender = std::function<void(const QString &type, const TdObject &fields)>;
+    // Sees every request the session sends, before it goes to TDLib or to the
+    // request sender: the type and the fields without "@type".
+    using RequestObserver = std::function<void(const QString &type, const TdObject &fields)>;
+    // Sees every raw answer or update, as handleResponse received it, before it is handled.
+    using ResponseObserver = std::function<void(const QByteArray &json)>;
     using Clock = std::function<QDateTime()>;
 
     explicit TelegramSession(RequestSender requestSender = {}, QObject *parent = nullptr);
@@ -50,6 +55,8 @@ public:
     // reports that TDLib is not bundled.
     void setBundle(std::optional<AppBundle> bundle) { m_bundle = std::move(bundle); }
     void setSoundManager(const SoundManager *soundManager) { m_soundManager = soundManager; }
+    void setRequestObserver(RequestObserver observer) { m_requestObserver = std::move(observer); }
+    void setResponseObserver(ResponseObserver observer) { m_responseObserver = std::move(observer); }
     // The clock behind date texts; the system clock unless set.
     void setClock(Clock clock)
     {
@@ -262,6 +269,8 @@ private:
     void setCurrentAccount(const QString &name, const QString &phoneNumber);
 
     RequestSender m_requestSender;
+    RequestObserver m_requestObserver;
+    ResponseObserver m_responseObserver;
     std::optional<AppBundle> m_bundle;
     const SoundManager *m_soundManager;
     Clock m_now;
