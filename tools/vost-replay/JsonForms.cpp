@@ -1,5 +1,7 @@
 #include "JsonForms.h"
 
+#include "session/ModelNames.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -25,53 +27,6 @@ QString caseName(Step::Case kind)
     return {};
 }
 
-QString caseName(MessageDeliveryState state)
-{
-    switch (state) {
-    case MessageDeliveryState::None:
-        return u"none"_s;
-    case MessageDeliveryState::Sending:
-        return u"sending"_s;
-    case MessageDeliveryState::Sent:
-        return u"sent"_s;
-    case MessageDeliveryState::Read:
-        return u"read"_s;
-    }
-    return {};
-}
-
-QString caseName(MessageMediaKind kind)
-{
-    switch (kind) {
-    case MessageMediaKind::Photo:
-        return u"photo"_s;
-    case MessageMediaKind::Sticker:
-        return u"sticker"_s;
-    case MessageMediaKind::Video:
-        return u"video"_s;
-    case MessageMediaKind::Animation:
-        return u"animation"_s;
-    case MessageMediaKind::Voice:
-        return u"voice"_s;
-    case MessageMediaKind::Audio:
-        return u"audio"_s;
-    }
-    return {};
-}
-
-QString caseName(StickerFormat format)
-{
-    switch (format) {
-    case StickerFormat::Webp:
-        return u"webp"_s;
-    case StickerFormat::Animated:
-        return u"animated"_s;
-    case StickerFormat::Video:
-        return u"video"_s;
-    }
-    return {};
-}
-
 } // namespace
 
 QJsonValue toJson(const Step &step)
@@ -89,7 +44,7 @@ QJsonValue toJson(const User &user)
     return QJsonObject{{"id"_L1, user.id.toString(QUuid::WithoutBraces)},
                        {"name"_L1, user.name},
                        {"initials"_L1, user.initials},
-                       {"color"_L1, user.color == AvatarColor::Teal ? u"teal"_s : u"blue"_s},
+                       {"color"_L1, caseName(user.color)},
                        {"avatarPath"_L1, optionalToJson(user.avatarPath)}};
 }
 
@@ -166,8 +121,12 @@ QList<Message> messagesFromJson(const QJsonArray &array)
 
 QJsonValue toJson(const StickerChoice &sticker)
 {
-    return QJsonObject{{"id"_L1, sticker.id},       {"fileID"_L1, sticker.fileID}, {"path"_L1, sticker.path},
-                       {"emoji"_L1, sticker.emoji}, {"width"_L1, sticker.width},   {"height"_L1, sticker.height},
+    return QJsonObject{{"id"_L1, sticker.id},
+                       {"fileID"_L1, sticker.fileID},
+                       {"path"_L1, sticker.path},
+                       {"emoji"_L1, sticker.emoji},
+                       {"width"_L1, sticker.width},
+                       {"height"_L1, sticker.height},
                        {"format"_L1, caseName(sticker.format)}};
 }
 

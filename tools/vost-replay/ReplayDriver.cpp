@@ -1,10 +1,54 @@
 #include "ReplayDriver.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// How long a wait_for line waits unless it says, and how often it looks.
+constexpr int defaultWaitForTimeoutMs = 10000;
+constexpr int waitForIntervalMs = 5;
+
+// Equality of JSON values, where the string "<any>" in the expected value matches anything.
+bool matches(const QJsonValue &expected, const QJsonValue &actual)
+{
+    if (expected.isString() && expected.toString() == "<any>"_L1)
+        return true;
+    if (expected.isObject() && actual.isObject()) {
+        const QJsonObject e = expected.toObject();
+        const QJsonObject a = actual.toObject();
+        if (e.keys() != a.keys())
+            return false;
+        for (auto it = e.begin(); it != e.end(); ++it) {
+            if (!matches(it.value(), a.value(it.key())))
+                return false;
+        }
+        return true;
+    }
+    if (expected.isArray() && actual.isArray()) {
+        const QJsonArray e = expected.toArray();
+        const QJsonArray a = actual.toArray();
+        if (e.size() != a.size())
+            return false;
+        for (qsizetype i = 0; i < e.size(); ++i) {
+            if (!matches(e.at(i), a.at(i)))
+                return false;
+        }
+        return true;
+    }
+    return expected == actual;
+}
+
+QString compact(const QJsonValue &value)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1));
+}
+
+} // namespace
 
 ReplayDriver::ReplayDriver(FILE *output, QObject *parent)
     : QObject(parent)
@@ -86,7 +130,7 @@ void ReplayDriver::process(const QByteArray &line)
             event.isArray() ? QJsonDocument(event.toArray()) : QJsonDocument(event.toObject());
         // The same path as a raw line: the object as TDLib would have written it.
         if (const auto raw = m_inputs.constFind(u"raw"_s); raw != m_inputs.cend())
-            (*raw)(QString::fromUtf8(eventDocument.toJson(QJsonDocument::Compact)));
+            injectEvent(*raw, QString::fromUtf8(eventDocument.toJson(QJsonDocument::Compact)));
     } else if (object.contains("call"_L1)) {
         runCall(object);
     } else if (object.contains("state"_L1)) {
@@ -94,6 +138,8 @@ void ReplayDriver::process(const QByteArray &line)
     } else if (object.contains("wait_ms"_L1)) {
         holdInput();
         QTimer::singleShot(object.value("wait_ms"_L1).toInt(), this, &ReplayDriver::releaseInput);
+    } else if (object.contains("wait_for"_L1)) {
+        waitFor(object.value("wait_for"_L1).toObject());
     } else if (object.contains("echo"_L1)) {
         emitLine({{"echo"_L1, object.value("echo"_L1)}});
     } else if (object.contains("expect"_L1) || object.contains("comment"_L1) || object.contains("options"_L1)) {
@@ -101,7 +147,10 @@ void ReplayDriver::process(const QByteArray &line)
     } else {
         for (auto it = object.begin(); it != object.end(); ++it) {
             if (const auto handler = m_inputs.constFind(it.key()); handler != m_inputs.cend()) {
-                (*handler)(it.value());
+                if (it.key() == "raw"_L1)
+                    injectEvent(*handler, it.value());
+                else
+                    (*handler)(it.value());
                 return;
             }
         }
@@ -128,4 +177,47 @@ void ReplayDriver::printState(const QJsonArray &names)
         state.insert(name.toString(), reader == m_states.cend() ? QJsonValue(u"unknown state"_s) : (*reader)());
     }
     emitLine({{"state"_L1, state}});
+}
+
+void ReplayDriver::injectEvent(const InputHandler &handler, const QJsonValue &value)
+{
+    m_injectingEvent = true;
+    handler(value);
+    m_injectingEvent = false;
+}
+
+void ReplayDriver::waitFor(const QJsonObject &condition)
+{
+    const QString name = condition.value("state"_L1).toString();
+    const auto found = m_states.constFind(name);
+    if (found == m_states.cend() || !condition.contains("equals"_L1)) {
+        printError(u"wait_for needs a known state and a value: "_s + compact(condition));
+        return;
+    }
+    const StateReader reader = *found;
+    const QJsonValue expected = condition.value("equals"_L1);
+    if (matches(expected, reader()))
+        return;
+    const int timeout = condition.value("timeout_ms"_L1).toInt(defaultWaitForTimeoutMs);
+    holdInput();
+    // Looked at between events, never while one is being handled, so that the
+    // lines an event prints all come before the script goes on.
+    auto *poll = new QTimer(this);
+    poll->setInterval(waitForIntervalMs);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    connect(poll, &QTimer::timeout, this, [this, poll, reader, expected, name, timeout, elapsed] {
+        const QJsonValue actual = reader();
+        const bool met = matches(expected, actual);
+        if (!met && !elapsed.hasExpired(timeout))
+            return;
+        if (!met) {
+            printError(u"wait_for timed out after %1 ms: %2 is %3, not %4"_s.arg(timeout).arg(name, compact(actual),
+                                                                                              compact(expected)));
+        }
+        poll->stop();
+        poll->deleteLater();
+        releaseInput();
+    });
+    poll->start();
 }

@@ -40,6 +40,10 @@ public:
     void feed(const QByteArray &line);
     void finishInput();
 
+    // True while an {"event": ...} or {"raw": ...} line is being handled, so that
+    // what the script injects can be told from what a library delivers.
+    bool isInjectingEvent() const { return m_injectingEvent; }
+
 Q_SIGNALS:
     void finished();
 
@@ -48,6 +52,8 @@ private:
     void process(const QByteArray &line);
     void runCall(const QJsonObject &line);
     void printState(const QJsonArray &names);
+    void injectEvent(const InputHandler &handler, const QJsonValue &value);
+    void waitFor(const QJsonObject &condition);
 
     FILE *m_output;
     QHash<QString, Call> m_calls;
@@ -56,4 +62,5 @@ private:
     QQueue<QByteArray> m_pending;
     int m_holds = 0;
     bool m_inputEnded = false;
+    bool m_injectingEvent = false;
 };

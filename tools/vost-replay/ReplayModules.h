@@ -16,3 +16,5 @@ struct ReplayOptions {
 void registerSessionCalls(ReplayDriver &driver, TelegramSession &session);
 void registerActionCalls(ReplayDriver &driver, TelegramSession &session);
 void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options);
+// The chat view model and the root view's glue around the session.
+void registerViewModelCalls(ReplayDriver &driver, TelegramSession &session);

@@ -9,15 +9,19 @@
 #include "session/NotificationService.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
+#include "tdlib/DemoBundle.h"
 
 #include <QCommandLineParser>
+#include <QFile>
 #include <QGuiApplication>
+#include <QJsonDocument>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <thread>
 
@@ -44,8 +48,7 @@ class RecordingNotificationPoster : public NotificationPoster
 public:
     explicit RecordingNotificationPoster(ReplayDriver &driver)
         : m_driver(driver)
-    {
-    }
+    {}
     void show(const QString &, const QString &title, const QString &body, const QString &chatID) override
     {
         m_driver.emitLine(
@@ -55,6 +58,36 @@ public:
 private:
     ReplayDriver &m_driver;
 };
+
+// What the session exchanges with TDLib and what of it is printed.
+struct Traffic {
+    std::optional<AppBundle> bundle;
+    bool deliver = false;      // requests reach the library, not only the output
+    bool printRequests = true; // {"request": ...} lines
+    bool printReceived = true; // {"received": ...} lines, when delivering
+};
+
+// Prints each request the session sends and, when delivering, each object the
+// library sends before the session handles it (not the events the script injects).
+void observeTraffic(TelegramSession &session, ReplayDriver &driver, const Traffic &traffic)
+{
+    if (traffic.printRequests) {
+        session.setRequestObserver([&driver](const QString &type, const TdObject &fields) {
+            TdObject request = fields;
+            request.insert("@type"_L1, type);
+            driver.emitLine({{"request"_L1, request}});
+        });
+    }
+    if (traffic.deliver && traffic.printReceived) {
+        session.setResponseObserver([&driver](const QByteArray &json) {
+            if (driver.isInjectingEvent())
+                return;
+            const QJsonDocument document = QJsonDocument::fromJson(json);
+            driver.emitLine({{"received"_L1, document.isObject() ? QJsonValue(document.object())
+                                                                 : QJsonValue(QString::fromUtf8(json))}});
+        });
+    }
+}
 
 // Reads lines on a thread of its own, so a pipe that another program keeps writing
 // to is handled line by line as it arrives.
@@ -87,10 +120,39 @@ int main(int argc, char *argv[])
                                                 u"apps.apple.com"_s);
     const QCommandLineOption appStoreLookupOption(u"app-store-lookup"_s, u"The app store's lookup address."_s, u"URL"_s,
                                                   u"https://itunes.apple.com/lookup?id="_s);
-    parser.addOptions({nowOption, bundleOption, appStoreHostOption, appStoreLookupOption});
+    const QCommandLineOption deliverOption(
+        u"deliver"_s, u"Also delivers the requests to the bundle's library and prints what it sends."_s);
+    const QCommandLineOption demoOption(u"demo"_s, u"Drives the offline demo account: its bundle, with --deliver."_s);
+    const QCommandLineOption quietRequestsOption(u"quiet-requests"_s, u"Does not print the requests."_s);
+    const QCommandLineOption viewModelOption(
+        u"view-model"_s, u"Also builds the chat view model, wired to the session as the root view wires it."_s);
+    const QCommandLineOption quietReceivedOption(u"quiet-received"_s, u"Does not print what the library sends."_s);
+    parser.addOptions({nowOption, bundleOption, deliverOption, demoOption, viewModelOption, quietRequestsOption,
+                       quietReceivedOption, appStoreHostOption, appStoreLookupOption});
     parser.process(application);
 
-    // Never the user's own settings or data.
+    Traffic traffic;
+    traffic.deliver = parser.isSet(deliverOption) || parser.isSet(demoOption);
+    traffic.printRequests = !parser.isSet(quietRequestsOption);
+    traffic.printReceived = !parser.isSet(quietReceivedOption);
+    if (parser.isSet(demoOption)) {
+        traffic.bundle = demoBundle(AppBundle::main());
+        if (!traffic.bundle) {
+            std::cerr << "vost-replay: the demo account is not in this build or installation\n";
+            return 2;
+        }
+    } else if (parser.isSet(bundleOption)) {
+        traffic.bundle = AppBundle(parser.value(bundleOption));
+    } else if (traffic.deliver) {
+        std::cerr << "vost-replay: --deliver needs --bundle DIR\n";
+        return 2;
+    }
+
+    // Never the user's own settings or data. A library that is delivered to keeps
+    // its database under a private home that goes away at the end.
+    QTemporaryDir privateHome;
+    if (traffic.deliver)
+        qputenv("HOME", QFile::encodeName(privateHome.path()));
     QStandardPaths::setTestModeEnabled(true);
     QTemporaryDir settingsFolder;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsFolder.path());
@@ -100,12 +162,13 @@ int main(int argc, char *argv[])
     RecordingSoundPlayer soundPlayer(driver);
     SoundManager::shared().setPlayer(&soundPlayer);
 
-    TelegramSession session([&driver](const QString &type, const TdObject &fields) {
-        TdObject request = fields;
-        request.insert("@type"_L1, type);
-        driver.emitLine({{"request"_L1, request}});
-    });
-    session.setBundle(parser.isSet(bundleOption) ? std::optional(AppBundle(parser.value(bundleOption))) : std::nullopt);
+    // Without delivery a sender that drops every request keeps them from the library.
+    TelegramSession::RequestSender dropRequests;
+    if (!traffic.deliver)
+        dropRequests = [](const QString &, const TdObject &) {};
+    TelegramSession session(dropRequests);
+    session.setBundle(traffic.bundle);
+    observeTraffic(session, driver, traffic);
     if (parser.isSet(nowOption)) {
         const QDateTime now = QDateTime::fromSecsSinceEpoch(parser.value(nowOption).toLongLong());
         session.setClock([now] { return now; });
@@ -123,6 +186,9 @@ int main(int argc, char *argv[])
     registerSessionCalls(driver, session);
     registerActionCalls(driver, session);
     registerRenderCalls(driver, {parser.value(appStoreHostOption), parser.value(appStoreLookupOption)});
+    // After the printer of process-wide notifications, so a posted line comes before the reactions to it.
+    if (parser.isSet(viewModelOption))
+        registerViewModelCalls(driver, session);
 
     QObject::connect(&driver, &ReplayDriver::finished, &application, &QCoreApplication::quit);
 
