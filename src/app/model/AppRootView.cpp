@@ -1,0 +1,247 @@
+#include "AppRootView.h"
+
+#include "session/NotificationCenter.h"
+
+#include <QtNumeric>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+AppRootView::AppRootView(CredentialStore &credentialStore, QObject *parent)
+    : QObject(parent)
+    , m_credentialStore(credentialStore)
+    , m_ownedSession(std::make_unique<TelegramSession>())
+    , m_session(*m_ownedSession)
+    , m_viewModel(new ChatViewModel(std::make_unique<EmptyTelegramService>(), this))
+    , m_chatList(new ChatListModel(m_viewModel, this))
+    , m_messageList(new MessageListModel(m_viewModel, this))
+    , m_stickerList(new StickerListModel(m_viewModel, this))
+    , m_contactList(new ContactListModel(m_viewModel, this))
+{
+    connectSession();
+}
+
+AppRootView::AppRootView(CredentialStore &credentialStore, TelegramSession &session, QObject *parent)
+    : QObject(parent)
+    , m_credentialStore(credentialStore)
+    , m_session(session)
+    , m_viewModel(new ChatViewModel(std::make_unique<EmptyTelegramService>(), this))
+    , m_chatList(new ChatListModel(m_viewModel, this))
+    , m_messageList(new MessageListModel(m_viewModel, this))
+    , m_stickerList(new StickerListModel(m_viewModel, this))
+    , m_contactList(new ContactListModel(m_viewModel, this))
+{
+    connectSession();
+}
+
+AppRootView::~AppRootView()
+{
+    // The models and the view model go before the session they were fed from.
+    delete m_contactList;
+    delete m_stickerList;
+    delete m_messageList;
+    delete m_chatList;
+    delete m_viewModel;
+}
+
+void AppRootView::connectSession()
+{
+    TelegramSession *session = &m_session;
+    connect(session, &TelegramSession::chatsChanged, this, [this] {
+        m_chatsPending = true;
+        schedule();
+    });
+    connect(session, &TelegramSession::messagesChanged, this, [this](const QString &chatID) {
+        m_messagesPending.insert(chatID);
+        schedule();
+    });
+    connect(session, &TelegramSession::recentStickersChanged, this,
+            [this] { m_viewModel->setRecentStickers(m_session.recentStickers()); });
+    connect(session, &TelegramSession::recentStickersLoadedChanged, this,
+            [this] { m_viewModel->setRecentStickersLoaded(m_session.recentStickersLoaded()); });
+    connect(session, &TelegramSession::contactsChanged, this,
+            [this] { m_viewModel->setContacts(m_session.contacts()); });
+    connect(session, &TelegramSession::newlyOpenedChatIDChanged, this, [this] {
+        if (const auto chatID = m_session.newlyOpenedChatID()) {
+            applyPendingChanges();
+            m_viewModel->setSelectedChatID(*chatID);
+        }
+    });
+    connect(m_viewModel, &ChatViewModel::selectedChatIDChanged, this, &AppRootView::selectedChatChanged);
+
+    NotificationCenter &center = NotificationCenter::defaultCenter();
+    center.observe(QString::fromLatin1(NotificationName::popoverVisibilityDidChange), this,
+                   [this](const QVariant &object) { popoverVisibilityChanged(object); });
+    center.observe(QString::fromLatin1(NotificationName::openTelegramChat), this,
+                   [this](const QVariant &object) { openChatRequested(object); });
+}
+
+void AppRootView::schedule()
+{
+    if (m_scheduled)
+        return;
+    m_scheduled = true;
+    QMetaObject::invokeMethod(this, &AppRootView::applyPendingChanges, Qt::QueuedConnection);
+}
+
+void AppRootView::applyPendingChanges()
+{
+    m_scheduled = false;
+    const bool chatsChanged = std::exchange(m_chatsPending, false);
+    const QSet<QString> messagesChanged = std::exchange(m_messagesPending, {});
+    const auto &messagesByChat = m_session.messagesByChat();
+    if (chatsChanged) {
+        const QList<Chat> chats = m_session.chats();
+        m_viewModel->replaceChats(chats);
+        publishUnreadCount(chats);
+        for (auto it = messagesByChat.begin(); it != messagesByChat.end(); ++it)
+            m_viewModel->setMessages(it.value(), it.key());
+    }
+    if (!messagesChanged.isEmpty()) {
+        // Setting an unchanged chat's messages again changes nothing, so only the
+        // chats that changed are set; after a chat list change all of them were.
+        if (!chatsChanged) {
+            for (const QString &chatID : messagesChanged) {
+                if (const auto messages = messagesByChat.constFind(chatID); messages != messagesByChat.cend())
+                    m_viewModel->setMessages(*messages, chatID);
+            }
+        }
+        if (const auto selected = m_viewModel->selectedChatID())
+            markReadIfVisible(*selected);
+    }
+}
+
+void AppRootView::start()
+{
+    // 1. Desktop notifications need no permission on Linux: the notification
+    //    service is ready as it is.
+    // 2. The handler slots.
+    fillHandlers();
+    // 3. Starting the session.
+    startIfPossible();
+}
+
+void AppRootView::fillHandlers()
+{
+    ChatViewModel &model = *m_viewModel;
+    TelegramSession &session = m_session;
+    model.liveSendHandler = [&session](const QString &text, const QString &chatID,
+                                       const std::optional<QString> &replyTo) {
+        session.sendText(text, chatID, replyTo.value_or(QString()));
+    };
+    model.setCanSendMessages(true);
+    model.livePhotoHandler = [&session](const QString &path, const QString &caption, const QString &chatID) {
+        session.sendPhoto(path, caption, chatID);
+    };
+    model.liveAttachmentsHandler = [&session](const QList<PendingAttachment> &attachments, const QString &caption,
+                                              const QString &chatID) {
+        session.sendAttachments(attachments, caption, chatID);
+    };
+    model.liveStickerHandler = [&session](const StickerChoice &sticker, const QString &chatID) {
+        session.sendSticker(sticker, chatID);
+    };
+    model.liveEditHandler = [&session](const QString &messageID, const QString &text, const QString &chatID) {
+        session.editText(messageID, text, chatID);
+    };
+    model.liveDeleteHandler = [&session](const QString &messageID, const QString &chatID) {
+        session.deleteMessage(messageID, chatID);
+    };
+    model.liveReactionHandler = [&session](const QString &emoji, bool chosen, const QString &messageID,
+                                           const QString &chatID) {
+        session.setReaction(emoji, chosen, messageID, chatID);
+    };
+    model.liveForwardHandler = [&session](const QString &messageID, const QString &fromChatID,
+                                          const QString &toChatID) {
+        session.forwardMessage(messageID, fromChatID, toChatID);
+    };
+    model.loadOlderHandler = [&session](const QString &chatID, const QString &oldestMessageID) {
+        session.loadOlderMessages(chatID, oldestMessageID);
+    };
+    model.contactSearchHandler = [&session](const QString &query) { session.searchContacts(query); };
+    // One conversation at a time: a second request while one is being created is ignored.
+    model.openContactHandler = [&session](qint64 userID) {
+        if (session.creatingConversation())
+            return;
+        const QString requestID = session.beginConversation();
+        session.requestPrivateChat(userID, requestID, false);
+    };
+    // liveDocumentHandler, liveRichMediaHandler, typingHandler, muteChatHandler,
+    // archiveChatHandler, pinChatHandler, markUnreadHandler and draftHandler stay
+    // unset: the conversation view does without them.
+}
+
+void AppRootView::startIfPossible()
+{
+    const auto apiID = m_credentialStore.apiID();
+    const auto apiHash = m_credentialStore.apiHash();
+    if (apiID && apiHash)
+        m_session.start(*apiID, *apiHash);
+    // Otherwise the conversation view shows the configuration error.
+}
+
+qint64 AppRootView::unreadTotal(const QList<Chat> &chats)
+{
+    qint64 total = 0;
+    for (const Chat &chat : chats) {
+        if (chat.unreadCount > 0 && qAddOverflow(total, chat.unreadCount, &total))
+            return std::numeric_limits<qint64>::max();
+    }
+    return total;
+}
+
+void AppRootView::publishUnreadCount(const QList<Chat> &chats)
+{
+    NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::unreadCountDidChange),
+                                             QVariant::fromValue(unreadTotal(chats)));
+}
+
+void AppRootView::markReadIfVisible(const QString &chatID)
+{
+    if (!m_isPopoverVisible)
+        return;
+    const auto &messagesByChat = m_session.messagesByChat();
+    if (const auto messages = messagesByChat.constFind(chatID); messages != messagesByChat.cend())
+        m_session.markMessagesRead(*messages, chatID);
+}
+
+void AppRootView::selectedChatChanged()
+{
+    const std::optional<QString> selected = m_viewModel->selectedChatID();
+    if (!selected)
+        return; // a change to no selection does nothing
+    const QString chatID = *selected;
+    const auto &messagesByChat = m_session.messagesByChat();
+    if (const auto messages = messagesByChat.constFind(chatID); messages != messagesByChat.cend()) {
+        const QList<Message> held = *messages;
+        m_viewModel->setMessages(held, chatID);
+        if (m_isPopoverVisible)
+            m_session.markMessagesRead(held, chatID);
+    }
+    m_session.loadMessages(chatID);
+}
+
+void AppRootView::popoverVisibilityChanged(const QVariant &object)
+{
+    applyPendingChanges();
+    const bool visible = object.metaType().id() == QMetaType::Bool && object.toBool();
+    if (visible != m_isPopoverVisible) {
+        m_isPopoverVisible = visible;
+        Q_EMIT isPopoverVisibleChanged();
+    }
+    if (!visible)
+        return;
+    m_session.requestChats();
+    if (const auto selected = m_viewModel->selectedChatID())
+        markReadIfVisible(*selected);
+}
+
+void AppRootView::openChatRequested(const QVariant &object)
+{
+    if (object.metaType().id() != QMetaType::QString)
+        return;
+    applyPendingChanges();
+    const QString chatID = object.toString();
+    m_viewModel->setSelectedChatID(chatID);
+    m_session.loadMessages(chatID);
+}

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "ChatListModel.h"
+#include "ChatViewModel.h"
+#include "ChoiceListModels.h"
+#include "MessageListModel.h"
+
+#include "session/CredentialStore.h"
+#include "session/TelegramSession.h"
+
+#include <QObject>
+#include <QSet>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+// The glue the popover hosts: it owns the one session and the one view model of
+// the process, plugs the session's operations into the view model's handler
+// slots, copies the session's published state into the view model, keeps the
+// badge in step with the unread total, marks messages read while the popover is
+// visible, and answers "openTelegramChat" and "vostPopoverVisibilityDidChange".
+//
+// Session changes are applied once per turn of the event loop. During a sync the
+// session announces every one of thousands of chat updates, and each application
+// copies the whole chat list (replaceChats, the unread total, the list model's
+// diff); doing that once per turn instead of once per update keeps a sync linear.
+// The effects keep the order of the rules: chats first (replace, unread total,
+// every chat's messages), then messages (and marking the selected chat read).
+// applyPendingChanges() applies what is waiting at once, for code that must see
+// the view model current now (the replay driver before it reads state).
+class AppRootView : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application creates the one root view.")
+    Q_PROPERTY(ChatViewModel *viewModel READ viewModel CONSTANT)
+    Q_PROPERTY(TelegramSession *session READ session CONSTANT)
+    Q_PROPERTY(ChatListModel *chatList READ chatList CONSTANT)
+    Q_PROPERTY(MessageListModel *messageList READ messageList CONSTANT)
+    Q_PROPERTY(StickerListModel *recentStickerList READ recentStickerList CONSTANT)
+    Q_PROPERTY(ContactListModel *contactList READ contactList CONSTANT)
+    Q_PROPERTY(bool isPopoverVisible READ isPopoverVisible NOTIFY isPopoverVisibleChanged)
+    Q_PROPERTY(bool hasCredentials READ hasCredentials CONSTANT)
+
+public:
+    // Owns a session of its own, with no request sender.
+    explicit AppRootView(CredentialStore &credentialStore, QObject *parent = nullptr);
+    // Uses a session that lives elsewhere (and outlives this view).
+    AppRootView(CredentialStore &credentialStore, TelegramSession &session, QObject *parent = nullptr);
+    ~AppRootView() override;
+
+    CredentialStore &credentialStore() const { return m_credentialStore; }
+    TelegramSession *session() const { return &m_session; }
+    ChatViewModel *viewModel() const { return m_viewModel; }
+    ChatListModel *chatList() const { return m_chatList; }
+    MessageListModel *messageList() const { return m_messageList; }
+    StickerListModel *recentStickerList() const { return m_stickerList; }
+    ContactListModel *contactList() const { return m_contactList; }
+    bool isPopoverVisible() const { return m_isPopoverVisible; }
+    bool hasCredentials() const { return m_credentialStore.hasCredentials(); }
+
+    // What the view does when it first appears: fills the handler slots, then
+    // starts the session when there are credentials. Appearing again fills the
+    // slots again.
+    Q_INVOKABLE void start();
+    void startIfPossible();
+    // Posts "vostUnreadCountDidChange" with the unread total of chats.
+    void publishUnreadCount(const QList<Chat> &chats);
+    // The sum of the chats' unread counts, negative ones read as 0, muted and
+    // archived chats included; a total beyond the integer range stays at its maximum.
+    static qint64 unreadTotal(const QList<Chat> &chats);
+
+    void applyPendingChanges();
+    bool hasPendingChanges() const { return m_chatsPending || !m_messagesPending.isEmpty(); }
+
+Q_SIGNALS:
+    void isPopoverVisibleChanged();
+
+private:
+    void connectSession();
+    void schedule();
+    void fillHandlers();
+    void selectedChatChanged();
+    void popoverVisibilityChanged(const QVariant &object);
+    void openChatRequested(const QVariant &object);
+    void markReadIfVisible(const QString &chatID);
+
+    CredentialStore &m_credentialStore;
+    std::unique_ptr<TelegramSession> m_ownedSession;
+    TelegramSession &m_session;
+    ChatViewModel *m_viewModel;
+    ChatListModel *m_chatList;
+    MessageListModel *m_messageList;
+    StickerListModel *m_stickerList;
+    ContactListModel *m_contactList;
+    bool m_isPopoverVisible = false;
+
+    bool m_chatsPending = false;
+    QSet<QString> m_messagesPending;
+    bool m_scheduled = false;
+};

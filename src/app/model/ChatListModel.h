@@ -1,0 +1,76 @@
+#pragma once
+
+#include "RowListModel.h"
+
+#include "session/ModelTypes.h"
+
+#include <QColor>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+class ChatViewModel;
+
+// The sidebar's chat list: the view model's filteredChats, one row per chat,
+// kept in step by row changes (never a reset for a small change) whenever the
+// chats, the search text or the selection change.
+//
+// Roles: chatID, title, subtitle, preview, timestamp, unreadCount (int, negative read
+// as 0), isMuted, isPinned, isArchived, isMarkedUnread, draftText, avatarText,
+// avatarSymbol ("" when none), avatarPath ("" when none), avatarUrl (file URL or
+// empty), avatarColor (color), isSelected, isTyping (the subtitle says someone is
+// typing).
+class ChatListModel : public RowListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The root view owns the chat list.")
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+public:
+    enum Role {
+        IdRole = Qt::UserRole + 1,
+        TitleRole,
+        SubtitleRole,
+        PreviewRole,
+        TimestampRole,
+        UnreadCountRole,
+        IsMutedRole,
+        IsPinnedRole,
+        IsArchivedRole,
+        IsMarkedUnreadRole,
+        DraftTextRole,
+        AvatarTextRole,
+        AvatarSymbolRole,
+        AvatarPathRole,
+        AvatarUrlRole,
+        AvatarColorRole,
+        IsSelectedRole,
+        IsTypingRole,
+    };
+    Q_ENUM(Role)
+
+    explicit ChatListModel(ChatViewModel *viewModel, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    int count() const { return int(m_rows.size()); }
+    // The row of the chat with that id, or -1.
+    Q_INVOKABLE int rowOf(const QString &chatID) const;
+    Q_INVOKABLE QString idAt(int row) const;
+
+    // The colour behind a chat's initials, fixed by its id.
+    static QColor avatarColor(const QString &chatID);
+
+Q_SIGNALS:
+    void countChanged();
+
+private:
+    void refresh();
+    void followSelection();
+
+    QPointer<ChatViewModel> m_viewModel;
+    QList<Chat> m_rows;
+    QString m_selectedID;
+};

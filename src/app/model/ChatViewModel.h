@@ -1,0 +1,206 @@
+#pragma once
+
+#include "session/ModelNames.h"
+#include "session/ModelTypes.h"
+#include "session/TelegramService.h"
+
+#include <QHash>
+#include <QObject>
+#include <QVariant>
+#include <QtQml/qqmlregistration.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+// The state behind the conversation view: the chat list as shown, the selected
+// chat, the search text, the composer (text, reply target, message being edited,
+// queued attachments or sticker) and each chat's unread divider. It never talks to
+// TDLib: every outgoing action goes through one of the handler slots, which the
+// root view fills with session operations. A slot left empty skips its action.
+//
+// C++ reads every property in its own type (optional values as std::optional);
+// QML reads the same names through properties of QML-friendly types: absent text
+// is "", records are maps and lists of maps, an absent record is null.
+class ChatViewModel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The root view owns the one view model.")
+    Q_PROPERTY(QString selectedChatID READ selectedChatIDText WRITE selectChat NOTIFY selectedChatIDChanged)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
+    Q_PROPERTY(QString composerText READ composerText WRITE setComposerText NOTIFY composerTextChanged)
+    Q_PROPERTY(QVariantList pendingAttachments READ pendingAttachmentItems NOTIFY pendingAttachmentsChanged)
+    Q_PROPERTY(QString pendingDocumentPath READ pendingDocumentPathText NOTIFY pendingDocumentPathChanged)
+    Q_PROPERTY(QString pendingRichMediaPath READ pendingRichMediaPathText NOTIFY pendingRichMediaPathChanged)
+    Q_PROPERTY(bool recentStickersLoaded READ recentStickersLoaded NOTIFY recentStickersLoadedChanged)
+    Q_PROPERTY(QVariant pendingSticker READ pendingStickerItem NOTIFY pendingStickerChanged)
+    Q_PROPERTY(QVariant replyToMessage READ replyToMessageItem NOTIFY replyToMessageChanged)
+    Q_PROPERTY(QVariant editingMessage READ editingMessageItem NOTIFY editingMessageChanged)
+    Q_PROPERTY(bool canSendMessages READ canSendMessages NOTIFY canSendMessagesChanged)
+    Q_PROPERTY(QVariant selectedChat READ selectedChatItem NOTIFY selectedChatChanged)
+
+public:
+    explicit ChatViewModel(std::unique_ptr<TelegramService> service, QObject *parent = nullptr);
+    ~ChatViewModel() override;
+
+    // Handler slots, all unset at first.
+    std::function<void(const QString &text, const QString &chatID, const std::optional<QString> &replyTo)>
+        liveSendHandler;
+    std::function<void(const QString &path, const QString &caption, const QString &chatID)> livePhotoHandler;
+    std::function<void(const QList<PendingAttachment> &attachments, const QString &caption, const QString &chatID)>
+        liveAttachmentsHandler;
+    std::function<void(const QString &path, const QString &caption, const QString &chatID)> liveDocumentHandler;
+    std::function<void(const QString &path, MessageMediaKind kind, const QString &caption, const QString &chatID)>
+        liveRichMediaHandler;
+    std::function<void(const StickerChoice &sticker, const QString &chatID)> liveStickerHandler;
+    std::function<void(const QString &messageID, const QString &text, const QString &chatID)> liveEditHandler;
+    std::function<void(const QString &messageID, const QString &chatID)> liveDeleteHandler;
+    std::function<void(const QString &emoji, bool chosen, const QString &messageID, const QString &chatID)>
+        liveReactionHandler;
+    std::function<void(const QString &messageID, const QString &fromChatID, const QString &toChatID)>
+        liveForwardHandler;
+    std::function<void(const QString &chatID, const QString &oldestMessageID)> loadOlderHandler;
+    std::function<void(bool typing, const QString &chatID)> typingHandler;
+    std::function<void(const QString &query)> contactSearchHandler;
+    std::function<void(qint64 userID)> openContactHandler;
+    std::function<void(bool muted, const QString &chatID)> muteChatHandler;
+    std::function<void(bool archived, const QString &chatID)> archiveChatHandler;
+    std::function<void(bool pinned, const QString &chatID, bool inArchive)> pinChatHandler;
+    std::function<void(bool markedUnread, const QString &chatID)> markUnreadHandler;
+    std::function<void(const QString &text, const QString &chatID)> draftHandler;
+
+    // Properties
+    const QList<Chat> &chats() const { return m_chats; }
+    std::optional<QString> selectedChatID() const { return m_selectedChatID; }
+    void setSelectedChatID(const std::optional<QString> &chatID);
+    QString searchText() const { return m_searchText; }
+    void setSearchText(const QString &text);
+    QString composerText() const { return m_composerText; }
+    void setComposerText(const QString &text);
+    const QList<PendingAttachment> &pendingAttachments() const { return m_pendingAttachments; }
+    void setPendingAttachments(const QList<PendingAttachment> &attachments);
+    std::optional<QString> pendingDocumentPath() const { return m_pendingDocumentPath; }
+    void setPendingDocumentPath(const std::optional<QString> &path);
+    std::optional<QString> pendingRichMediaPath() const { return m_pendingRichMediaPath; }
+    void setPendingRichMediaPath(const std::optional<QString> &path);
+    std::optional<MessageMediaKind> pendingRichMediaKind() const { return m_pendingRichMediaKind; }
+    void setPendingRichMediaKind(const std::optional<MessageMediaKind> &kind);
+    const QList<StickerChoice> &recentStickers() const { return m_recentStickers; }
+    void setRecentStickers(const QList<StickerChoice> &stickers);
+    bool recentStickersLoaded() const { return m_recentStickersLoaded; }
+    void setRecentStickersLoaded(bool loaded);
+    const QList<ContactChoice> &contactResults() const { return m_contactResults; }
+    void setContactResults(const QList<ContactChoice> &results);
+    const QList<ContactChoice> &contacts() const { return m_contacts; }
+    void setContacts(const QList<ContactChoice> &contacts);
+    std::optional<StickerChoice> pendingSticker() const { return m_pendingSticker; }
+    void setPendingSticker(const std::optional<StickerChoice> &sticker);
+    std::optional<Message> replyToMessage() const { return m_replyToMessage; }
+    void setReplyToMessage(const std::optional<Message> &message);
+    std::optional<Message> editingMessage() const { return m_editingMessage; }
+    void setEditingMessage(const std::optional<Message> &message);
+    bool canSendMessages() const { return m_canSendMessages; }
+    void setCanSendMessages(bool canSend);
+    const QHash<QString, QString> &unreadDividers() const { return m_unreadDividers; }
+    void setUnreadDividers(const QHash<QString, QString> &dividers);
+    const TelegramService &service() const { return *m_service; }
+
+    // The chats the sidebar shows: all of them while the search text is empty,
+    // otherwise those whose title or preview contains it, ignoring case.
+    QList<Chat> filteredChats() const;
+    // The first chat whose id is the selected one; absent when none is.
+    std::optional<Chat> selectedChat() const;
+    // The chat with that id, without copying; null when there is none.
+    const Chat *chat(const QString &chatID) const;
+
+    void replaceChats(const QList<Chat> &chats);
+    void setMessages(const QList<Message> &messages, const QString &chatID);
+    Q_INVOKABLE void sendMessage();
+    void toggleReaction(const QString &emoji, const Message &message);
+    void queueSticker(const StickerChoice &sticker);
+    void queueAttachments(const QList<PendingAttachment> &attachments);
+    void removePendingAttachment(const QUuid &id);
+
+    // For QML: identifiers as text, records looked up in the selected chat.
+    Q_INVOKABLE void selectChat(const QString &chatID);
+    Q_INVOKABLE void toggleReactionOnMessage(const QString &emoji, const QString &messageID);
+    Q_INVOKABLE void replyTo(const QString &messageID);
+    Q_INVOKABLE void edit(const QString &messageID);
+    Q_INVOKABLE void cancelReplyAndEdit();
+    Q_INVOKABLE void queueFiles(const QStringList &paths, bool asDocuments);
+    Q_INVOKABLE void queueStickerAt(int row);
+    Q_INVOKABLE void removePendingAttachmentWithID(const QString &id);
+    Q_INVOKABLE void loadOlderMessages();
+    Q_INVOKABLE void deleteMessage(const QString &messageID);
+    Q_INVOKABLE void forwardMessage(const QString &messageID, const QString &toChatID);
+    Q_INVOKABLE void searchContacts(const QString &query);
+    Q_INVOKABLE void openContact(const QString &userID);
+    // The selected chat's message with that id; absent when there is none.
+    std::optional<Message> selectedChatMessage(const QString &messageID) const;
+
+    // The forms QML reads.
+    QString selectedChatIDText() const { return m_selectedChatID.value_or(QString()); }
+    QVariantList pendingAttachmentItems() const;
+    QString pendingDocumentPathText() const { return m_pendingDocumentPath.value_or(QString()); }
+    QString pendingRichMediaPathText() const { return m_pendingRichMediaPath.value_or(QString()); }
+    QVariant pendingStickerItem() const;
+    QVariant replyToMessageItem() const;
+    QVariant editingMessageItem() const;
+    QVariant selectedChatItem() const;
+
+Q_SIGNALS:
+    // The chat list was replaced as a whole (replaceChats).
+    void chatsChanged();
+    // One chat's messages in chats were replaced or extended; the list itself is as it was.
+    void messagesChanged(const QString &chatID);
+    void selectedChatIDChanged();
+    // The selected chat's own fields, or which chat that is, may have changed.
+    void selectedChatChanged();
+    void searchTextChanged();
+    void composerTextChanged();
+    void pendingAttachmentsChanged();
+    void pendingDocumentPathChanged();
+    void pendingRichMediaPathChanged();
+    void pendingRichMediaKindChanged();
+    void recentStickersChanged();
+    void recentStickersLoadedChanged();
+    void contactResultsChanged();
+    void contactsChanged();
+    void pendingStickerChanged();
+    void replyToMessageChanged();
+    void editingMessageChanged();
+    void canSendMessagesChanged();
+    void unreadDividersChanged();
+
+private:
+    void rebuildIndex();
+    void replaceMessages(qsizetype row, const QList<Message> &messages);
+
+    QList<Chat> m_chats;
+    QHash<QString, qsizetype> m_chatRows; // chat id -> row of its first chat in m_chats
+    std::optional<QString> m_selectedChatID;
+    QString m_searchText;
+    QString m_composerText;
+    QList<PendingAttachment> m_pendingAttachments;
+    std::optional<QString> m_pendingDocumentPath;
+    std::optional<QString> m_pendingRichMediaPath;
+    std::optional<MessageMediaKind> m_pendingRichMediaKind;
+    QList<StickerChoice> m_recentStickers;
+    bool m_recentStickersLoaded = false;
+    QList<ContactChoice> m_contactResults;
+    QList<ContactChoice> m_contacts;
+    std::optional<StickerChoice> m_pendingSticker;
+    std::optional<Message> m_replyToMessage;
+    std::optional<Message> m_editingMessage;
+    bool m_canSendMessages = false;
+    QHash<QString, QString> m_unreadDividers;
+    // Drafts are not saved from this model, so there is no draft-saving task to keep.
+    std::unique_ptr<TelegramService> m_service;
+};
+
+// The search rule of the chat list: a containment test that ignores case the way
+// the user's language does, treating canonically equivalent texts as equal.
+bool localizedCaseInsensitiveContains(const QString &text, const QString &search);
+// The forms of values QML reads.
+QVariantMap messageItem(const Message &message);

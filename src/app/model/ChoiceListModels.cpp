@@ -1,0 +1,123 @@
+#include "ChoiceListModels.h"
+
+#include "ChatViewModel.h"
+
+#include <QUrl>
+
+StickerListModel::StickerListModel(ChatViewModel *viewModel, QObject *parent)
+    : RowListModel(parent)
+    , m_viewModel(viewModel)
+    , m_rows(viewModel->recentStickers())
+{
+    connect(viewModel, &ChatViewModel::recentStickersChanged, this, &StickerListModel::refresh);
+}
+
+void StickerListModel::refresh()
+{
+    if (!m_viewModel)
+        return;
+    const int before = count();
+    updateRows(
+        m_rows, m_viewModel->recentStickers(), [](const StickerChoice &sticker) { return sticker.id; },
+        [](const StickerChoice &a, const StickerChoice &b) { return a == b; });
+    if (count() != before)
+        Q_EMIT countChanged();
+}
+
+int StickerListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant StickerListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const StickerChoice &sticker = m_rows.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+    case EmojiRole:
+        return sticker.emoji;
+    case IdRole:
+        return QString::number(sticker.id);
+    case FileIDRole:
+        return QString::number(sticker.fileID);
+    case PathRole:
+        return sticker.path;
+    case UrlRole:
+        return sticker.path.isEmpty() ? QUrl() : QUrl::fromLocalFile(sticker.path);
+    case WidthRole:
+        return sticker.width;
+    case HeightRole:
+        return sticker.height;
+    case FormatRole:
+        return caseName(sticker.format);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> StickerListModel::roleNames() const
+{
+    return {{IdRole, "stickerID"}, {FileIDRole, "fileID"}, {PathRole, "path"},     {UrlRole, "url"},
+            {EmojiRole, "emoji"},  {WidthRole, "width"},   {HeightRole, "height"}, {FormatRole, "format"}};
+}
+
+ContactListModel::ContactListModel(ChatViewModel *viewModel, QObject *parent)
+    : RowListModel(parent)
+    , m_viewModel(viewModel)
+    , m_rows(viewModel->contacts())
+{
+    connect(viewModel, &ChatViewModel::contactsChanged, this, &ContactListModel::refresh);
+}
+
+void ContactListModel::refresh()
+{
+    if (!m_viewModel)
+        return;
+    const int before = count();
+    updateRows(
+        m_rows, m_viewModel->contacts(), [](const ContactChoice &contact) { return contact.id; },
+        [](const ContactChoice &a, const ContactChoice &b) { return a == b; });
+    if (count() != before)
+        Q_EMIT countChanged();
+}
+
+int ContactListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant ContactListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const ContactChoice &contact = m_rows.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+    case NameRole:
+        return contact.name;
+    case IdRole:
+        return QString::number(contact.id);
+    case UsernameRole:
+        return contact.username;
+    case InitialsRole:
+        return contact.initials;
+    case AvatarPathRole:
+        return contact.avatarPath.value_or(QString());
+    case IsOnlineRole:
+        return contact.isOnline;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ContactListModel::roleNames() const
+{
+    return {{IdRole, "userID"},
+            {NameRole, "name"},
+            {UsernameRole, "username"},
+            {InitialsRole, "initials"},
+            {AvatarPathRole, "avatarPath"},
+            {IsOnlineRole, "isOnline"}};
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "RowListModel.h"
+
+#include "session/ModelTypes.h"
+
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+class ChatViewModel;
+
+// The view model's recent stickers, for the sticker picker.
+// Roles: stickerID (text), fileID (text), path, url (file URL), emoji, width,
+// height, format ("webp", "animated", "video"). queueStickerAt(row) on the view
+// model queues one.
+class StickerListModel : public RowListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The root view owns the sticker list.")
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+public:
+    enum Role {
+        IdRole = Qt::UserRole + 1,
+        FileIDRole,
+        PathRole,
+        UrlRole,
+        EmojiRole,
+        WidthRole,
+        HeightRole,
+        FormatRole
+    };
+    Q_ENUM(Role)
+
+    explicit StickerListModel(ChatViewModel *viewModel, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+    int count() const { return int(m_rows.size()); }
+
+Q_SIGNALS:
+    void countChanged();
+
+private:
+    void refresh();
+
+    QPointer<ChatViewModel> m_viewModel;
+    QList<StickerChoice> m_rows;
+};
+
+// The view model's contacts (the roster), for the new-chat form.
+// Roles: userID (text; openContact(userID) on the view model opens the chat),
+// name, username, initials, avatarPath ("" when none), isOnline.
+class ContactListModel : public RowListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The root view owns the contact list.")
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+public:
+    enum Role { IdRole = Qt::UserRole + 1, NameRole, UsernameRole, InitialsRole, AvatarPathRole, IsOnlineRole };
+    Q_ENUM(Role)
+
+    explicit ContactListModel(ChatViewModel *viewModel, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+    int count() const { return int(m_rows.size()); }
+
+Q_SIGNALS:
+    void countChanged();
+
+private:
+    void refresh();
+
+    QPointer<ChatViewModel> m_viewModel;
+    QList<ContactChoice> m_rows;
+};

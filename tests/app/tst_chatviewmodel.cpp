@@ -1,0 +1,316 @@
+// The view model's own rules: search, chat replacement and selection, unread
+// dividers, the order of precedence of sending, reactions and the composer queue.
+
+#include "ChatViewModel.h"
+
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Chat makeChat(const QString &id, const QString &title, const QString &preview = {})
+{
+    Chat chat;
+    chat.id = id;
+    chat.title = title;
+    chat.preview = preview;
+    return chat;
+}
+
+Message makeMessage(const QString &id, bool unread = false)
+{
+    Message message;
+    message.id = id;
+    message.text = u"text "_s + id;
+    message.isUnread = unread;
+    return message;
+}
+
+QStringList ids(const QList<Chat> &chats)
+{
+    QStringList result;
+    for (const Chat &chat : chats)
+        result.append(chat.id);
+    return result;
+}
+
+// Records every handler call as one line.
+struct Recorder {
+    QStringList calls;
+
+    void attach(ChatViewModel &model)
+    {
+        model.liveSendHandler = [this](const QString &text, const QString &chat, const std::optional<QString> &reply) {
+            calls.append(u"send "_s + text + u" to "_s + chat + u" reply "_s + reply.value_or(u"-"_s));
+        };
+        model.liveStickerHandler = [this](const StickerChoice &sticker, const QString &chat) {
+            calls.append(u"sticker "_s + sticker.emoji + u" to "_s + chat);
+        };
+        model.liveAttachmentsHandler = [this](const QList<PendingAttachment> &a, const QString &caption,
+                                              const QString &chat) {
+            calls.append(u"attachments "_s + QString::number(a.size()) + u" caption "_s + caption + u" to "_s + chat);
+        };
+        model.liveEditHandler = [this](const QString &id, const QString &text, const QString &chat) {
+            calls.append(u"edit "_s + id + u" "_s + text + u" in "_s + chat);
+        };
+        model.liveReactionHandler = [this](const QString &emoji, bool chosen, const QString &id, const QString &chat) {
+            calls.append(u"react "_s + emoji + (chosen ? u" chosen "_s : u" not chosen "_s) + id + u" in "_s + chat);
+        };
+        model.setCanSendMessages(true);
+    }
+};
+
+} // namespace
+
+class ChatViewModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void startsEmpty()
+    {
+        ChatViewModel model(std::make_unique<EmptyTelegramService>());
+        QVERIFY(model.chats().isEmpty());
+        QVERIFY(!model.selectedChatID());
+        QVERIFY(!model.canSendMessages());
+        QVERIFY(!model.liveSendHandler);
+        QVERIFY(!model.openContactHandler);
+        QVERIFY(model.unreadDividers().isEmpty());
+        QVERIFY(!model.selectedChat());
+    }
+
+    void searchKeepsTitleOrPreviewMatches()
+    {
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"Lab"_s), makeChat(u"2"_s, u"Bea"_s, u"ABOUT the plan"_s),
+                            makeChat(u"3"_s, u"Cy"_s, u"nothing"_s), makeChat(u"4"_s, u"Straße"_s)});
+        QCOMPARE(ids(model.filteredChats()), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s}));
+        model.setSearchText(u"ab"_s);
+        QCOMPARE(ids(model.filteredChats()), (QStringList{u"1"_s, u"2"_s}));
+        // No trimming: a space is searched for.
+        model.setSearchText(u" "_s);
+        QCOMPARE(ids(model.filteredChats()), (QStringList{u"2"_s}));
+        model.setSearchText(u"STRASSE"_s);
+        QCOMPARE(ids(model.filteredChats()), (QStringList{u"4"_s}));
+    }
+
+    void searchTreatsEquivalentTextsAlike()
+    {
+        // "é" composed and decomposed are the same letter, and "e" is not "é".
+        QVERIFY(localizedCaseInsensitiveContains(u"Caf\u00e9"_s, u"CAFE\u0301"_s));
+        QVERIFY(!localizedCaseInsensitiveContains(u"Caf\u00e9"_s, u"cafe"_s));
+        QVERIFY(localizedCaseInsensitiveContains(u"anything"_s, QString()));
+    }
+
+    void replacingChatsKeepsLoadedMessagesAndSelection()
+    {
+        ChatViewModel model(nullptr);
+        QSignalSpy selection(&model, &ChatViewModel::selectedChatIDChanged);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s), makeChat(u"2"_s, u"B"_s)});
+        QCOMPARE(model.selectedChatID(), u"1"_s);
+        QCOMPARE(selection.size(), 1);
+        model.setMessages({makeMessage(u"10"_s)}, u"2"_s);
+        model.setSelectedChatID(u"2"_s);
+
+        model.replaceChats({makeChat(u"3"_s, u"C"_s), makeChat(u"2"_s, u"B again"_s)});
+        QCOMPARE(model.selectedChatID(), u"2"_s);
+        QCOMPARE(model.selectedChat()->title, u"B again"_s);
+        QCOMPARE(model.selectedChat()->messages.size(), 1);
+
+        model.replaceChats({makeChat(u"3"_s, u"C"_s)});
+        QCOMPARE(model.selectedChatID(), u"3"_s);
+        model.replaceChats({});
+        QVERIFY(!model.selectedChatID());
+        QVERIFY(!model.selectedChat());
+    }
+
+    void selectionOfAnUnknownChatIsReplacedOnRefresh()
+    {
+        ChatViewModel model(nullptr);
+        model.setSelectedChatID(u"9"_s);
+        QVERIFY(!model.selectedChat());
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        QCOMPARE(model.selectedChatID(), u"1"_s);
+    }
+
+    void unreadDividerIsRecordedOnce()
+    {
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s), makeChat(u"2"_s, u"B"_s)});
+        QSignalSpy messages(&model, &ChatViewModel::messagesChanged);
+        model.setMessages({makeMessage(u"m1"_s), makeMessage(u"m2"_s, true), makeMessage(u"m3"_s, true)}, u"1"_s);
+        QCOMPARE(model.unreadDividers().value(u"1"_s), u"m2"_s);
+        QCOMPARE(messages.size(), 1);
+        model.setMessages({makeMessage(u"m2"_s, true), makeMessage(u"m3"_s, true), makeMessage(u"m4"_s, true)}, u"1"_s);
+        QCOMPARE(model.unreadDividers().value(u"1"_s), u"m2"_s);
+        QCOMPARE(model.chat(u"1"_s)->messages.size(), 3);
+
+        model.setMessages({makeMessage(u"x"_s)}, u"2"_s);
+        QVERIFY(!model.unreadDividers().contains(u"2"_s));
+        // An unknown chat: nothing at all.
+        model.setMessages({makeMessage(u"y"_s, true)}, u"7"_s);
+        QVERIFY(!model.unreadDividers().contains(u"7"_s));
+    }
+
+    void sendsTextBeforeAQueuedSticker()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.queueSticker({5, 6, u"/s.webp"_s, u"😀"_s, 512, 512, StickerFormat::Webp});
+        model.setComposerText(u"  hi \n"_s);
+        model.sendMessage();
+        QCOMPARE(recorder.calls, (QStringList{u"send hi to 1 reply -"_s, u"sticker 😀 to 1"_s}));
+        QVERIFY(!model.pendingSticker());
+        QCOMPARE(model.composerText(), QString());
+    }
+
+    void blankTextSendsNothing()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.setComposerText(u"   "_s);
+        model.sendMessage();
+        QVERIFY(recorder.calls.isEmpty());
+        QCOMPARE(model.composerText(), u"   "_s);
+    }
+
+    void sendingNeedsPermissionAndASelection()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        model.setCanSendMessages(false);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.setComposerText(u"hi"_s);
+        model.sendMessage();
+        model.setCanSendMessages(true);
+        model.setSelectedChatID(std::nullopt);
+        model.sendMessage();
+        QVERIFY(recorder.calls.isEmpty());
+        QCOMPARE(model.composerText(), u"hi"_s);
+    }
+
+    void attachmentsGoFirstWithTheTextAsCaption()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.queueAttachments({{QUuid::createUuid(), u"/a.png"_s, PendingAttachmentKind::Photo}});
+        model.queueAttachments({{QUuid::createUuid(), u"/b.pdf"_s, PendingAttachmentKind::Document}});
+        QCOMPARE(model.pendingAttachments().size(), 2);
+        model.setComposerText(u" look "_s);
+        model.sendMessage();
+        QCOMPARE(recorder.calls, (QStringList{u"attachments 2 caption look to 1"_s}));
+        QVERIFY(model.pendingAttachments().isEmpty());
+        QCOMPARE(model.composerText(), QString());
+    }
+
+    void queuedDocumentAndRichMediaWaitForTheirHandlers()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.setPendingDocumentPath(u"/d.txt"_s);
+        model.setPendingRichMediaPath(u"/v.mp4"_s);
+        model.setPendingRichMediaKind(MessageMediaKind::Video);
+        model.setComposerText(u"plain"_s);
+        model.sendMessage(); // no document or rich-media handler: the text goes as text
+        QCOMPARE(recorder.calls, (QStringList{u"send plain to 1 reply -"_s}));
+        QCOMPARE(model.pendingDocumentPath(), u"/d.txt"_s);
+
+        QStringList sent;
+        model.liveDocumentHandler = [&sent](const QString &path, const QString &caption, const QString &) {
+            sent.append(path + u" "_s + caption);
+        };
+        model.liveRichMediaHandler = [&sent](const QString &path, MessageMediaKind, const QString &, const QString &) {
+            sent.append(path);
+        };
+        model.sendMessage();
+        model.sendMessage();
+        QCOMPARE(sent, (QStringList{u"/d.txt "_s, u"/v.mp4"_s}));
+        QVERIFY(!model.pendingDocumentPath());
+        QVERIFY(!model.pendingRichMediaPath());
+        QVERIFY(!model.pendingRichMediaKind());
+    }
+
+    void editsAndRepliesClearTheirTarget()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.setEditingMessage(makeMessage(u"7"_s));
+        model.setComposerText(u"fixed"_s);
+        model.sendMessage();
+        model.setReplyToMessage(makeMessage(u"8"_s));
+        model.setComposerText(u"answer"_s);
+        model.sendMessage();
+        QCOMPARE(recorder.calls, (QStringList{u"edit 7 fixed in 1"_s, u"send answer to 1 reply 8"_s}));
+        QVERIFY(!model.editingMessage());
+        QVERIFY(!model.replyToMessage());
+    }
+
+    void offlineEchoAppendsThroughTheService()
+    {
+        ChatViewModel model(std::make_unique<EmptyTelegramService>());
+        model.setCanSendMessages(true);
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        QSignalSpy messages(&model, &ChatViewModel::messagesChanged);
+        model.setComposerText(u" echo "_s);
+        model.sendMessage();
+        QCOMPARE(messages.size(), 1);
+        const Chat *chat = model.chat(u"1"_s);
+        QCOMPARE(chat->messages.size(), 1);
+        QCOMPARE(chat->messages.first().text, u"echo"_s);
+        QVERIFY(chat->messages.first().isOutgoing);
+        QCOMPARE(model.composerText(), QString());
+    }
+
+    void reactionsReportTheStateBeforeTheToggle()
+    {
+        ChatViewModel model(nullptr);
+        Recorder recorder;
+        recorder.attach(model);
+        Message message = makeMessage(u"5"_s);
+        message.reactions = {{u"👍"_s, 2, true}, {u"\u2764"_s, 1, true}};
+        model.toggleReaction(u"👍"_s, message); // no selection: nothing
+        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        model.toggleReaction(u"👍"_s, message);
+        model.toggleReaction(u"🔥"_s, message);
+        model.toggleReaction(u"\u2764\ufe0f"_s, message);
+        QCOMPARE(recorder.calls, (QStringList{u"react 👍 chosen 5 in 1"_s, u"react 🔥 not chosen 5 in 1"_s,
+                                              u"react \u2764\ufe0f not chosen 5 in 1"_s}));
+    }
+
+    void queueingReplacesTheOtherKind()
+    {
+        ChatViewModel model(nullptr);
+        const PendingAttachment first{QUuid::createUuid(), u"/a.png"_s, PendingAttachmentKind::Photo};
+        const PendingAttachment second{QUuid::createUuid(), u"/b.png"_s, PendingAttachmentKind::Photo};
+        model.setPendingRichMediaKind(MessageMediaKind::Voice);
+        model.setPendingDocumentPath(u"/d"_s);
+        model.queueAttachments({first, second});
+        QVERIFY(!model.pendingDocumentPath());
+        model.queueSticker({1, 2, u"/s"_s, u"🙂"_s, 1, 1, StickerFormat::Webp});
+        QVERIFY(model.pendingAttachments().isEmpty());
+        QCOMPARE(model.pendingRichMediaKind(), MessageMediaKind::Voice); // left as it was
+        model.queueAttachments({first, second, first});
+        QVERIFY(!model.pendingSticker());
+        model.removePendingAttachment(first.id);
+        QCOMPARE(model.pendingAttachments(), (QList<PendingAttachment>{second}));
+    }
+};
+
+QTEST_GUILESS_MAIN(ChatViewModelTest)
+#include "tst_chatviewmodel.moc"

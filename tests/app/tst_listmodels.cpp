@@ -1,0 +1,259 @@
+// The list models follow the view model row by row, and stay consistent models
+// while they do (QAbstractItemModelTester checks every signal they send).
+
+#include "ChatListModel.h"
+#include "ChatViewModel.h"
+#include "ChoiceListModels.h"
+#include "MessageListModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Chat makeChat(int id, const QString &title = {})
+{
+    Chat chat;
+    chat.id = QString::number(id);
+    chat.title = title.isEmpty() ? u"Chat "_s + chat.id : title;
+    chat.preview = u"preview "_s + chat.id;
+    return chat;
+}
+
+Message makeMessage(int id, const QString &sender, bool unread = false)
+{
+    Message message;
+    message.id = QString::number(id);
+    message.sender.name = sender;
+    message.text = u"message "_s + message.id;
+    message.isUnread = unread;
+    return message;
+}
+
+QStringList column(const QAbstractItemModel &model, int role)
+{
+    QStringList values;
+    for (int row = 0; row < model.rowCount(); ++row)
+        values.append(model.index(row, 0).data(role).toString());
+    return values;
+}
+
+QStringList chatIDs(const QList<Chat> &chats)
+{
+    QStringList result;
+    for (const Chat &chat : chats)
+        result.append(chat.id);
+    return result;
+}
+
+} // namespace
+
+class ListModelsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void chatListChangesByRows()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel model(&viewModel);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QList<Chat> chats;
+        for (int i = 1; i <= 6; ++i)
+            chats.append(makeChat(i));
+        viewModel.replaceChats(chats); // the first fill of an empty list
+        QCOMPARE(column(model, ChatListModel::IdRole), chatIDs(chats));
+
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
+        QSignalSpy removes(&model, &QAbstractItemModel::rowsRemoved);
+        QSignalSpy moves(&model, &QAbstractItemModel::rowsMoved);
+        QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+
+        // A new message moves chat 5 to the top and changes its preview.
+        chats.move(4, 0);
+        chats[0].preview = u"new"_s;
+        viewModel.replaceChats(chats);
+        QCOMPARE(moves.size(), 1);
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(model.index(0).data(ChatListModel::PreviewRole).toString(), u"new"_s);
+
+        // A pinned chat drops down the list.
+        chats.move(0, 4);
+        viewModel.replaceChats(chats);
+        QCOMPARE(moves.size(), 2);
+
+        // New chats arrive in the middle and at the end; one is deleted.
+        chats.insert(2, makeChat(7));
+        chats.insert(3, makeChat(8));
+        chats.append(makeChat(9));
+        chats.removeAt(0);
+        viewModel.replaceChats(chats);
+        QCOMPARE(inserts.size(), 2);
+        QCOMPARE(removes.size(), 1);
+        QCOMPARE(column(model, ChatListModel::IdRole), chatIDs(chats));
+        QCOMPARE(resets.size(), 0);
+        QCOMPARE(model.count(), chats.size());
+    }
+
+    void chatListFollowsSearchAndSelection()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel model(&viewModel);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        viewModel.replaceChats({makeChat(1, u"Lab"_s), makeChat(2, u"Bea"_s), makeChat(3, u"Abe"_s)});
+        QVERIFY(model.index(0).data(ChatListModel::IsSelectedRole).toBool());
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+
+        viewModel.setSearchText(u"ab"_s);
+        QCOMPARE(column(model, ChatListModel::IdRole), (QStringList{u"1"_s, u"3"_s}));
+        viewModel.setSearchText(u"abe"_s);
+        QCOMPARE(column(model, ChatListModel::IdRole), (QStringList{u"3"_s}));
+        viewModel.setSelectedChatID(u"3"_s);
+        QVERIFY(model.index(0).data(ChatListModel::IsSelectedRole).toBool());
+        viewModel.setSearchText(QString());
+        QCOMPARE(column(model, ChatListModel::IdRole), (QStringList{u"1"_s, u"2"_s, u"3"_s}));
+        QVERIFY(!model.index(0).data(ChatListModel::IsSelectedRole).toBool());
+        QVERIFY(model.index(2).data(ChatListModel::IsSelectedRole).toBool());
+        QCOMPARE(resets.size(), 0);
+        QCOMPARE(model.rowOf(u"2"_s), 1);
+    }
+
+    void chatListSurvivesShuffles()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel model(&viewModel);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QRandomGenerator random(7);
+        QList<Chat> chats;
+        int next = 1;
+        for (; next <= 40; ++next)
+            chats.append(makeChat(next));
+        viewModel.replaceChats(chats);
+        for (int round = 0; round < 60; ++round) {
+            const int changes = 1 + int(random.bounded(4));
+            for (int c = 0; c < changes; ++c) {
+                switch (random.bounded(4)) {
+                case 0:
+                    chats.insert(int(random.bounded(int(chats.size()) + 1)), makeChat(next++));
+                    break;
+                case 1:
+                    if (!chats.isEmpty())
+                        chats.removeAt(int(random.bounded(int(chats.size()))));
+                    break;
+                case 2:
+                    if (chats.size() > 1)
+                        chats.move(int(random.bounded(int(chats.size()))), int(random.bounded(int(chats.size()))));
+                    break;
+                default:
+                    if (!chats.isEmpty())
+                        chats[int(random.bounded(int(chats.size())))].unreadCount += 1;
+                }
+            }
+            viewModel.replaceChats(chats);
+            QCOMPARE(column(model, ChatListModel::IdRole), chatIDs(chats));
+            QCOMPARE(column(model, ChatListModel::UnreadCountRole).size(), chats.size());
+        }
+        // A reversal is too large to move row by row: the list is reset, and right.
+        std::reverse(chats.begin(), chats.end());
+        viewModel.replaceChats(chats);
+        QCOMPARE(column(model, ChatListModel::IdRole), chatIDs(chats));
+    }
+
+    void largeListUpdatesCheaply()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel model(&viewModel);
+        QList<Chat> chats;
+        for (int i = 1; i <= 5000; ++i)
+            chats.append(makeChat(i));
+        viewModel.replaceChats(chats);
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        QSignalSpy moves(&model, &QAbstractItemModel::rowsMoved);
+        chats.move(4321, 0);
+        viewModel.replaceChats(chats);
+        QCOMPARE(moves.size(), 1);
+        QCOMPARE(resets.size(), 0);
+        QCOMPARE(model.idAt(0), u"4322"_s);
+    }
+
+    void transcriptChangesByRows()
+    {
+        ChatViewModel viewModel(nullptr);
+        MessageListModel model(&viewModel);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        viewModel.replaceChats({makeChat(1), makeChat(2)});
+        viewModel.setMessages({makeMessage(10, u"Ann"_s), makeMessage(11, u"Ann"_s, true)}, u"1"_s);
+        QCOMPARE(model.chatID(), u"1"_s);
+        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"10"_s, u"11"_s}));
+        QVERIFY(model.index(1).data(MessageListModel::ShowsUnreadDividerRole).toBool());
+        QVERIFY(model.index(0).data(MessageListModel::IsFirstOfGroupRole).toBool());
+        QVERIFY(!model.index(1).data(MessageListModel::IsFirstOfGroupRole).toBool());
+
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
+        QSignalSpy removes(&model, &QAbstractItemModel::rowsRemoved);
+        // Older history above, a new message from someone else below.
+        viewModel.setMessages({makeMessage(8, u"Bo"_s), makeMessage(9, u"Bo"_s), makeMessage(10, u"Ann"_s),
+                               makeMessage(11, u"Ann"_s, true), makeMessage(12, u"Bo"_s, true)},
+                              u"1"_s);
+        QCOMPARE(inserts.size(), 2);
+        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"8"_s, u"9"_s, u"10"_s, u"11"_s, u"12"_s}));
+        QVERIFY(model.index(4).data(MessageListModel::IsFirstOfGroupRole).toBool());
+
+        // Ann's first message is deleted: her second now starts her group.
+        Message edited = makeMessage(11, u"Ann"_s, true);
+        edited.text = u"edited"_s;
+        edited.reactions = {{u"👍"_s, 1, true}};
+        viewModel.setMessages({makeMessage(8, u"Bo"_s), makeMessage(9, u"Bo"_s), edited, makeMessage(12, u"Bo"_s)},
+                              u"1"_s);
+        QCOMPARE(removes.size(), 1);
+        QVERIFY(model.index(2).data(MessageListModel::IsFirstOfGroupRole).toBool());
+        QCOMPARE(model.index(2).data(MessageListModel::TextRole).toString(), u"edited"_s);
+        QCOMPARE(model.index(2).data(MessageListModel::ReactionsRole).toList().size(), 1);
+        QCOMPARE(resets.size(), 0);
+
+        // Another chat is another transcript.
+        viewModel.setSelectedChatID(u"2"_s);
+        QCOMPARE(resets.size(), 1);
+        QCOMPARE(model.count(), 0);
+        viewModel.setSelectedChatID(std::nullopt);
+        QCOMPARE(model.chatID(), QString());
+    }
+
+    void stickersAndContactsFollowTheViewModel()
+    {
+        ChatViewModel viewModel(nullptr);
+        StickerListModel stickers(&viewModel);
+        ContactListModel contacts(&viewModel);
+        QAbstractItemModelTester stickerTester(&stickers, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester contactTester(&contacts, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const StickerChoice a{1, 11, u"/a.webp"_s, u"😀"_s, 512, 512, StickerFormat::Webp};
+        const StickerChoice b{2, 12, u"/b.tgs"_s, u"🔥"_s, 512, 512, StickerFormat::Animated};
+        viewModel.setRecentStickers({a});
+        viewModel.setRecentStickers({b, a});
+        QCOMPARE(column(stickers, StickerListModel::IdRole), (QStringList{u"2"_s, u"1"_s}));
+        QCOMPARE(stickers.index(0).data(StickerListModel::FormatRole).toString(), u"animated"_s);
+
+        ContactChoice ann{5, u"Ann"_s, u"ann"_s, u"A"_s, std::nullopt, false};
+        viewModel.setContacts({ann});
+        ann.isOnline = true;
+        QSignalSpy changes(&contacts, &QAbstractItemModel::dataChanged);
+        viewModel.setContacts({ann, {6, u"Bo"_s, {}, u"B"_s, std::nullopt, false}});
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(column(contacts, ContactListModel::IdRole), (QStringList{u"5"_s, u"6"_s}));
+        QVERIFY(contacts.index(0).data(ContactListModel::IsOnlineRole).toBool());
+        viewModel.setContacts({});
+        QCOMPARE(contacts.count(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(ListModelsTest)
+#include "tst_listmodels.moc"
