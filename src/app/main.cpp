@@ -1,10 +1,15 @@
-#include <QCoreApplication>
-#include <QTextStream>
+#include "StickerEngine.h"
+#include "VostApp.h"
+
+#include <QApplication>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(Vost_AppPlugin)
+Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication application(argc, argv);
-    QTextStream(stderr) << "Vost's tray client is not built yet: this build has the TDLib bridge and the "
-                           "session core only.\nTry tools/vost-replay (see docs/replay.md) to drive a session.\n";
-    return 2;
+    VostRender::initializeStickerEngine();
+    QApplication application(argc, argv);
+    return VostApp::run(application);
 }

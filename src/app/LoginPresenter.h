@@ -1,0 +1,99 @@
+#pragma once
+
+#include "session/Step.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVariantMap>
+#include <QtQml/qqmlregistration.h>
+
+class TelegramSession;
+
+// The sign-in screen's fixed texts for each authorization step.
+namespace LoginTexts {
+enum class Field { None, Plain, Secure };
+
+QString icon(Step::Case step);
+QString title(Step::Case step);
+QString instructions(Step::Case step);
+Field field(Step::Case step);
+QString placeholder(Step::Case step);
+// "Hint: " and the password hint.
+QString hintLine(const QString &hint);
+// "CFBundleShortVersionString", or "1.2" when the dictionary has none.
+QString appVersion(const QVariantMap &infoDictionary);
+inline constexpr auto footer =
+    "Verification codes and passwords are sent directly to TDLib and are never saved by this app.";
+} // namespace LoginTexts
+
+// What TelegramLoginView shows for the session's step, and the three texts the
+// user typed (one per step, kept when the step changes, never written anywhere).
+// submit() hands the current step's text, exactly as typed, to the session.
+class LoginPresenter : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QObject *session READ session WRITE setSession NOTIFY sessionChanged)
+    Q_PROPERTY(QString icon READ icon NOTIFY stepChanged)
+    Q_PROPERTY(QString title READ title NOTIFY stepChanged)
+    Q_PROPERTY(QString instructions READ instructions NOTIFY stepChanged)
+    Q_PROPERTY(bool hasField READ hasField NOTIFY stepChanged)
+    Q_PROPERTY(bool isSecure READ isSecure NOTIFY stepChanged)
+    Q_PROPERTY(QString placeholder READ placeholder NOTIFY stepChanged)
+    Q_PROPERTY(bool showsHint READ showsHint NOTIFY stepChanged)
+    Q_PROPERTY(QString hintLine READ hintLine NOTIFY stepChanged)
+    Q_PROPERTY(bool isStarting READ isStarting NOTIFY stepChanged)
+    Q_PROPERTY(QString fieldText READ fieldText WRITE setFieldText NOTIFY fieldTextChanged)
+    Q_PROPERTY(bool canContinue READ canContinue NOTIFY fieldTextChanged)
+    Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
+    Q_PROPERTY(QString startupStatus READ startupStatus NOTIFY startupStatusChanged)
+    Q_PROPERTY(QString footer READ footer CONSTANT)
+    Q_PROPERTY(QString versionLine READ versionLine CONSTANT)
+
+public:
+    explicit LoginPresenter(QObject *parent = nullptr);
+
+    QObject *session() const;
+    void setSession(QObject *session);
+
+    Step step() const;
+    QString icon() const { return LoginTexts::icon(step().kind()); }
+    QString title() const { return LoginTexts::title(step().kind()); }
+    QString instructions() const { return LoginTexts::instructions(step().kind()); }
+    bool hasField() const { return LoginTexts::field(step().kind()) != LoginTexts::Field::None; }
+    bool isSecure() const { return LoginTexts::field(step().kind()) == LoginTexts::Field::Secure; }
+    QString placeholder() const { return LoginTexts::placeholder(step().kind()); }
+    bool showsHint() const { return step().kind() == Step::Case::Password && !step().hint().isEmpty(); }
+    QString hintLine() const { return LoginTexts::hintLine(step().hint()); }
+    bool isStarting() const;
+    // The text of the current step's field; "" for a step without one.
+    QString fieldText() const;
+    void setFieldText(const QString &text);
+    bool canContinue() const { return !fieldText().trimmed().isEmpty(); }
+    QString errorMessage() const;
+    QString startupStatus() const;
+    QString footer() const { return QString::fromUtf8(LoginTexts::footer); }
+    QString versionLine() const { return m_versionLine; }
+
+    // Run by "Continue" and by Return in the field.
+    Q_INVOKABLE void submit();
+
+    // "Vost " and the version of the running application.
+    static QString mainVersionLine();
+
+Q_SIGNALS:
+    void sessionChanged();
+    void stepChanged();
+    void fieldTextChanged();
+    void errorMessageChanged();
+    void startupStatusChanged();
+
+private:
+    QString *currentText();
+
+    QPointer<TelegramSession> m_session;
+    QString m_phoneNumber;
+    QString m_verificationCode;
+    QString m_password;
+    QString m_versionLine;
+};

@@ -1,0 +1,66 @@
+#include "SingleInstance.h"
+
+#include <QCryptographicHash>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int timeoutMs = 1500;
+const QByteArray showMessage = "show\n"_ba;
+} // namespace
+
+SingleInstance::SingleInstance(QObject *parent)
+    : QObject(parent)
+{}
+
+QString SingleInstance::serverName()
+{
+    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QByteArray digest = QCryptographicHash::hash(dataFolder.toUtf8(), QCryptographicHash::Sha1).toHex().left(12);
+    return u"vost-"_s + QString::number(getuid()) + u'-' + QString::fromLatin1(digest);
+}
+
+bool SingleInstance::activateRunningInstance()
+{
+    QLocalSocket socket;
+    socket.connectToServer(serverName());
+    if (!socket.waitForConnected(timeoutMs))
+        return false;
+    socket.write(showMessage);
+    if (!socket.waitForBytesWritten(timeoutMs))
+        return false;
+    // The running instance answers once it has shown itself.
+    socket.waitForReadyRead(timeoutMs);
+    socket.disconnectFromServer();
+    return true;
+}
+
+bool SingleInstance::listen()
+{
+    m_server = new QLocalServer(this);
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    if (!m_server->listen(serverName())) {
+        // A socket file left by a client that crashed: nobody answered on it.
+        QLocalServer::removeServer(serverName());
+        if (!m_server->listen(serverName()))
+            return false;
+    }
+    connect(m_server, &QLocalServer::newConnection, this, [this] {
+        while (QLocalSocket *socket = m_server->nextPendingConnection()) {
+            connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+            connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
+                if (!socket->readAll().contains(showMessage))
+                    return;
+                Q_EMIT activationRequested();
+                socket->write("shown\n"_ba);
+                socket->flush();
+            });
+        }
+    });
+    return true;
+}

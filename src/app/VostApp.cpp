@@ -1,0 +1,407 @@
+#include "VostApp.h"
+
+#include "PopoverPlacement.h"
+#include "PopoverWindow.h"
+#include "SessionHost.h"
+#include "SingleInstance.h"
+#include "StatusItemImage.h"
+#include "TestStateWriter.h"
+#include "platform/NotificationPoster.h"
+#include "platform/SoundPlayer.h"
+#include "session/CredentialStore.h"
+#include "session/NotificationCenter.h"
+#include "session/NotificationService.h"
+#include "session/SoundManager.h"
+#include "session/TelegramSession.h"
+#include "tdlib/AppBundle.h"
+#include "tdlib/DemoBundle.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QCursor>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMetaEnum>
+#include <QQmlEngine>
+#include <QScreen>
+#include <QSystemTrayIcon>
+#include <QTextStream>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Nothing sets it; every popover action tests it first, so that a later feature
+// can hold the popover still.
+bool popoverHandlingSuspended = false;
+
+constexpr int deactivationCloseDelayMs = 150;
+// A left click on the tray item that took the activation away from the popover
+// closed it already; the same click must not open it again.
+constexpr int reopenGuardMs = 400;
+constexpr int trayWatchIntervalMs = 2000;
+
+// The demo account's fixed credentials: the demo library accepts any.
+constexpr qint64 demoAPIID = 12345;
+constexpr auto demoAPIHash = "vost-demo";
+
+// The colour of text on the panel the tray item sits on. Qt cannot ask the tray
+// host, so this follows the desktop: GNOME's top bar is always dark, elsewhere the
+// panel follows the system palette.
+QColor panelTextColor()
+{
+    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains("GNOME"_L1, Qt::CaseInsensitive))
+        return Qt::white;
+    return QGuiApplication::palette().color(QPalette::WindowText);
+}
+
+int unreadCountFrom(const QVariant &object)
+{
+    switch (object.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return int(std::clamp<qlonglong>(object.toLongLong(), 0, std::numeric_limits<int>::max()));
+    default:
+        return 0;
+    }
+}
+
+QString rectText(const QRect &rect)
+{
+    return u"%1,%2,%3,%4"_s.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
+}
+
+} // namespace
+
+int VostApp::run(QApplication &application)
+{
+    QApplication::setApplicationName(u"Vost"_s);
+    QApplication::setOrganizationName(u"Corvella"_s);
+    QApplication::setDesktopFileName(u"vost"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"A compact Telegram client for the system tray."_s);
+    parser.addHelpOption();
+    const QCommandLineOption demoOption(u"demo"_s, u"Use the offline demo account."_s);
+    parser.addOption(demoOption);
+    parser.process(application);
+
+    // TDLib locks its database: one client per user.
+    SingleInstance instance;
+    if (instance.activateRunningInstance())
+        return 0;
+    if (!instance.listen())
+        QTextStream(stderr) << "Vost could not listen for later launches on " << SingleInstance::serverName() << ".\n";
+
+    VostApp app(Options{parser.isSet(demoOption)});
+    if (!app.launch())
+        return 2;
+    QObject::connect(&instance, &SingleInstance::activationRequested, &app, &VostApp::bringForward);
+    return QApplication::exec();
+}
+
+VostApp::VostApp(Options options, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_testState(std::make_unique<TestStateWriter>())
+{}
+
+VostApp::~VostApp()
+{
+    NotificationService::shared().setActivator({});
+    NotificationService::shared().setPoster(nullptr);
+    SoundManager::shared().setPlayer(nullptr);
+    if (m_trayIcon)
+        m_trayIcon->hide();
+    m_popover.reset();
+}
+
+bool VostApp::launch()
+{
+    // Credentials from the information dictionary; the demo account when asked
+    // for, or when the build has none and the demo library is there.
+    const AppBundle mainBundle = AppBundle::main();
+    const CredentialStore credentialStore(mainBundle.infoDictionary());
+    std::optional<SessionHost::Credentials> credentials;
+    std::optional<AppBundle> sessionBundle;
+    const std::optional<AppBundle> demo = demoBundle(mainBundle);
+    if (m_options.demo && !demo) {
+        QTextStream(stderr) << "This copy of Vost has no demo account.\n";
+        return false;
+    }
+    if (m_options.demo || (!credentialStore.hasCredentials() && demo)) {
+        credentials = SessionHost::Credentials{demoAPIID, QString::fromLatin1(demoAPIHash)};
+        sessionBundle = demo;
+    } else if (credentialStore.hasCredentials()) {
+        credentials = SessionHost::Credentials{*credentialStore.apiID(), *credentialStore.apiHash()};
+    }
+    m_host = new SessionHost(credentials, sessionBundle, this);
+
+    m_poster = makeSystemNotificationPoster();
+    NotificationService::shared().setPoster(m_poster.get());
+    m_soundPlayer = makeSystemSoundPlayer();
+    SoundManager::shared().setPlayer(m_soundPlayer.get());
+    NotificationService::shared().setActivator([this] { bringForward(); });
+
+    m_engine = new QQmlEngine(this);
+    m_engine->addImportPath(u"qrc:/qt/qml"_s);
+    m_popover = std::make_unique<PopoverWindow>(m_engine);
+    m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_host)}});
+    m_popover->setSource(QUrl(u"qrc:/qt/qml/Vost/App/qml/PopoverRoot.qml"_s));
+    if (m_popover->status() != QQuickView::Ready) {
+        for (const QQmlError &error : m_popover->errors())
+            QTextStream(stderr) << error.toString() << '\n';
+        return false;
+    }
+    connect(m_popover.get(), &QWindow::visibleChanged, this, [this](bool visible) {
+        NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::popoverVisibilityDidChange),
+                                                 visible);
+        writeTestState();
+    });
+    connect(m_popover.get(), &QWindow::activeChanged, this, &VostApp::popoverActiveChanged);
+    connect(m_popover.get(), &PopoverWindow::escapeNotHandled, this, [this] {
+        if (m_popover->isInTrayMode())
+            closePopover();
+    });
+    connect(m_popover.get(), &PopoverWindow::quitRequested, this, &VostApp::quit);
+    m_deactivationTimer = new QTimer(this);
+    m_deactivationTimer->setSingleShot(true);
+    m_deactivationTimer->setInterval(deactivationCloseDelayMs);
+    connect(m_deactivationTimer, &QTimer::timeout, this, &VostApp::closeAfterDeactivation);
+
+    NotificationCenter &center = NotificationCenter::defaultCenter();
+    center.observe(QString::fromLatin1(NotificationName::openTelegramChat), this,
+                   [this](const QVariant &) { openChatFromNotification(); });
+    center.observe(QString::fromLatin1(NotificationName::unreadCountDidChange), this,
+                   [this](const QVariant &object) { updateStatusItem(unreadCountFrom(object)); });
+    center.observe(QString::fromLatin1(NotificationName::filePanelWillPresent), this,
+                   [this](const QVariant &) { suspendPopoverForFilePanel(); });
+    center.observe(QString::fromLatin1(NotificationName::filePanelDidFinish), this,
+                   [this](const QVariant &) { restorePopoverAfterFilePanel(); });
+    connect(qApp, &QCoreApplication::aboutToQuit, m_host, &SessionHost::shutDown);
+    connect(&m_host->session(), &TelegramSession::stepChanged, this, &VostApp::writeTestState);
+
+    if (QSystemTrayIcon::isSystemTrayAvailable()) {
+        createTrayIcon();
+    } else {
+        // No tray (GNOME without AppIndicator, a bare window manager): an ordinary
+        // window keeps the client reachable until a tray appears.
+        m_popover->setTrayMode(false);
+        presentPopover();
+        watchForTray();
+    }
+    writeTestState();
+    m_host->startIfPossible();
+    return true;
+}
+
+void VostApp::createTrayIcon()
+{
+    m_statusMenu = std::make_unique<QMenu>();
+    QAction *open = m_statusMenu->addAction(u"Open Vost"_s);
+    connect(open, &QAction::triggered, this, &VostApp::showPopover);
+    m_statusMenu->addSeparator();
+    QAction *quitAction = m_statusMenu->addAction(u"Quit Vost"_s);
+    quitAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    connect(quitAction, &QAction::triggered, this, &VostApp::quit);
+
+    // Not the tray item's own context menu: the popover must close before the
+    // menu opens, or the menu, a popup, closes with the popover's activation.
+    m_trayIcon = new QSystemTrayIcon(this);
+    connect(m_trayIcon, &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) { handleTrayActivation(int(reason)); });
+    m_popover->setTrayMode(true);
+    updateStatusItem(m_unreadCount);
+    m_trayIcon->show();
+    // The icon's place is known only once the tray host has embedded it.
+    for (const int delayMs : {500, 1500, 3000})
+        QTimer::singleShot(delayMs, this, &VostApp::writeTestState);
+}
+
+void VostApp::watchForTray()
+{
+    m_trayWatch = new QTimer(this);
+    m_trayWatch->setInterval(trayWatchIntervalMs);
+    connect(m_trayWatch, &QTimer::timeout, this, [this] {
+        if (!QSystemTrayIcon::isSystemTrayAvailable())
+            return;
+        m_trayWatch->stop();
+        const bool wasShown = isPopoverShown();
+        m_popover->hide();
+        createTrayIcon();
+        m_placedOnce = false;
+        if (wasShown)
+            writeTestState();
+    });
+    m_trayWatch->start();
+}
+
+void VostApp::updateStatusItem(int unreadCount)
+{
+    m_unreadCount = std::max(unreadCount, 0);
+    if (m_trayIcon) {
+        const QColor glyphColor = panelTextColor();
+        QIcon icon;
+        QList<qreal> ratios{1.0, 2.0};
+        for (const QScreen *screen : QGuiApplication::screens())
+            if (!ratios.contains(screen->devicePixelRatio()))
+                ratios.append(screen->devicePixelRatio());
+        for (const qreal ratio : ratios)
+            icon.addPixmap(QPixmap::fromImage(StatusItem::image(m_unreadCount, ratio, glyphColor)));
+        m_trayIcon->setIcon(icon);
+        m_trayIcon->setToolTip(StatusItem::accessibleLabel(m_unreadCount));
+    }
+    writeTestState();
+}
+
+void VostApp::handleTrayActivation(int reason)
+{
+    if (popoverHandlingSuspended)
+        return;
+    switch (QSystemTrayIcon::ActivationReason(reason)) {
+    // A quick second click arrives as a double click: it toggles like any click.
+    case QSystemTrayIcon::Trigger:
+    case QSystemTrayIcon::DoubleClick:
+        m_clickPoint = QCursor::pos();
+        m_hasClickPoint = true;
+        if (!isPopoverShown() && m_sinceDeactivationClose.isValid() &&
+            m_sinceDeactivationClose.elapsed() < reopenGuardMs) {
+            m_sinceDeactivationClose.invalidate();
+            return;
+        }
+        togglePopover();
+        break;
+    case QSystemTrayIcon::Context: {
+        const QPoint pointer = QCursor::pos();
+        closePopover();
+        QTimer::singleShot(0, this, [this, pointer] { m_statusMenu->popup(pointer); });
+        break;
+    }
+    case QSystemTrayIcon::MiddleClick:
+    case QSystemTrayIcon::Unknown:
+        break;
+    }
+}
+
+bool VostApp::isPopoverShown() const
+{
+    return m_popover && m_popover->isVisible();
+}
+
+void VostApp::togglePopover()
+{
+    if (popoverHandlingSuspended || !m_popover)
+        return;
+    if (isPopoverShown())
+        closePopover();
+    else
+        presentPopover();
+}
+
+void VostApp::showPopover()
+{
+    if (!isPopoverShown())
+        togglePopover();
+}
+
+void VostApp::closePopover()
+{
+    if (!m_popover)
+        return;
+    m_deactivationTimer->stop();
+    m_popover->hide();
+}
+
+void VostApp::presentPopover()
+{
+    if (m_popover->isInTrayMode()) {
+        const QRect iconGeometry = m_trayIcon ? m_trayIcon->geometry() : QRect();
+        const QPoint pointer = m_hasClickPoint ? m_clickPoint : QCursor::pos();
+        QScreen *screen = QGuiApplication::screenAt(iconGeometry.isValid() ? iconGeometry.center() : pointer);
+        if (!screen)
+            screen = QGuiApplication::primaryScreen();
+        const QRect available = screen ? screen->availableGeometry() : QRect(QPoint(), PopoverWindow::contentSize);
+        m_popover->setPosition(popoverPosition(iconGeometry, pointer, available, PopoverWindow::contentSize));
+    } else if (!m_placedOnce) {
+        if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+            QRect frame(QPoint(), PopoverWindow::contentSize);
+            frame.moveCenter(screen->availableGeometry().center());
+            m_popover->setPosition(frame.topLeft());
+        }
+        m_placedOnce = true;
+    }
+    m_popover->show();
+    m_popover->raise();
+    m_popover->requestActivate();
+}
+
+void VostApp::bringForward()
+{
+    showPopover();
+    m_popover->raise();
+    m_popover->requestActivate();
+}
+
+void VostApp::popoverActiveChanged()
+{
+    // On Linux there is no global pointer hook: losing activation is the click outside.
+    if (!m_popover->isInTrayMode() || !isPopoverShown())
+        return;
+    if (m_popover->isActive())
+        m_deactivationTimer->stop();
+    else
+        m_deactivationTimer->start();
+}
+
+void VostApp::closeAfterDeactivation()
+{
+    if (popoverHandlingSuspended || !isPopoverShown() || m_popover->isActive())
+        return;
+    if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton))
+        return;
+    closePopover();
+    m_sinceDeactivationClose.start();
+}
+
+void VostApp::openChatFromNotification()
+{
+    // The root view selects the chat; here the popover comes forward.
+    bringForward();
+}
+
+void VostApp::suspendPopoverForFilePanel()
+{
+    closePopover();
+}
+
+void VostApp::restorePopoverAfterFilePanel()
+{
+    showPopover();
+}
+
+void VostApp::quit()
+{
+    closePopover();
+    QCoreApplication::quit();
+}
+
+void VostApp::writeTestState()
+{
+    if (!m_testState->isEnabled())
+        return;
+    m_testState->set(u"tray"_s, m_trayIcon && m_trayIcon->isVisible() ? u"visible"_s : u"absent"_s);
+    m_testState->set(u"trayGeometry"_s, m_trayIcon ? rectText(m_trayIcon->geometry()) : QString());
+    m_testState->set(u"tooltip"_s, m_trayIcon ? m_trayIcon->toolTip() : QString());
+    m_testState->set(u"unread"_s, QString::number(m_unreadCount));
+    m_testState->set(u"popover"_s, isPopoverShown() ? u"visible"_s : u"hidden"_s);
+    m_testState->set(u"mode"_s, m_popover && m_popover->isInTrayMode() ? u"tray"_s : u"window"_s);
+    m_testState->set(u"popoverGeometry"_s, m_popover ? rectText(m_popover->geometry()) : QString());
+    const Step::Case step = m_host ? m_host->session().step().kind() : Step::Case::Idle;
+    m_testState->set(u"step"_s, QString::fromLatin1(QMetaEnum::fromType<Step::Case>().valueToKey(int(step))));
+    m_testState->set(u"configured"_s, m_host && m_host->hasCredentials() ? u"yes"_s : u"no"_s);
+}

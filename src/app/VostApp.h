@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+
+#include <memory>
+
+class NotificationPoster;
+class PopoverWindow;
+class QApplication;
+class QMenu;
+class QQmlEngine;
+class QSystemTrayIcon;
+class QTimer;
+class SessionHost;
+class SoundPlayer;
+class TestStateWriter;
+
+// The tray application: no main window, one tray item with the unread badge and a
+// popover holding the whole client. It builds the credential store and the session
+// host, owns the tray item, its menu and the popover, and follows the process-wide
+// notifications about unread counts, chats to open and file panels.
+class VostApp : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options {
+        // Sign in to the offline demo account instead of Telegram.
+        bool demo = false;
+    };
+
+    // Everything main() does after making the QApplication; returns the exit code.
+    static int run(QApplication &application);
+
+    explicit VostApp(Options options, QObject *parent = nullptr);
+    ~VostApp() override;
+
+    // Builds the session, the popover and the tray item; false when the program
+    // cannot run (its message is already printed).
+    bool launch();
+
+    bool isPopoverShown() const;
+    void togglePopover();
+    // "Open Vost": shows the popover if it is not shown.
+    void showPopover();
+    void closePopover();
+    // Shows the popover and gives it the keyboard (a notification click, a second launch).
+    void bringForward();
+
+private:
+    void createTrayIcon();
+    void watchForTray();
+    void updateStatusItem(int unreadCount);
+    void handleTrayActivation(int reason);
+    void presentPopover();
+    void popoverActiveChanged();
+    void closeAfterDeactivation();
+    void openChatFromNotification();
+    void suspendPopoverForFilePanel();
+    void restorePopoverAfterFilePanel();
+    void quit();
+    void writeTestState();
+
+    Options m_options;
+    SessionHost *m_host = nullptr;
+    QQmlEngine *m_engine = nullptr;
+    std::unique_ptr<PopoverWindow> m_popover;
+    QSystemTrayIcon *m_trayIcon = nullptr;
+    std::unique_ptr<QMenu> m_statusMenu;
+    QTimer *m_deactivationTimer = nullptr;
+    QTimer *m_trayWatch = nullptr;
+    std::unique_ptr<NotificationPoster> m_poster;
+    std::unique_ptr<SoundPlayer> m_soundPlayer;
+    std::unique_ptr<TestStateWriter> m_testState;
+    QPoint m_clickPoint;
+    bool m_hasClickPoint = false;
+    bool m_placedOnce = false;
+    QElapsedTimer m_sinceDeactivationClose;
+    int m_unreadCount = 0;
+};

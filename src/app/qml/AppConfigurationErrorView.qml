@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Layouts
+import Vost.App
+
+// Shown instead of everything else when this copy has no API credentials.
+Rectangle {
+    color: Appearance.background
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title.text
+
+    ColumnLayout {
+        anchors.centerIn: parent
+        width: 380
+        spacing: 10
+
+        SymbolIcon {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.preferredWidth: 44
+            Layout.preferredHeight: 44
+            name: "exclamationmark.triangle"
+            color: Appearance.warning
+            Accessible.role: Accessible.Graphic
+            Accessible.name: "Warning"
+        }
+
+        Text {
+            id: title
+
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignHCenter
+            text: "Vost needs to be reinstalled"
+            color: Appearance.text
+            font.pixelSize: 16
+            font.weight: Font.DemiBold
+            wrapMode: Text.WordWrap
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        Text {
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignHCenter
+            text: "This copy of Vost is missing its application configuration. Please install the latest complete release from the app’s distributor."
+            color: Appearance.secondaryText
+            font.pixelSize: 13
+            wrapMode: Text.WordWrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+    }
+}

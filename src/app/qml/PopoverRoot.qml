@@ -1,0 +1,46 @@
+import QtQuick
+import Vost.App
+
+// The whole client inside the popover: the configuration error without
+// credentials, the sign-in screen until the session is ready, then the chats.
+Rectangle {
+    id: root
+
+    required property SessionHost host
+
+    color: Appearance.background
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Vost"
+
+    Loader {
+        id: screen
+
+        anchors.fill: parent
+        focus: true
+        sourceComponent: !root.host.hasCredentials ? configurationError
+                                                   : (root.host.isReady ? chats : login)
+    }
+
+    Component {
+        id: configurationError
+
+        AppConfigurationErrorView {}
+    }
+
+    Component {
+        id: login
+
+        TelegramLoginView {
+            session: root.host.session
+            focus: true
+        }
+    }
+
+    Component {
+        id: chats
+
+        ChatLayout {
+            focus: true
+        }
+    }
+}
