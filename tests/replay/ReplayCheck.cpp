@@ -8,6 +8,8 @@
 // latest request that carried one (a generated identifier, say), and "$last:result"
 // the latest {"result": VALUE} printed.
 
+#include "JsonMatch.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
@@ -19,43 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool matches(const QJsonValue &expected, const QJsonValue &actual)
-{
-    if (expected.isString() && expected.toString() == "<any>"_L1)
-        return true;
-    if (expected.isObject() && actual.isObject()) {
-        const QJsonObject e = expected.toObject();
-        const QJsonObject a = actual.toObject();
-        if (e.keys() != a.keys())
-            return false;
-        for (auto it = e.begin(); it != e.end(); ++it) {
-            if (!matches(it.value(), a.value(it.key())))
-                return false;
-        }
-        return true;
-    }
-    if (expected.isArray() && actual.isArray()) {
-        const QJsonArray e = expected.toArray();
-        const QJsonArray a = actual.toArray();
-        if (e.size() != a.size())
-            return false;
-        for (qsizetype i = 0; i < e.size(); ++i) {
-            if (!matches(e.at(i), a.at(i)))
-                return false;
-        }
-        return true;
-    }
-    return expected == actual;
-}
-
-QString compact(const QJsonValue &value)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1));
-}
-
-} // namespace
+namespace {} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -145,14 +111,14 @@ int main(int argc, char *argv[])
 
     bool same = actual.size() == expected.size();
     for (qsizetype i = 0; same && i < actual.size(); ++i)
-        same = matches(expected.at(i), actual.at(i));
+        same = jsonMatches(expected.at(i), actual.at(i));
     if (same)
         return 0;
     err << "expected and printed lines differ (expected | printed):\n";
     for (qsizetype i = 0; i < std::max(actual.size(), expected.size()); ++i) {
-        const QString e = i < expected.size() ? compact(expected.at(i)) : u"-"_s;
-        const QString a = i < actual.size() ? compact(actual.at(i)) : u"-"_s;
-        const bool lineMatches = i < expected.size() && i < actual.size() && matches(expected.at(i), actual.at(i));
+        const QString e = i < expected.size() ? compactJson(expected.at(i)) : u"-"_s;
+        const QString a = i < actual.size() ? compactJson(actual.at(i)) : u"-"_s;
+        const bool lineMatches = i < expected.size() && i < actual.size() && jsonMatches(expected.at(i), actual.at(i));
         err << (lineMatches ? "  " : "! ") << e << "\n  | " << a << '\n';
     }
     return 1;

@@ -1,5 +1,7 @@
 #include "ReplayDriver.h"
 
+#include "JsonMatch.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -12,41 +14,6 @@ namespace {
 // How long a wait_for line waits unless it says, and how often it looks.
 constexpr int defaultWaitForTimeoutMs = 10000;
 constexpr int waitForIntervalMs = 5;
-
-// Equality of JSON values, where the string "<any>" in the expected value matches anything.
-bool matches(const QJsonValue &expected, const QJsonValue &actual)
-{
-    if (expected.isString() && expected.toString() == "<any>"_L1)
-        return true;
-    if (expected.isObject() && actual.isObject()) {
-        const QJsonObject e = expected.toObject();
-        const QJsonObject a = actual.toObject();
-        if (e.keys() != a.keys())
-            return false;
-        for (auto it = e.begin(); it != e.end(); ++it) {
-            if (!matches(it.value(), a.value(it.key())))
-                return false;
-        }
-        return true;
-    }
-    if (expected.isArray() && actual.isArray()) {
-        const QJsonArray e = expected.toArray();
-        const QJsonArray a = actual.toArray();
-        if (e.size() != a.size())
-            return false;
-        for (qsizetype i = 0; i < e.size(); ++i) {
-            if (!matches(e.at(i), a.at(i)))
-                return false;
-        }
-        return true;
-    }
-    return expected == actual;
-}
-
-QString compact(const QJsonValue &value)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).mid(1));
-}
 
 } // namespace
 
@@ -191,12 +158,12 @@ void ReplayDriver::waitFor(const QJsonObject &condition)
     const QString name = condition.value("state"_L1).toString();
     const auto found = m_states.constFind(name);
     if (found == m_states.cend() || !condition.contains("equals"_L1)) {
-        printError(u"wait_for needs a known state and a value: "_s + compact(condition));
+        printError(u"wait_for needs a known state and a value: "_s + compactJson(condition));
         return;
     }
     const StateReader reader = *found;
     const QJsonValue expected = condition.value("equals"_L1);
-    if (matches(expected, reader()))
+    if (jsonMatches(expected, reader()))
         return;
     const int timeout = condition.value("timeout_ms"_L1).toInt(defaultWaitForTimeoutMs);
     holdInput();
@@ -208,12 +175,12 @@ void ReplayDriver::waitFor(const QJsonObject &condition)
     elapsed.start();
     connect(poll, &QTimer::timeout, this, [this, poll, reader, expected, name, timeout, elapsed] {
         const QJsonValue actual = reader();
-        const bool met = matches(expected, actual);
+        const bool met = jsonMatches(expected, actual);
         if (!met && !elapsed.hasExpired(timeout))
             return;
         if (!met) {
-            printError(u"wait_for timed out after %1 ms: %2 is %3, not %4"_s.arg(timeout).arg(name, compact(actual),
-                                                                                              compact(expected)));
+            printError(u"wait_for timed out after %1 ms: %2 is %3, not %4"_s.arg(timeout).arg(name, compactJson(actual),
+                                                                                              compactJson(expected)));
         }
         poll->stop();
         poll->deleteLater();
