@@ -17,7 +17,7 @@ DEBIAN_PACKAGES=(
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
     qml6-module-qtmultimedia
-    xvfb xauth dbus trayer xdotool
+    fonts-noto-color-emoji xvfb xauth dbus trayer xdotool
 )
 
 install_packages() {

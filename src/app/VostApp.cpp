@@ -1,8 +1,9 @@
 #include "VostApp.h"
 
+#include "AppRootView.h"
 #include "PopoverPlacement.h"
 #include "PopoverWindow.h"
-#include "SessionHost.h"
+#include "RoundImageProvider.h"
 #include "SingleInstance.h"
 #include "StatusItemImage.h"
 #include "TestStateWriter.h"
@@ -118,7 +119,12 @@ VostApp::~VostApp()
     SoundManager::shared().setPlayer(nullptr);
     if (m_trayIcon)
         m_trayIcon->hide();
+    // The popover's QML reads the root view, and the root view the session and
+    // the credentials: each goes before what it uses.
     m_popover.reset();
+    delete m_root;
+    delete m_session;
+    delete m_credentialStore;
 }
 
 bool VostApp::launch()
@@ -126,21 +132,20 @@ bool VostApp::launch()
     // Credentials from the information dictionary; the demo account when asked
     // for, or when the build has none and the demo library is there.
     const AppBundle mainBundle = AppBundle::main();
-    const CredentialStore credentialStore(mainBundle.infoDictionary());
-    std::optional<SessionHost::Credentials> credentials;
-    std::optional<AppBundle> sessionBundle;
+    QVariantMap infoDictionary = mainBundle.infoDictionary();
     const std::optional<AppBundle> demo = demoBundle(mainBundle);
     if (m_options.demo && !demo) {
         QTextStream(stderr) << "This copy of Vost has no demo account.\n";
         return false;
     }
-    if (m_options.demo || (!credentialStore.hasCredentials() && demo)) {
-        credentials = SessionHost::Credentials{demoAPIID, QString::fromLatin1(demoAPIHash)};
-        sessionBundle = demo;
-    } else if (credentialStore.hasCredentials()) {
-        credentials = SessionHost::Credentials{*credentialStore.apiID(), *credentialStore.apiHash()};
+    m_session = new TelegramSession({}, this);
+    if (m_options.demo || (!CredentialStore(infoDictionary).hasCredentials() && demo)) {
+        infoDictionary = {{u"TelegramAPIID"_s, QString::number(demoAPIID)},
+                          {u"TelegramAPIHash"_s, QString::fromLatin1(demoAPIHash)}};
+        m_session->setBundle(demo);
     }
-    m_host = new SessionHost(credentials, sessionBundle, this);
+    m_credentialStore = new CredentialStore(infoDictionary, this);
+    m_root = new AppRootView(*m_credentialStore, *m_session, this);
 
     m_poster = makeSystemNotificationPoster();
     NotificationService::shared().setPoster(m_poster.get());
@@ -150,8 +155,9 @@ bool VostApp::launch()
 
     m_engine = new QQmlEngine(this);
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
+    m_engine->addImageProvider(QString::fromLatin1(RoundImageProvider::name), new RoundImageProvider);
     m_popover = std::make_unique<PopoverWindow>(m_engine);
-    m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_host)}});
+    m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_root)}});
     m_popover->setSource(QUrl(u"qrc:/qt/qml/Vost/App/qml/PopoverRoot.qml"_s));
     if (m_popover->status() != QQuickView::Ready) {
         for (const QQmlError &error : m_popover->errors())
@@ -183,8 +189,15 @@ bool VostApp::launch()
                    [this](const QVariant &) { suspendPopoverForFilePanel(); });
     center.observe(QString::fromLatin1(NotificationName::filePanelDidFinish), this,
                    [this](const QVariant &) { restorePopoverAfterFilePanel(); });
-    connect(qApp, &QCoreApplication::aboutToQuit, m_host, &SessionHost::shutDown);
-    connect(&m_host->session(), &TelegramSession::stepChanged, this, &VostApp::writeTestState);
+    connect(qApp, &QCoreApplication::aboutToQuit, m_session, &TelegramSession::shutDown);
+    connect(m_session, &TelegramSession::stepChanged, this, &VostApp::writeTestState);
+    if (m_testState->isEnabled()) {
+        connect(m_root->chatList(), &ChatListModel::countChanged, this, &VostApp::writeTestState);
+        connect(m_root->messageList(), &MessageListModel::countChanged, this, &VostApp::writeTestState);
+        connect(m_root->messageList(), &QAbstractItemModel::dataChanged, this, &VostApp::writeTestState);
+        connect(m_root->viewModel(), &ChatViewModel::selectedChatIDChanged, this, &VostApp::writeTestState);
+        connect(m_root->viewModel(), &ChatViewModel::composerTextChanged, this, &VostApp::writeTestState);
+    }
 
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
         createTrayIcon();
@@ -196,7 +209,7 @@ bool VostApp::launch()
         watchForTray();
     }
     writeTestState();
-    m_host->startIfPossible();
+    m_root->start();
     return true;
 }
 
@@ -401,7 +414,20 @@ void VostApp::writeTestState()
     m_testState->set(u"popover"_s, isPopoverShown() ? u"visible"_s : u"hidden"_s);
     m_testState->set(u"mode"_s, m_popover && m_popover->isInTrayMode() ? u"tray"_s : u"window"_s);
     m_testState->set(u"popoverGeometry"_s, m_popover ? rectText(m_popover->geometry()) : QString());
-    const Step::Case step = m_host ? m_host->session().step().kind() : Step::Case::Idle;
+    const Step::Case step = m_session ? m_session->step().kind() : Step::Case::Idle;
     m_testState->set(u"step"_s, QString::fromLatin1(QMetaEnum::fromType<Step::Case>().valueToKey(int(step))));
-    m_testState->set(u"configured"_s, m_host && m_host->hasCredentials() ? u"yes"_s : u"no"_s);
+    m_testState->set(u"configured"_s, m_root && m_root->hasCredentials() ? u"yes"_s : u"no"_s);
+    // What the chat views show: the chat rows, the open chat, its messages and the
+    // newest one's text, and the composer's text.
+    m_testState->set(u"chats"_s, QString::number(m_root ? m_root->chatList()->count() : 0));
+    m_testState->set(u"selectedChat"_s, m_root ? m_root->viewModel()->selectedChatIDText() : QString());
+    const int messages = m_root ? m_root->messageList()->count() : 0;
+    m_testState->set(u"messages"_s, QString::number(messages));
+    m_testState->set(u"lastMessage"_s,
+                     messages > 0 ? m_root->messageList()
+                                        ->data(m_root->messageList()->index(messages - 1), MessageListModel::TextRole)
+                                        .toString()
+                                        .replace(u'\n', u' ')
+                                  : QString());
+    m_testState->set(u"composer"_s, m_root ? m_root->viewModel()->composerText().replace(u'\n', u' ') : QString());
 }

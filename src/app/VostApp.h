@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class AppRootView;
+class CredentialStore;
 class NotificationPoster;
 class PopoverWindow;
 class QApplication;
@@ -14,13 +16,13 @@ class QMenu;
 class QQmlEngine;
 class QSystemTrayIcon;
 class QTimer;
-class SessionHost;
 class SoundPlayer;
+class TelegramSession;
 class TestStateWriter;
 
 // The tray application: no main window, one tray item with the unread badge and a
-// popover holding the whole client. It builds the credential store and the session
-// host, owns the tray item, its menu and the popover, and follows the process-wide
+// popover holding the whole client. It builds the credential store, the session and
+// the root view the popover hosts, owns the tray item, its menu and the popover, and follows the process-wide
 // notifications about unread counts, chats to open and file panels.
 class VostApp : public QObject
 {
@@ -65,7 +67,9 @@ private:
     void writeTestState();
 
     Options m_options;
-    SessionHost *m_host = nullptr;
+    CredentialStore *m_credentialStore = nullptr;
+    TelegramSession *m_session = nullptr;
+    AppRootView *m_root = nullptr;
     QQmlEngine *m_engine = nullptr;
     std::unique_ptr<PopoverWindow> m_popover;
     QSystemTrayIcon *m_trayIcon = nullptr;

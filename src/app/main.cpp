@@ -5,6 +5,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(Vost_AppPlugin)
+Q_IMPORT_QML_PLUGIN(Vost_ModelPlugin)
 Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
 
 int main(int argc, char *argv[])

@@ -5,7 +5,8 @@
 # popover show.
 #
 #   uitest.sh VOST SCENARIO     scenarios: signin, second-launch, quit-menu,
-#                               no-tray, configuration-error, screenshots OUT_DIR
+#                               no-tray, configuration-error, chats [OUT_DIR],
+#                               screenshots OUT_DIR
 set -euo pipefail
 vost=$(readlink -f "${1:?usage: uitest.sh VOST SCENARIO}")
 scenario=${2:?usage: uitest.sh VOST SCENARIO}
@@ -104,6 +105,29 @@ popover_window_visible() { xdotool search --onlyvisible --name '^Vost$' >/dev/nu
 type_and_submit() {
     xdotool type --delay 20 "$1"
     xdotool key Return
+}
+
+# Clicks at X,Y inside the popover.
+click_in_popover() {
+    local x y w h
+    IFS=, read -r x y w h <<<"$(value popoverGeometry)"
+    xdotool mousemove $((x + $1)) $((y + $2)) sleep 0.2 click 1
+}
+
+# Signs in, waits for the chat list to settle, opens the chat in row ROW (from 0)
+# of the sidebar and waits for its messages.
+open_chat_in_row() {
+    wait_for chats '[1-9][0-9]*' 20
+    local previous=
+    for _ in $(seq 20); do
+        sleep 0.5
+        [ "$(value chats)" = "$previous" ] && break
+        previous=$(value chats)
+    done
+    # The search field takes the top 50 pixels; rows are 60 high.
+    click_in_popover 140 $((50 + 60 * $1 + 30))
+    wait_for selectedChat '.+'
+    wait_for messages '[1-9][0-9]*' 20
 }
 
 capture_popover() {
@@ -207,6 +231,36 @@ configuration-error)
     wait_for popover visible
     [ $# -gt 0 ] && { sleep 1; capture_popover "$1/configuration-error.png"; }
     ;;
+chats)
+    # The chat list fills, a click opens a chat with its messages, a typed message
+    # sent with Enter (after Shift+Enter made a new line) appears at its end.
+    start_screen; start_tray; start_vost --demo
+    click_tray 1
+    wait_for popover visible
+    sign_in
+    open_chat_in_row 1
+    chat=$(value selectedChat)
+    sleep 1
+    [ $# -gt 0 ] && capture_popover "$1/open-chat.png"
+    # Tab: chat list, then transcript, then composer.
+    xdotool key Tab Tab
+    xdotool type --delay 20 "Hello from"
+    xdotool key shift+Return
+    xdotool type --delay 20 "the UI test :)"
+    wait_for composer 'Hello from the UI test :\)'
+    xdotool key Return
+    wait_for lastMessage 'Hello from the UI test :\)'
+    wait_for composer ''
+    [ "$(value selectedChat)" = "$chat" ] || fail "the open chat changed to $(value selectedChat)"
+    # Down in the list selects the next chat.
+    click_in_popover 140 $((50 + 30))
+    wait_for selectedChat '.+'
+    first=$(value selectedChat)
+    xdotool key Down
+    for _ in $(seq 30); do [ "$(value selectedChat)" != "$first" ] && break; sleep 0.1; done
+    [ "$(value selectedChat)" != "$first" ] || fail "Down did not move the selection"
+    note "Down moved the selection to $(value selectedChat)"
+    ;;
 screenshots)
     out=$(readlink -f "${1:?screenshots needs an output folder}")
     for appearance in light dark; do
@@ -222,6 +276,13 @@ screenshots)
         wait_for step VerificationCode
         sleep 1
         capture_popover "$out/login-code-$appearance.png"
+        xdotool type --delay 20 "22222"
+        xdotool key Return
+        wait_for step Ready
+        [ "$appearance" = light ] && { sleep 2; capture_popover "$out/chat-list.png"; }
+        open_chat_in_row 1
+        sleep 2
+        if [ "$appearance" = light ]; then capture_popover "$out/open-chat.png"; else capture_popover "$out/dark-mode.png"; fi
         xdotool key ctrl+q
         quit_and_expect_success
         for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done

@@ -1,15 +1,13 @@
 import QtQuick
 import Vost.App
+import Vost.Model
 
 // The signed-in client: the chat list on the left, the conversation on the right.
-// Both panes are placeholders that the chat list and the conversation replace
-// through the two components below.
+// Tab moves from the list to the transcript to the composer and round again.
 FocusScope {
     id: layout
 
-    // The chat list (280 wide) and the open conversation.
-    property Component sidebar: sidebarPlaceholder
-    property Component conversation: emptyConversation
+    required property AppRootView host
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Chats"
@@ -25,10 +23,13 @@ FocusScope {
         width: 280
         color: Appearance.sidebar
 
-        Loader {
+        ChatListView {
+            id: chatListView
+
             anchors.fill: parent
-            sourceComponent: layout.sidebar
             focus: true
+            viewModel: layout.host.viewModel
+            chatList: layout.host.chatList
         }
     }
 
@@ -45,22 +46,23 @@ FocusScope {
     }
 
     Loader {
+        id: conversationPane
+
         anchors {
             left: divider.right
             right: parent.right
             top: parent.top
             bottom: parent.bottom
         }
-        sourceComponent: layout.conversation
+        sourceComponent: layout.host.viewModel.selectedChatID !== "" ? conversation : emptyConversation
     }
 
     Component {
-        id: sidebarPlaceholder
+        id: conversation
 
-        Item {
-            objectName: "sidebarPlaceholder"
-            Accessible.role: Accessible.List
-            Accessible.name: "Chat list"
+        ConversationView {
+            viewModel: layout.host.viewModel
+            messageList: layout.host.messageList
         }
     }
 

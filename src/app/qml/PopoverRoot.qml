@@ -1,12 +1,13 @@
 import QtQuick
 import Vost.App
+import Vost.Model
 
 // The whole client inside the popover: the configuration error without
 // credentials, the sign-in screen until the session is ready, then the chats.
 Rectangle {
     id: root
 
-    required property SessionHost host
+    required property AppRootView host
 
     color: Appearance.background
     Accessible.role: Accessible.Pane
@@ -18,7 +19,7 @@ Rectangle {
         anchors.fill: parent
         focus: true
         sourceComponent: !root.host.hasCredentials ? configurationError
-                                                   : (root.host.isReady ? chats : login)
+                                                   : (root.host.session.isReady ? chats : login)
     }
 
     Component {
@@ -41,6 +42,7 @@ Rectangle {
 
         ChatLayout {
             focus: true
+            host: root.host
         }
     }
 }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+// Message text as the transcript shows it: HTML-escaped, typed smileys shown as
+// emoji, links made clickable, line breaks kept. The stored text never changes.
+class MessageText : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    explicit MessageText(QObject *parent = nullptr);
+
+    // Rich text for a Text item with textFormat Text.RichText (or StyledText);
+    // linkColor colours the links.
+    Q_INVOKABLE static QString richText(const QString &text, const QString &linkColor = QString());
+};

@@ -1,0 +1,109 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Vost.App
+import Vost.Model
+
+// The sidebar: the search field on top and the chats under it. Up and Down move
+// the selection; Ctrl+F goes to the search field.
+FocusScope {
+    id: sidebar
+
+    required property ChatViewModel viewModel
+    required property ChatListModel chatList
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Sidebar"
+
+    Shortcut {
+        sequence: StandardKey.Find
+        onActivated: search.forceActiveFocus()
+    }
+
+    LoginField {
+        id: search
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            margins: 10
+        }
+        implicitHeight: 32
+        font.pixelSize: 13
+        placeholderText: "Search"
+        text: sidebar.viewModel.searchText
+        activeFocusOnTab: true
+        onTextEdited: sidebar.viewModel.searchText = text
+        Keys.onDownPressed: list.forceActiveFocus()
+        Keys.onEscapePressed: event => {
+            if (text !== "") {
+                sidebar.viewModel.searchText = "";
+                event.accepted = true;
+            } else {
+                event.accepted = false;
+            }
+        }
+    }
+
+    ListView {
+        id: list
+
+        objectName: "chatList"
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: search.bottom
+            topMargin: 8
+            bottom: parent.bottom
+        }
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: sidebar.chatList
+        keyNavigationEnabled: false
+        Accessible.role: Accessible.List
+        Accessible.name: "Chat list"
+        ScrollBar.vertical: ScrollBar {}
+
+        Keys.onUpPressed: list.moveSelection(-1)
+        Keys.onDownPressed: list.moveSelection(1)
+
+        delegate: ChatRow {
+            width: ListView.view.width
+            onClicked: {
+                sidebar.viewModel.selectChat(chatID);
+                list.forceActiveFocus();
+            }
+        }
+
+        // Rows move as chats get messages: the selection's row is looked up now.
+        function moveSelection(delta) {
+            if (count === 0)
+                return;
+            const row = sidebar.chatList.rowOf(sidebar.viewModel.selectedChatID);
+            const next = row < 0 ? 0 : Math.max(0, Math.min(row + delta, count - 1));
+            sidebar.viewModel.selectChat(sidebar.chatList.idAt(next));
+            positionViewAtIndex(next, ListView.Contain);
+        }
+    }
+
+    // The keyboard focus ring, outside the list so that it does not scroll.
+    Rectangle {
+        anchors.fill: list
+        visible: list.activeFocus
+        color: "transparent"
+        border.width: 2
+        border.color: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.5)
+    }
+
+    Text {
+        anchors.centerIn: list
+        visible: list.count === 0
+        text: sidebar.viewModel.searchText !== "" ? "No results" : "No chats yet"
+        color: Appearance.secondaryText
+        font.pixelSize: 13
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+}
