@@ -455,26 +455,37 @@ QJsonObject Account::stickerJson(qint64 stickerID) const
                    {"sticker", fileJson(s->fileID)}});
 }
 
+namespace {
+
+// The fields a sticker set and its short description share.
+QJsonObject stickerSetObject(const char *type, const DemoStickerSet &set, std::initializer_list<Field> extra)
+{
+    QJsonObject result = object(type, {{"id", int64String(set.id)},
+                                       {"title", set.title},
+                                       {"name", set.name},
+                                       {"thumbnail", QJsonValue::Null},
+                                       {"thumbnail_outline", QJsonValue::Null},
+                                       {"is_owned", false},
+                                       {"is_installed", set.installed},
+                                       {"is_archived", false},
+                                       {"is_official", set.official},
+                                       {"sticker_type", object("stickerTypeRegular")},
+                                       {"needs_repainting", false},
+                                       {"is_allowed_as_chat_emoji_status", false},
+                                       {"is_viewed", true}});
+    for (const Field &field : extra)
+        result.insert(QLatin1StringView(field.first), field.second);
+    return result;
+}
+
+} // namespace
+
 QJsonObject Account::stickerSetInfoJson(const DemoStickerSet &set) const
 {
     QJsonArray covers;
     for (size_t i = 0; i < set.stickers.size() && i < 5; ++i)
         covers.append(stickerJson(set.stickers[i]));
-    return object("stickerSetInfo", {{"id", int64String(set.id)},
-                                     {"title", set.title},
-                                     {"name", set.name},
-                                     {"thumbnail", QJsonValue::Null},
-                                     {"thumbnail_outline", QJsonValue::Null},
-                                     {"is_owned", false},
-                                     {"is_installed", set.installed},
-                                     {"is_archived", false},
-                                     {"is_official", set.official},
-                                     {"sticker_type", object("stickerTypeRegular")},
-                                     {"needs_repainting", false},
-                                     {"is_allowed_as_chat_emoji_status", false},
-                                     {"is_viewed", true},
-                                     {"size", int(set.stickers.size())},
-                                     {"covers", covers}});
+    return stickerSetObject("stickerSetInfo", set, {{"size", int(set.stickers.size())}, {"covers", covers}});
 }
 
 QJsonObject Account::stickerSetJson(const DemoStickerSet &set) const
@@ -485,21 +496,7 @@ QJsonObject Account::stickerSetJson(const DemoStickerSet &set) const
         list.append(stickerJson(id));
         emojis.append(object("emojis", {{"emojis", QJsonArray{sticker(id)->emoji}}}));
     }
-    return object("stickerSet", {{"id", int64String(set.id)},
-                                 {"title", set.title},
-                                 {"name", set.name},
-                                 {"thumbnail", QJsonValue::Null},
-                                 {"thumbnail_outline", QJsonValue::Null},
-                                 {"is_owned", false},
-                                 {"is_installed", set.installed},
-                                 {"is_archived", false},
-                                 {"is_official", set.official},
-                                 {"sticker_type", object("stickerTypeRegular")},
-                                 {"needs_repainting", false},
-                                 {"is_allowed_as_chat_emoji_status", false},
-                                 {"is_viewed", true},
-                                 {"stickers", list},
-                                 {"emojis", emojis}});
+    return stickerSetObject("stickerSet", set, {{"stickers", list}, {"emojis", emojis}});
 }
 
 QJsonObject Account::chatGroupJson(const DemoChat &chat) const

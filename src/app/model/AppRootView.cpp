@@ -9,23 +9,19 @@
 using namespace Qt::StringLiterals;
 
 AppRootView::AppRootView(CredentialStore &credentialStore, QObject *parent)
-    : QObject(parent)
-    , m_credentialStore(credentialStore)
-    , m_ownedSession(std::make_unique<TelegramSession>())
-    , m_session(*m_ownedSession)
-    , m_viewModel(new ChatViewModel(std::make_unique<EmptyTelegramService>(), this))
-    , m_chatList(new ChatListModel(m_viewModel, this))
-    , m_messageList(new MessageListModel(m_viewModel, this))
-    , m_stickerList(new StickerListModel(m_viewModel, this))
-    , m_contactList(new ContactListModel(m_viewModel, this))
-{
-    connectSession();
-}
+    : AppRootView(credentialStore, std::make_unique<TelegramSession>(), nullptr, parent)
+{}
 
 AppRootView::AppRootView(CredentialStore &credentialStore, TelegramSession &session, QObject *parent)
+    : AppRootView(credentialStore, nullptr, &session, parent)
+{}
+
+AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<TelegramSession> ownedSession,
+                         TelegramSession *session, QObject *parent)
     : QObject(parent)
     , m_credentialStore(credentialStore)
-    , m_session(session)
+    , m_ownedSession(std::move(ownedSession))
+    , m_session(session ? *session : *m_ownedSession)
     , m_viewModel(new ChatViewModel(std::make_unique<EmptyTelegramService>(), this))
     , m_chatList(new ChatListModel(m_viewModel, this))
     , m_messageList(new MessageListModel(m_viewModel, this))

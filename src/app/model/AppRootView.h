@@ -85,6 +85,10 @@ private:
     void openChatRequested(const QVariant &object);
     void markReadIfVisible(const QString &chatID);
 
+    // The session is either owned (ownedSession) or given (session).
+    AppRootView(CredentialStore &credentialStore, std::unique_ptr<TelegramSession> ownedSession,
+                TelegramSession *session, QObject *parent);
+
     CredentialStore &m_credentialStore;
     std::unique_ptr<TelegramSession> m_ownedSession;
     TelegramSession &m_session;
