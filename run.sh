@@ -12,12 +12,14 @@ BUILD_DIR=${VOST_BUILD_DIR:-build}
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
 DEBIAN_PACKAGES=(
-    g++ cmake ninja-build pkg-config zlib1g-dev libicu-dev nodejs:node npm:npm
+    g++ cmake ninja-build pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
     qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev libgl-dev qt6-qpa-plugins
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
-    qml6-module-qtmultimedia
+    qml6-module-qtmultimedia qt6-image-formats-plugins
+    gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-libav
     fonts-noto-color-emoji xvfb xauth dbus trayer xdotool
+    at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip
 )
 
 install_packages() {

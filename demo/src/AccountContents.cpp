@@ -564,6 +564,7 @@ void AccountBuilder::addStickers()
         {7100000000000000004LL, u"Fruit Bowl", u"FruitBowl", false, false, u"🍎 🍌 🍇 🍓 🍊"},
         {7100000000000000005LL, u"Spinners", u"DemoSpinners", true, false, u"🌀 💫 ✨ 🔄"},
         {7100000000000000006LL, u"Hearts", u"DemoHearts", false, false, u"❤️ 💚 💜 🧡 💛"},
+        {7100000000000000007LL, u"Purring Cats", u"PurringCats", false, false, u"😺 😸 😻 🙀"},
     };
     int setIndex = 0;
     for (const auto &info : sets) {

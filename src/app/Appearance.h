@@ -24,6 +24,8 @@ class Appearance : public QObject
     Q_PROPERTY(QColor neutralBubble READ neutralBubble NOTIFY changed)
     Q_PROPERTY(QColor badge READ badge CONSTANT)
     Q_PROPERTY(QColor warning READ warning CONSTANT)
+    // The family for text that is only emoji, so that they show in colour.
+    Q_PROPERTY(QString emojiFontFamily READ emojiFontFamily CONSTANT)
 
 public:
     static constexpr auto preferenceKey = "vostAppearanceMode";
@@ -46,6 +48,7 @@ public:
     QColor neutralBubble() const;
     QColor badge() const { return {0xFF, 0x3B, 0x30}; }
     QColor warning() const { return {0xFF, 0x95, 0x00}; }
+    QString emojiFontFamily() const { return QStringLiteral("Noto Color Emoji"); }
 
     static QString normalizedMode(const QString &mode);
 

@@ -136,8 +136,10 @@ void LoginPresenter::setSession(QObject *session)
     m_session = telegramSession;
     if (m_session) {
         connect(m_session, &TelegramSession::stepChanged, this, [this] {
+            m_submitted = false;
             Q_EMIT stepChanged();
             Q_EMIT fieldTextChanged();
+            Q_EMIT errorMessageChanged();
         });
         connect(m_session, &TelegramSession::errorMessageChanged, this, &LoginPresenter::errorMessageChanged);
         connect(m_session, &TelegramSession::startupStatusChanged, this, &LoginPresenter::startupStatusChanged);
@@ -195,7 +197,11 @@ void LoginPresenter::setFieldText(const QString &text)
 
 QString LoginPresenter::errorMessage() const
 {
-    return m_session ? m_session->errorMessageText() : QString();
+    if (!m_session)
+        return {};
+    if (m_session->step().kind() == Case::Unavailable)
+        return m_session->step().text();
+    return m_submitted ? m_session->errorMessageText() : QString();
 }
 
 QString LoginPresenter::startupStatus() const
@@ -205,8 +211,9 @@ QString LoginPresenter::startupStatus() const
 
 void LoginPresenter::submit()
 {
-    if (!m_session)
+    if (!m_session || !hasField())
         return;
+    m_submitted = true;
     switch (step().kind()) {
     case Case::Password:
         m_session->submitPassword(m_password);

@@ -45,6 +45,8 @@ class LoginPresenter : public QObject
     Q_PROPERTY(bool isStarting READ isStarting NOTIFY stepChanged)
     Q_PROPERTY(QString fieldText READ fieldText WRITE setFieldText NOTIFY fieldTextChanged)
     Q_PROPERTY(bool canContinue READ canContinue NOTIFY fieldTextChanged)
+    // The error that answers what the user submitted on this step, or why Telegram
+    // is unavailable; "" otherwise (nothing greets a new user with an error).
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
     Q_PROPERTY(QString startupStatus READ startupStatus NOTIFY startupStatusChanged)
     Q_PROPERTY(QString footer READ footer CONSTANT)
@@ -92,6 +94,8 @@ private:
     QString *currentText();
 
     QPointer<TelegramSession> m_session;
+    // The user submitted this step's text: the session's errors now answer it.
+    bool m_submitted = false;
     QString m_phoneNumber;
     QString m_verificationCode;
     QString m_password;

@@ -38,3 +38,14 @@ QString MessageText::richText(const QString &text, const QString &linkColor)
     html += plainPart(text.mid(position));
     return html;
 }
+
+QString MessageText::displayText(const QString &text)
+{
+    return SmileyText::render(text);
+}
+
+QString MessageText::firstLink(const QString &text)
+{
+    const std::optional<QUrl> link = firstPreviewableLink(text);
+    return link ? link->toString() : QString();
+}

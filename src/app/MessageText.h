@@ -17,4 +17,8 @@ public:
     // Rich text for a Text item with textFormat Text.RichText (or StyledText);
     // linkColor colours the links.
     Q_INVOKABLE static QString richText(const QString &text, const QString &linkColor = QString());
+    // The same text as plain text, smileys as emoji: what a screen reader reads.
+    Q_INVOKABLE static QString displayText(const QString &text);
+    // The first web address of the text, for its preview card; "" when there is none.
+    Q_INVOKABLE static QString firstLink(const QString &text);
 };

@@ -35,14 +35,28 @@ void PopoverWindow::keyPressEvent(QKeyEvent *event)
         Q_EMIT quitRequested();
         return;
     }
-    // The views get Esc first: it cancels a reply or closes a picker before it
-    // closes the popover.
+    // The views get Esc first: it closes a picker, a menu or a dialog, or cancels a
+    // reply, before it closes the popover. A popup that closes on Esc leaves the
+    // event unaccepted, so whether one was open decides.
+    const bool popupWasOpen = hasOpenPopup();
     event->setAccepted(false);
     QQuickView::keyPressEvent(event);
-    if (event->key() == Qt::Key_Escape && !event->isAccepted() && event->modifiers() == Qt::NoModifier) {
+    if (event->key() == Qt::Key_Escape && !event->isAccepted() && !popupWasOpen && event->modifiers() == Qt::NoModifier) {
         event->accept();
         Q_EMIT escapeNotHandled();
     }
+}
+
+bool PopoverWindow::hasOpenPopup() const
+{
+    // Popups live in the window's overlay, an item of the content item.
+    const QList<QQuickItem *> layers = contentItem()->childItems();
+    return std::any_of(layers.cbegin(), layers.cend(), [](const QQuickItem *layer) {
+        if (!layer->inherits("QQuickOverlay"))
+            return false;
+        const QList<QQuickItem *> popups = layer->childItems();
+        return std::any_of(popups.cbegin(), popups.cend(), [](const QQuickItem *popup) { return popup->isVisible(); });
+    });
 }
 
 void PopoverWindow::mousePressEvent(QMouseEvent *event)

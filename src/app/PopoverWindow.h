@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QQuickItem>
 #include <QQuickView>
 
 // The window that holds the whole client. In the tray it is a frameless panel
@@ -28,5 +29,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
+    // Whether a popup (a menu, a picker, a dialog) is open.
+    bool hasOpenPopup() const;
+
     bool m_inTray = false;
 };

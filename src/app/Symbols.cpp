@@ -1,5 +1,7 @@
 #include "Symbols.h"
 
+#include "MoreSymbols.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -153,7 +155,7 @@ Drawing drawingFor(const QString &name)
         return drawTriangleFill;
     if (name == "exclamationmark.triangle"_L1)
         return drawTriangle;
-    return {};
+    return MoreSymbols::drawingFor(name);
 }
 
 } // namespace

@@ -3,10 +3,10 @@
 #include "AppRootView.h"
 #include "PopoverPlacement.h"
 #include "PopoverWindow.h"
+#include "MediaImageProvider.h"
 #include "RoundImageProvider.h"
 #include "SingleInstance.h"
 #include "StatusItemImage.h"
-#include "TestStateWriter.h"
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "session/CredentialStore.h"
@@ -22,7 +22,6 @@
 #include <QCursor>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMetaEnum>
 #include <QQmlEngine>
 #include <QScreen>
 #include <QSystemTrayIcon>
@@ -71,11 +70,6 @@ int unreadCountFrom(const QVariant &object)
     }
 }
 
-QString rectText(const QRect &rect)
-{
-    return u"%1,%2,%3,%4"_s.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
-}
-
 } // namespace
 
 int VostApp::run(QApplication &application)
@@ -109,7 +103,6 @@ int VostApp::run(QApplication &application)
 VostApp::VostApp(Options options, QObject *parent)
     : QObject(parent)
     , m_options(options)
-    , m_testState(std::make_unique<TestStateWriter>())
 {}
 
 VostApp::~VostApp()
@@ -156,6 +149,9 @@ bool VostApp::launch()
     m_engine = new QQmlEngine(this);
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
     m_engine->addImageProvider(QString::fromLatin1(RoundImageProvider::name), new RoundImageProvider);
+    m_engine->addImageProvider(QString::fromLatin1(MediaImageProvider::name), new MediaImageProvider);
+    // The pictures of a chat nobody looks at need not stay decoded.
+    connect(m_root->viewModel(), &ChatViewModel::selectedChatIDChanged, this, &MediaImageProvider::release);
     m_popover = std::make_unique<PopoverWindow>(m_engine);
     m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_root)}});
     m_popover->setSource(QUrl(u"qrc:/qt/qml/Vost/App/qml/PopoverRoot.qml"_s));
@@ -167,7 +163,6 @@ bool VostApp::launch()
     connect(m_popover.get(), &QWindow::visibleChanged, this, [this](bool visible) {
         NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::popoverVisibilityDidChange),
                                                  visible);
-        writeTestState();
     });
     connect(m_popover.get(), &QWindow::activeChanged, this, &VostApp::popoverActiveChanged);
     connect(m_popover.get(), &PopoverWindow::escapeNotHandled, this, [this] {
@@ -190,14 +185,6 @@ bool VostApp::launch()
     center.observe(QString::fromLatin1(NotificationName::filePanelDidFinish), this,
                    [this](const QVariant &) { restorePopoverAfterFilePanel(); });
     connect(qApp, &QCoreApplication::aboutToQuit, m_session, &TelegramSession::shutDown);
-    connect(m_session, &TelegramSession::stepChanged, this, &VostApp::writeTestState);
-    if (m_testState->isEnabled()) {
-        connect(m_root->chatList(), &ChatListModel::countChanged, this, &VostApp::writeTestState);
-        connect(m_root->messageList(), &MessageListModel::countChanged, this, &VostApp::writeTestState);
-        connect(m_root->messageList(), &QAbstractItemModel::dataChanged, this, &VostApp::writeTestState);
-        connect(m_root->viewModel(), &ChatViewModel::selectedChatIDChanged, this, &VostApp::writeTestState);
-        connect(m_root->viewModel(), &ChatViewModel::composerTextChanged, this, &VostApp::writeTestState);
-    }
 
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
         createTrayIcon();
@@ -208,7 +195,6 @@ bool VostApp::launch()
         presentPopover();
         watchForTray();
     }
-    writeTestState();
     m_root->start();
     return true;
 }
@@ -231,9 +217,6 @@ void VostApp::createTrayIcon()
     m_popover->setTrayMode(true);
     updateStatusItem(m_unreadCount);
     m_trayIcon->show();
-    // The icon's place is known only once the tray host has embedded it.
-    for (const int delayMs : {500, 1500, 3000})
-        QTimer::singleShot(delayMs, this, &VostApp::writeTestState);
 }
 
 void VostApp::watchForTray()
@@ -244,12 +227,9 @@ void VostApp::watchForTray()
         if (!QSystemTrayIcon::isSystemTrayAvailable())
             return;
         m_trayWatch->stop();
-        const bool wasShown = isPopoverShown();
         m_popover->hide();
         createTrayIcon();
         m_placedOnce = false;
-        if (wasShown)
-            writeTestState();
     });
     m_trayWatch->start();
 }
@@ -269,7 +249,6 @@ void VostApp::updateStatusItem(int unreadCount)
         m_trayIcon->setIcon(icon);
         m_trayIcon->setToolTip(StatusItem::accessibleLabel(m_unreadCount));
     }
-    writeTestState();
 }
 
 void VostApp::handleTrayActivation(int reason)
@@ -401,33 +380,4 @@ void VostApp::quit()
 {
     closePopover();
     QCoreApplication::quit();
-}
-
-void VostApp::writeTestState()
-{
-    if (!m_testState->isEnabled())
-        return;
-    m_testState->set(u"tray"_s, m_trayIcon && m_trayIcon->isVisible() ? u"visible"_s : u"absent"_s);
-    m_testState->set(u"trayGeometry"_s, m_trayIcon ? rectText(m_trayIcon->geometry()) : QString());
-    m_testState->set(u"tooltip"_s, m_trayIcon ? m_trayIcon->toolTip() : QString());
-    m_testState->set(u"unread"_s, QString::number(m_unreadCount));
-    m_testState->set(u"popover"_s, isPopoverShown() ? u"visible"_s : u"hidden"_s);
-    m_testState->set(u"mode"_s, m_popover && m_popover->isInTrayMode() ? u"tray"_s : u"window"_s);
-    m_testState->set(u"popoverGeometry"_s, m_popover ? rectText(m_popover->geometry()) : QString());
-    const Step::Case step = m_session ? m_session->step().kind() : Step::Case::Idle;
-    m_testState->set(u"step"_s, QString::fromLatin1(QMetaEnum::fromType<Step::Case>().valueToKey(int(step))));
-    m_testState->set(u"configured"_s, m_root && m_root->hasCredentials() ? u"yes"_s : u"no"_s);
-    // What the chat views show: the chat rows, the open chat, its messages and the
-    // newest one's text, and the composer's text.
-    m_testState->set(u"chats"_s, QString::number(m_root ? m_root->chatList()->count() : 0));
-    m_testState->set(u"selectedChat"_s, m_root ? m_root->viewModel()->selectedChatIDText() : QString());
-    const int messages = m_root ? m_root->messageList()->count() : 0;
-    m_testState->set(u"messages"_s, QString::number(messages));
-    m_testState->set(u"lastMessage"_s,
-                     messages > 0 ? m_root->messageList()
-                                        ->data(m_root->messageList()->index(messages - 1), MessageListModel::TextRole)
-                                        .toString()
-                                        .replace(u'\n', u' ')
-                                  : QString());
-    m_testState->set(u"composer"_s, m_root ? m_root->viewModel()->composerText().replace(u'\n', u' ') : QString());
 }

@@ -18,7 +18,6 @@ class QSystemTrayIcon;
 class QTimer;
 class SoundPlayer;
 class TelegramSession;
-class TestStateWriter;
 
 // The tray application: no main window, one tray item with the unread badge and a
 // popover holding the whole client. It builds the credential store, the session and
@@ -64,7 +63,6 @@ private:
     void suspendPopoverForFilePanel();
     void restorePopoverAfterFilePanel();
     void quit();
-    void writeTestState();
 
     Options m_options;
     CredentialStore *m_credentialStore = nullptr;
@@ -78,7 +76,6 @@ private:
     QTimer *m_trayWatch = nullptr;
     std::unique_ptr<NotificationPoster> m_poster;
     std::unique_ptr<SoundPlayer> m_soundPlayer;
-    std::unique_ptr<TestStateWriter> m_testState;
     QPoint m_clickPoint;
     bool m_hasClickPoint = false;
     bool m_placedOnce = false;

@@ -190,6 +190,7 @@ void TelegramSession::resetAccountState()
     Q_EMIT chatsChanged();
     const QStringList chatsWithMessages = m_messagesByChat.keys();
     m_messagesByChat.clear();
+    m_messageDetailsByChat.clear();
     for (const QString &chatID : chatsWithMessages)
         Q_EMIT messagesChanged(chatID);
     setCurrentAccount(QString(), QString());
@@ -218,6 +219,7 @@ void TelegramSession::resetAccountState()
     m_rawMessagesByChat.clear();
     m_messageMediaOwners.clear();
     m_downloadedMediaPaths.clear();
+    m_downloadProgress.clear();
     m_imageDiagnosticEvents.clear();
     m_loadingInitialHistory.clear();
     m_initialHistoryProgress.clear();

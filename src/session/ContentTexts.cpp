@@ -147,6 +147,28 @@ QList<MessageReaction> messageReactions(const TdObject &message)
     return reactions;
 }
 
+TdObject largestPhotoSize(const QJsonArray &sizes)
+{
+    std::optional<TdObject> best;
+    qint64 bestArea = -1;
+    for (const QJsonValue &value : sizes) {
+        const TdObject size = value.toObject();
+        const TdObject file = size.value("photo"_L1).toObject();
+        const QJsonValue local = file.value("local"_L1);
+        const bool usable =
+            completedPath(file) || !local.isObject() || local.toObject().value("can_be_downloaded"_L1).toBool();
+        if (!usable)
+            continue;
+        const qint64 area =
+            integerFrom(size.value("width"_L1)).value_or(0) * integerFrom(size.value("height"_L1)).value_or(0);
+        if (area > bestArea) {
+            bestArea = area;
+            best = size;
+        }
+    }
+    return best.value_or(TdObject());
+}
+
 bool isImageDocument(const TdObject &document)
 {
     if (document.value("mime_type"_L1).toString().toLower().startsWith("image/"_L1))

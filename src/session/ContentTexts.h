@@ -24,6 +24,9 @@ StickerFormat stickerFormat(const QJsonValue &format);
 // Emoji reactions from a message's "interaction_info", in TDLib's order.
 QList<MessageReaction> messageReactions(const TdObject &message);
 
+// The largest size of a photo ("photoSize") that is downloaded or can be; an
+// empty object when there is none.
+TdObject largestPhotoSize(const QJsonArray &sizes);
 // A document shown as a photo: an image MIME type or an image file name.
 bool isImageDocument(const TdObject &document);
 // The local path of a completely downloaded file.

@@ -183,6 +183,7 @@ bool TelegramSession::routeByTypeWithoutChat(const QString &type, const TdObject
         if (const auto userID = int64From(object.value("user_id"_L1)))
             setUserOnline(*userID, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
     } else if (type == "updateFile"_L1) {
+        trackDownload(object.value("file"_L1).toObject());
         applyDownloadedFile(object.value("file"_L1).toObject());
     } else {
         return false;

@@ -6,36 +6,8 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The largest size of a photo that is downloaded or can be.
-TdObject largestPhotoFile(const QJsonArray &sizes)
-{
-    std::optional<TdObject> best;
-    qint64 bestArea = -1;
-    for (const QJsonValue &value : sizes) {
-        const TdObject size = value.toObject();
-        const TdObject file = size.value("photo"_L1).toObject();
-        const QJsonValue local = file.value("local"_L1);
-        const bool usable =
-            completedPath(file) || !local.isObject() || local.toObject().value("can_be_downloaded"_L1).toBool();
-        if (!usable)
-            continue;
-        const qint64 area =
-            integerFrom(size.value("width"_L1)).value_or(0) * integerFrom(size.value("height"_L1)).value_or(0);
-        if (area > bestArea) {
-            bestArea = area;
-            best = file;
-        }
-    }
-    return best.value_or(TdObject());
-}
-
-} // namespace
 
 std::pair<std::optional<QString>, std::optional<MessageMediaKind>>
 TelegramSession::prepareMessageMedia(const TdObject &content, const QString &chatID)
@@ -44,7 +16,9 @@ TelegramSession::prepareMessageMedia(const TdObject &content, const QString &cha
     TdObject file;
     MessageMediaKind kind;
     if (type == "messagePhoto"_L1) {
-        file = largestPhotoFile(content.value("photo"_L1).toObject().value("sizes"_L1).toArray());
+        file = largestPhotoSize(content.value("photo"_L1).toObject().value("sizes"_L1).toArray())
+                   .value("photo"_L1)
+                   .toObject();
         kind = MessageMediaKind::Photo;
     } else if (type == "messageSticker"_L1) {
         file = content.value("sticker"_L1).toObject().value("sticker"_L1).toObject();
@@ -116,6 +90,24 @@ void TelegramSession::downloadFile(qint64 fileID)
 {
     send(u"downloadFile"_s,
          {{"file_id"_L1, fileID}, {"priority"_L1, 1}, {"offset"_L1, 0}, {"limit"_L1, 0}, {"synchronous"_L1, false}});
+}
+
+void TelegramSession::trackDownload(const TdObject &file)
+{
+    const std::optional<qint64> fileID = int64From(file.value("id"_L1));
+    if (!fileID || !m_messageMediaOwners.contains(*fileID))
+        return;
+    const TdObject local = file.value("local"_L1).toObject();
+    const qint64 size = std::max(int64From(file.value("size"_L1)).value_or(0),
+                                 int64From(file.value("expected_size"_L1)).value_or(0));
+    const qint64 downloaded = int64From(local.value("downloaded_size"_L1)).value_or(0);
+    const double progress = local.value("is_downloading_completed"_L1).toBool() ? 1.0
+                            : size > 0 ? std::clamp(double(downloaded) / double(size), 0.0, 1.0)
+                                       : 0.0;
+    if (m_downloadProgress.value(*fileID, -1.0) == progress)
+        return;
+    m_downloadProgress.insert(*fileID, progress);
+    Q_EMIT downloadProgressChanged(*fileID, progress);
 }
 
 void TelegramSession::applyDownloadedFile(const TdObject &file)

@@ -55,12 +55,28 @@ void TelegramSession::publishMessages(const QString &chatID)
         return;
     requestMissingUsers(messages);
     QList<Message> published;
+    QList<MessageDetails> details;
     published.reserve(messages.size());
-    for (const TdObject &raw : std::as_const(m_rawMessagesByChat[chatID])) {
-        if (std::optional<Message> message = makeMessage(raw))
+    details.reserve(messages.size());
+    QHash<qint64, const TdObject *> byID;
+    byID.reserve(messages.size());
+    for (const TdObject &raw : std::as_const(messages))
+        byID.insert(idOf(raw), &raw);
+    const MessageDetailsContext context{
+        [this](qint64 userID) {
+            const auto user = m_telegramUsers.constFind(userID);
+            return user == m_telegramUsers.cend() ? QString() : user->name;
+        },
+        [this](qint64 chat) { return m_knownChats.value(QString::number(chat)).title; },
+        [&byID](qint64 messageID) { return byID.value(messageID); }};
+    for (const TdObject &raw : std::as_const(messages)) {
+        if (std::optional<Message> message = makeMessage(raw)) {
             published.append(std::move(*message));
+            details.append(messageDetails(raw, context));
+        }
     }
     m_messagesByChat.insert(chatID, published);
+    m_messageDetailsByChat.insert(chatID, details);
     Q_EMIT messagesChanged(chatID);
 }
 
@@ -128,6 +144,7 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
             m_loadingOlderHistory.remove(chatID);
             if (messages.isEmpty())
                 m_exhaustedHistory.insert(chatID);
+            Q_EMIT historyStateChanged(chatID);
         }
     }
 
@@ -234,6 +251,7 @@ void TelegramSession::loadOlderMessages(const QString &chatID, const QString &me
         return;
     m_expandedHistory.insert(chatID);
     m_loadingOlderHistory.insert(chatID);
+    Q_EMIT historyStateChanged(chatID);
     send(u"getChatHistory"_s, {{"chat_id"_L1, *chat},
                                {"from_message_id"_L1, *message},
                                {"offset"_L1, 0},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
 #include "session/Step.h"
 #include "tdlib/AppBundle.h"
@@ -75,6 +76,8 @@ public:
     const QList<Chat> &chats() const;
     // What each chat shows, oldest first.
     const QHash<QString, QList<Message>> &messagesByChat() const { return m_messagesByChat; }
+    // What the message widgets show beyond each message, in the same order.
+    const QHash<QString, QList<MessageDetails>> &messageDetailsByChat() const { return m_messageDetailsByChat; }
     // The per-chat record of history requests and image messages, for diagnosing
     // pictures that do not show.
     QStringList imageDiagnostics(const QString &chatID) const { return m_imageDiagnosticEvents.value(chatID); }
@@ -94,6 +97,10 @@ public:
     Q_INVOKABLE void loadMessages(const QString &chatID);
     Q_INVOKABLE void loadOlderMessages(const QString &chatID, const QString &messageID);
     void markMessagesRead(const QList<Message> &messages, const QString &chatID);
+    // Where a chat's history stands for the transcript: an older page on its way,
+    // or the start of the chat reached.
+    bool isLoadingOlderMessages(const QString &chatID) const { return m_loadingOlderHistory.contains(chatID); }
+    bool isHistoryExhausted(const QString &chatID) const { return m_exhaustedHistory.contains(chatID); }
 
     // Sending, editing, forwarding and deleting. Identifiers are decimal text;
     // a bad one sends nothing.
@@ -143,6 +150,9 @@ public:
 Q_SIGNALS:
     void chatsChanged();
     void messagesChanged(const QString &chatID);
+    void historyStateChanged(const QString &chatID);
+    // A file shown in a message is arriving: progress from 0 to 1.
+    void downloadProgressChanged(qint64 fileID, double progress);
     void stepChanged();
     void errorMessageChanged();
     void startupStatusChanged();
@@ -210,6 +220,7 @@ private:
     std::optional<QString> resolvedMediaPath(const TdObject &file, const QString &chatID);
     void downloadFile(qint64 fileID);
     void applyDownloadedFile(const TdObject &file);
+    void trackDownload(const TdObject &file);
 
     // Users, presence and typing
     void storeUser(const TdObject &user);
@@ -336,6 +347,7 @@ private:
 
     // Messages
     QHash<QString, QList<Message>> m_messagesByChat;
+    QHash<QString, QList<MessageDetails>> m_messageDetailsByChat;
     QHash<QString, QList<TdObject>> m_rawMessagesByChat;
     QHash<QString, qint64> m_lastReadOutbox;
     QHash<QString, qint64> m_lastViewedMessage;
@@ -349,6 +361,7 @@ private:
     // Files
     QHash<qint64, QSet<QString>> m_messageMediaOwners;
     QHash<qint64, QString> m_downloadedMediaPaths;
+    QHash<qint64, double> m_downloadProgress; // of files shown in messages, 0 to 1
     QHash<qint64, QString> m_chatAvatarOwners;
     QHash<qint64, qint64> m_userAvatarOwners;
 

@@ -24,6 +24,7 @@ AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<Teleg
     , m_session(session ? *session : *m_ownedSession)
     , m_viewModel(new ChatViewModel(std::make_unique<EmptyTelegramService>(), this))
     , m_chatList(new ChatListModel(m_viewModel, this))
+    , m_allChats(new ChatListModel(m_viewModel, ChatListModel::Rows::All, this))
     , m_messageList(new MessageListModel(m_viewModel, this))
     , m_stickerList(new StickerListModel(m_viewModel, this))
     , m_contactList(new ContactListModel(m_viewModel, this))
@@ -37,6 +38,7 @@ AppRootView::~AppRootView()
     delete m_contactList;
     delete m_stickerList;
     delete m_messageList;
+    delete m_allChats;
     delete m_chatList;
     delete m_viewModel;
 }
@@ -52,8 +54,15 @@ void AppRootView::connectSession()
         m_messagesPending.insert(chatID);
         schedule();
     });
+    connect(session, &TelegramSession::historyStateChanged, this, [this](const QString &chatID) {
+        m_viewModel->setHistoryState(chatID, m_session.isLoadingOlderMessages(chatID),
+                                     m_session.isHistoryExhausted(chatID));
+    });
     connect(session, &TelegramSession::recentStickersChanged, this,
             [this] { m_viewModel->setRecentStickers(m_session.recentStickers()); });
+    connect(session, &TelegramSession::downloadProgressChanged, m_viewModel, &ChatViewModel::setDownloadProgress);
+    connect(session, &TelegramSession::stickerErrorChanged, this,
+            [this] { m_viewModel->setStickerError(m_session.stickerError().value_or(QString())); });
     connect(session, &TelegramSession::recentStickersLoadedChanged, this,
             [this] { m_viewModel->setRecentStickersLoaded(m_session.recentStickersLoaded()); });
     connect(session, &TelegramSession::contactsChanged, this,
@@ -92,20 +101,27 @@ void AppRootView::applyPendingChanges()
         m_viewModel->replaceChats(chats);
         publishUnreadCount(chats);
         for (auto it = messagesByChat.begin(); it != messagesByChat.end(); ++it)
-            m_viewModel->setMessages(it.value(), it.key());
+            setMessages(it.key());
     }
     if (!messagesChanged.isEmpty()) {
         // Setting an unchanged chat's messages again changes nothing, so only the
         // chats that changed are set; after a chat list change all of them were.
         if (!chatsChanged) {
-            for (const QString &chatID : messagesChanged) {
-                if (const auto messages = messagesByChat.constFind(chatID); messages != messagesByChat.cend())
-                    m_viewModel->setMessages(*messages, chatID);
-            }
+            for (const QString &chatID : messagesChanged)
+                setMessages(chatID);
         }
         if (const auto selected = m_viewModel->selectedChatID())
             markReadIfVisible(*selected);
     }
+}
+
+void AppRootView::setMessages(const QString &chatID)
+{
+    const auto messages = m_session.messagesByChat().constFind(chatID);
+    if (messages == m_session.messagesByChat().cend())
+        return;
+    m_viewModel->setMessageDetails(m_session.messageDetailsByChat().value(chatID), chatID);
+    m_viewModel->setMessages(*messages, chatID);
 }
 
 void AppRootView::start()
@@ -210,10 +226,12 @@ void AppRootView::selectedChatChanged()
     const auto &messagesByChat = m_session.messagesByChat();
     if (const auto messages = messagesByChat.constFind(chatID); messages != messagesByChat.cend()) {
         const QList<Message> held = *messages;
-        m_viewModel->setMessages(held, chatID);
+        setMessages(chatID);
         if (m_isPopoverVisible)
             m_session.markMessagesRead(held, chatID);
     }
+    m_viewModel->setHistoryState(chatID, m_session.isLoadingOlderMessages(chatID),
+                                 m_session.isHistoryExhausted(chatID));
     m_session.loadMessages(chatID);
 }
 
@@ -227,7 +245,10 @@ void AppRootView::popoverVisibilityChanged(const QVariant &object)
     }
     if (!visible)
         return;
-    m_session.requestChats();
+    // Before sign-in there are no chats to refresh: asking would only fail
+    // ("Unauthorized"), or, before TDLib runs, mark the lists as loading for good.
+    if (m_session.isReady())
+        m_session.requestChats();
     if (const auto selected = m_viewModel->selectedChatID())
         markReadIfVisible(*selected);
 }

@@ -36,6 +36,8 @@ class AppRootView : public QObject
     Q_PROPERTY(ChatViewModel *viewModel READ viewModel CONSTANT)
     Q_PROPERTY(TelegramSession *session READ session CONSTANT)
     Q_PROPERTY(ChatListModel *chatList READ chatList CONSTANT)
+    // Every chat, whatever the sidebar's search: for choosers such as "Forward to".
+    Q_PROPERTY(ChatListModel *allChats READ allChats CONSTANT)
     Q_PROPERTY(MessageListModel *messageList READ messageList CONSTANT)
     Q_PROPERTY(StickerListModel *recentStickerList READ recentStickerList CONSTANT)
     Q_PROPERTY(ContactListModel *contactList READ contactList CONSTANT)
@@ -53,6 +55,7 @@ public:
     TelegramSession *session() const { return &m_session; }
     ChatViewModel *viewModel() const { return m_viewModel; }
     ChatListModel *chatList() const { return m_chatList; }
+    ChatListModel *allChats() const { return m_allChats; }
     MessageListModel *messageList() const { return m_messageList; }
     StickerListModel *recentStickerList() const { return m_stickerList; }
     ContactListModel *contactList() const { return m_contactList; }
@@ -78,6 +81,8 @@ Q_SIGNALS:
 
 private:
     void connectSession();
+    // Copies a chat's messages, and what their widgets show, into the view model.
+    void setMessages(const QString &chatID);
     void schedule();
     void fillHandlers();
     void selectedChatChanged();
@@ -94,6 +99,7 @@ private:
     TelegramSession &m_session;
     ChatViewModel *m_viewModel;
     ChatListModel *m_chatList;
+    ChatListModel *m_allChats;
     MessageListModel *m_messageList;
     StickerListModel *m_stickerList;
     ContactListModel *m_contactList;

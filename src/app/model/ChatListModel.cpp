@@ -2,6 +2,8 @@
 
 #include "ChatViewModel.h"
 
+#include "render/SmileyText.h"
+
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -20,14 +22,19 @@ bool sameRow(const Chat &a, const Chat &b)
 } // namespace
 
 ChatListModel::ChatListModel(ChatViewModel *viewModel, QObject *parent)
+    : ChatListModel(viewModel, Rows::Searched, parent)
+{}
+
+ChatListModel::ChatListModel(ChatViewModel *viewModel, Rows rows, QObject *parent)
     : RowListModel(parent)
     , m_viewModel(viewModel)
+    , m_which(rows)
 {
     connect(viewModel, &ChatViewModel::chatsChanged, this, &ChatListModel::refresh);
     connect(viewModel, &ChatViewModel::searchTextChanged, this, &ChatListModel::refresh);
     connect(viewModel, &ChatViewModel::selectedChatIDChanged, this, &ChatListModel::followSelection);
     m_selectedID = viewModel->selectedChatIDText();
-    m_rows = viewModel->filteredChats();
+    m_rows = sourceRows();
 }
 
 void ChatListModel::refresh()
@@ -36,9 +43,14 @@ void ChatListModel::refresh()
         return;
     const int before = count();
     updateRows(
-        m_rows, m_viewModel->filteredChats(), [](const Chat &chat) { return chat.id; }, sameRow);
+        m_rows, sourceRows(), [](const Chat &chat) { return chat.id; }, sameRow);
     if (count() != before)
         Q_EMIT countChanged();
+}
+
+QList<Chat> ChatListModel::sourceRows() const
+{
+    return m_which == Rows::All ? m_viewModel->chats() : m_viewModel->filteredChats();
 }
 
 void ChatListModel::followSelection()
@@ -99,7 +111,7 @@ QVariant ChatListModel::data(const QModelIndex &index, int role) const
     case SubtitleRole:
         return chat.subtitle;
     case PreviewRole:
-        return chat.preview;
+        return SmileyText::render(chat.preview);
     case TimestampRole:
         return chat.timestamp;
     case UnreadCountRole:
@@ -113,7 +125,7 @@ QVariant ChatListModel::data(const QModelIndex &index, int role) const
     case IsMarkedUnreadRole:
         return chat.isMarkedUnread;
     case DraftTextRole:
-        return chat.draftText;
+        return SmileyText::render(chat.draftText);
     case AvatarTextRole:
         return chat.avatarText;
     case AvatarSymbolRole:

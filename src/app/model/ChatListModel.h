@@ -12,10 +12,13 @@ class ChatViewModel;
 
 // The sidebar's chat list: the view model's filteredChats, one row per chat,
 // kept in step by row changes (never a reset for a small change) whenever the
-// chats, the search text or the selection change.
+// chats, the search text or the selection change. With Rows::All it lists every
+// chat whatever the sidebar's search (the choosers of other views filter it their
+// own way, see ChatFilterModel).
 //
-// Roles: chatID, title, subtitle, preview, timestamp, unreadCount (int, negative read
-// as 0), isMuted, isPinned, isArchived, isMarkedUnread, draftText, avatarText,
+// Roles: chatID, title, subtitle, preview (typed smileys shown as emoji, as
+// everywhere a message text is shown), timestamp, unreadCount (int, negative read
+// as 0), isMuted, isPinned, isArchived, isMarkedUnread, draftText (smileys as emoji), avatarText,
 // avatarSymbol ("" when none), avatarPath ("" when none), avatarUrl (file URL or
 // empty), avatarColor (color), isSelected, isTyping (the subtitle says someone is
 // typing).
@@ -49,7 +52,10 @@ public:
     };
     Q_ENUM(Role)
 
+    enum class Rows { Searched, All };
+
     explicit ChatListModel(ChatViewModel *viewModel, QObject *parent = nullptr);
+    ChatListModel(ChatViewModel *viewModel, Rows rows, QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
@@ -69,8 +75,10 @@ Q_SIGNALS:
 private:
     void refresh();
     void followSelection();
+    QList<Chat> sourceRows() const;
 
     QPointer<ChatViewModel> m_viewModel;
+    Rows m_which = Rows::Searched;
     QList<Chat> m_rows;
     QString m_selectedID;
 };

@@ -1,6 +1,10 @@
 #include "ChatViewModel.h"
 
+#include "Attachments.h"
+
+#include <QFileInfo>
 #include <QLocale>
+#include <QUrl>
 
 #include <unicode/uchar.h>
 #include <unicode/ustring.h>
@@ -91,6 +95,16 @@ void ChatViewModel::setSelectedChatID(const std::optional<QString> &chatID)
         return;
     Q_EMIT selectedChatIDChanged();
     Q_EMIT selectedChatChanged();
+    Q_EMIT historyStateChanged();
+    clearRefusedFiles();
+}
+
+void ChatViewModel::clearRefusedFiles()
+{
+    if (m_refusedFiles.isEmpty())
+        return;
+    m_refusedFiles.clear();
+    Q_EMIT refusedFilesChanged();
 }
 
 void ChatViewModel::setSearchText(const QString &text)
@@ -265,6 +279,54 @@ void ChatViewModel::replaceMessages(qsizetype row, const QList<Message> &message
         return;
     chat.messages = messages;
     Q_EMIT messagesChanged(chat.id);
+    if (chat.id == selectedChatIDText())
+        Q_EMIT historyStateChanged();
+}
+
+void ChatViewModel::setMessageDetails(const QList<MessageDetails> &details, const QString &chatID)
+{
+    m_messageDetails.insert(chatID, details);
+}
+
+const QList<MessageDetails> &ChatViewModel::messageDetails(const QString &chatID) const
+{
+    static const QList<MessageDetails> none;
+    const auto found = m_messageDetails.constFind(chatID);
+    return found == m_messageDetails.cend() ? none : *found;
+}
+
+void ChatViewModel::setDownloadProgress(qint64 fileID, double progress)
+{
+    if (m_downloadProgress.value(fileID, -1.0) == progress)
+        return;
+    m_downloadProgress.insert(fileID, progress);
+    Q_EMIT downloadProgressChanged(fileID);
+}
+
+void ChatViewModel::setHistoryState(const QString &chatID, bool loadingOlder, bool exhausted)
+{
+    HistoryState &state = m_historyStates[chatID];
+    if (state.loadingOlder == loadingOlder && state.exhausted == exhausted)
+        return;
+    state = {loadingOlder, exhausted};
+    if (chatID == selectedChatIDText())
+        Q_EMIT historyStateChanged();
+}
+
+bool ChatViewModel::loadingOlderMessages() const
+{
+    return m_historyStates.value(selectedChatIDText()).loadingOlder;
+}
+
+bool ChatViewModel::historyStartReached() const
+{
+    const QString chatID = selectedChatIDText();
+    const HistoryState state = m_historyStates.value(chatID);
+    if (state.exhausted)
+        return true;
+    const Chat *found = chat(chatID);
+    return !state.loadingOlder && found && !found->messages.isEmpty() &&
+           m_olderRequestedFrom.value(chatID) == found->messages.first().id;
 }
 
 void ChatViewModel::setMessages(const QList<Message> &messages, const QString &chatID)
@@ -288,6 +350,7 @@ void ChatViewModel::sendMessage()
 {
     if (!m_canSendMessages)
         return;
+    clearRefusedFiles();
     const QString text = m_composerText.trimmed();
     if (!m_selectedChatID)
         return;
@@ -415,13 +478,57 @@ void ChatViewModel::cancelReplyAndEdit()
         setComposerText({});
 }
 
-void ChatViewModel::queueFiles(const QStringList &paths, bool asDocuments)
+void ChatViewModel::queueFiles(const QStringList &pathsOrUrls)
 {
     QList<PendingAttachment> attachments;
-    for (const QString &path : paths)
-        attachments.append(
-            {QUuid::createUuid(), path, asDocuments ? PendingAttachmentKind::Document : PendingAttachmentKind::Photo});
-    queueAttachments(attachments);
+    QVariantList refused;
+    for (const QString &pathOrUrl : pathsOrUrls) {
+        const QString path = Attachments::localPath(pathOrUrl);
+        if (const auto refusal = path.isEmpty() ? Attachments::Refusal::Unreadable : Attachments::refusal(path)) {
+            refused.append(QVariantMap{{u"name"_s, QFileInfo(path.isEmpty() ? pathOrUrl : path).fileName()},
+                                       {u"reason"_s, QVariant::fromValue(*refusal)}});
+            continue;
+        }
+        const PendingAttachmentKind kind = Attachments::kindFor(path);
+        attachments.append({QUuid::createUuid(), path,
+                            kind == PendingAttachmentKind::Photo && picturesSentAsFiles() ? PendingAttachmentKind::Document
+                                                                                          : kind});
+    }
+    if (refused != m_refusedFiles) {
+        m_refusedFiles = refused;
+        Q_EMIT refusedFilesChanged();
+    }
+    if (!attachments.isEmpty())
+        queueAttachments(attachments);
+}
+
+bool ChatViewModel::picturesSentAsFiles() const
+{
+    return std::any_of(m_pendingAttachments.cbegin(), m_pendingAttachments.cend(), [](const PendingAttachment &a) {
+        return a.kind == PendingAttachmentKind::Document && Attachments::kindFor(a.path) == PendingAttachmentKind::Photo;
+    });
+}
+
+void ChatViewModel::setPicturesSentAsFiles(bool asFiles)
+{
+    QList<PendingAttachment> attachments = m_pendingAttachments;
+    for (PendingAttachment &attachment : attachments) {
+        if (Attachments::kindFor(attachment.path) == PendingAttachmentKind::Photo)
+            attachment.kind = asFiles ? PendingAttachmentKind::Document : PendingAttachmentKind::Photo;
+    }
+    setPendingAttachments(attachments);
+}
+
+QStringList ChatViewModel::reactionPalette()
+{
+    // The heart carries its emoji presentation selector (U+2764 U+FE0F).
+    return {u"😁"_s, u"👍"_s, u"❤️"_s, u"👎"_s, u"🔥"_s, u"🥰"_s, u"👏"_s};
+}
+
+void ChatViewModel::setStickerError(const QString &error)
+{
+    if (assign(m_stickerError, error))
+        Q_EMIT stickerErrorChanged();
 }
 
 void ChatViewModel::queueStickerAt(int row)
@@ -438,8 +545,31 @@ void ChatViewModel::removePendingAttachmentWithID(const QString &id)
 void ChatViewModel::loadOlderMessages()
 {
     const Chat *found = m_selectedChatID ? chat(*m_selectedChatID) : nullptr;
-    if (found && !found->messages.isEmpty() && loadOlderHandler)
-        loadOlderHandler(found->id, found->messages.first().id);
+    if (!found || found->messages.isEmpty() || !loadOlderHandler)
+        return;
+    const QString oldest = found->messages.first().id;
+    // A page that brought nothing older is not asked for again.
+    const HistoryState state = m_historyStates.value(found->id);
+    if (state.loadingOlder || state.exhausted || m_olderRequestedFrom.value(found->id) == oldest)
+        return;
+    m_olderRequestedFrom.insert(found->id, oldest);
+    loadOlderHandler(found->id, oldest);
+    Q_EMIT historyStateChanged();
+}
+
+bool ChatViewModel::editLastOwnMessage()
+{
+    const Chat *found = m_selectedChatID ? chat(*m_selectedChatID) : nullptr;
+    if (!found)
+        return false;
+    for (auto message = found->messages.crbegin(); message != found->messages.crend(); ++message) {
+        // Only text can be edited: a message with media or a file is passed over.
+        if (message->isOutgoing && !message->mediaKind && !message->documentName && !message->text.isEmpty()) {
+            edit(message->id);
+            return true;
+        }
+    }
+    return false;
 }
 
 void ChatViewModel::deleteMessage(const QString &messageID)
@@ -471,11 +601,17 @@ void ChatViewModel::openContact(const QString &userID)
 QVariantList ChatViewModel::pendingAttachmentItems() const
 {
     QVariantList items;
-    for (const PendingAttachment &attachment : m_pendingAttachments)
-        items.append(
-            QVariantMap{{u"id"_s, attachment.id.toString(QUuid::WithoutBraces)},
-                        {u"path"_s, attachment.path},
-                        {u"kind"_s, attachment.kind == PendingAttachmentKind::Document ? u"document"_s : u"photo"_s}});
+    for (const PendingAttachment &attachment : m_pendingAttachments) {
+        const QFileInfo info(attachment.path);
+        items.append(QVariantMap{
+            {u"id"_s, attachment.id.toString(QUuid::WithoutBraces)},
+            {u"path"_s, attachment.path},
+            {u"url"_s, QUrl::fromLocalFile(attachment.path)},
+            {u"name"_s, info.fileName()},
+            {u"size"_s, info.size()},
+            {u"kind"_s, attachment.kind == PendingAttachmentKind::Document ? u"document"_s : u"photo"_s},
+            {u"isImage"_s, Attachments::kindFor(attachment.path) == PendingAttachmentKind::Photo}});
+    }
     return items;
 }
 

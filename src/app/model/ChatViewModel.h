@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/MessageDetails.h"
 #include "session/ModelNames.h"
 #include "session/ModelTypes.h"
 #include "session/TelegramService.h"
@@ -30,7 +31,17 @@ class ChatViewModel : public QObject
     Q_PROPERTY(QString selectedChatID READ selectedChatIDText WRITE selectChat NOTIFY selectedChatIDChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(QString composerText READ composerText WRITE setComposerText NOTIFY composerTextChanged)
+    // Each queued file: id, path, url, name, size (bytes), kind ("photo" or
+    // "document") and isImage (a photo, or a picture sent as a file).
     Q_PROPERTY(QVariantList pendingAttachments READ pendingAttachmentItems NOTIFY pendingAttachmentsChanged)
+    // The files last refused: name and reason (Attachments.Refusal).
+    Q_PROPERTY(QVariantList refusedFiles READ refusedFiles NOTIFY refusedFilesChanged)
+    // Pictures go as files rather than as photos.
+    Q_PROPERTY(bool picturesSentAsFiles READ picturesSentAsFiles WRITE setPicturesSentAsFiles NOTIFY
+                   pendingAttachmentsChanged)
+    Q_PROPERTY(QString stickerError READ stickerError NOTIFY stickerErrorChanged)
+    // The seven emoji offered for reacting, in their order.
+    Q_PROPERTY(QStringList reactionPalette READ reactionPalette CONSTANT)
     Q_PROPERTY(QString pendingDocumentPath READ pendingDocumentPathText NOTIFY pendingDocumentPathChanged)
     Q_PROPERTY(QString pendingRichMediaPath READ pendingRichMediaPathText NOTIFY pendingRichMediaPathChanged)
     Q_PROPERTY(bool recentStickersLoaded READ recentStickersLoaded NOTIFY recentStickersLoadedChanged)
@@ -39,6 +50,9 @@ class ChatViewModel : public QObject
     Q_PROPERTY(QVariant editingMessage READ editingMessageItem NOTIFY editingMessageChanged)
     Q_PROPERTY(bool canSendMessages READ canSendMessages NOTIFY canSendMessagesChanged)
     Q_PROPERTY(QVariant selectedChat READ selectedChatItem NOTIFY selectedChatChanged)
+    // The selected chat's history: an older page on its way, or its start reached.
+    Q_PROPERTY(bool loadingOlderMessages READ loadingOlderMessages NOTIFY historyStateChanged)
+    Q_PROPERTY(bool historyStartReached READ historyStartReached NOTIFY historyStateChanged)
 
 public:
     explicit ChatViewModel(std::unique_ptr<TelegramService> service, QObject *parent = nullptr);
@@ -116,6 +130,19 @@ public:
 
     void replaceChats(const QList<Chat> &chats);
     void setMessages(const QList<Message> &messages, const QString &chatID);
+    // What the message widgets show beyond each message of a chat, in the order of
+    // its messages; set before the messages themselves.
+    void setMessageDetails(const QList<MessageDetails> &details, const QString &chatID);
+    const QList<MessageDetails> &messageDetails(const QString &chatID) const;
+    // How far the files shown in messages have arrived: 0 to 1, -1 when unknown.
+    void setDownloadProgress(qint64 fileID, double progress);
+    Q_INVOKABLE double downloadProgress(qint64 fileID) const { return m_downloadProgress.value(fileID, -1.0); }
+    // The session's history state of a chat.
+    void setHistoryState(const QString &chatID, bool loadingOlder, bool exhausted);
+    bool loadingOlderMessages() const;
+    // The session found the start, or the last page asked for brought nothing
+    // older (TDLib may answer the first message again instead of nothing).
+    bool historyStartReached() const;
     Q_INVOKABLE void sendMessage();
     void toggleReaction(const QString &emoji, const Message &message);
     void queueSticker(const StickerChoice &sticker);
@@ -128,10 +155,22 @@ public:
     Q_INVOKABLE void replyTo(const QString &messageID);
     Q_INVOKABLE void edit(const QString &messageID);
     Q_INVOKABLE void cancelReplyAndEdit();
-    Q_INVOKABLE void queueFiles(const QStringList &paths, bool asDocuments);
+    // Queues files (paths or file URLs): pictures as photos, the rest as
+    // documents; files that cannot be sent are refused and listed in refusedFiles.
+    Q_INVOKABLE void queueFiles(const QStringList &pathsOrUrls);
+    QVariantList refusedFiles() const { return m_refusedFiles; }
+    bool picturesSentAsFiles() const;
+    void setPicturesSentAsFiles(bool asFiles);
+    QString stickerError() const { return m_stickerError; }
+    static QStringList reactionPalette();
+    void setStickerError(const QString &error);
     Q_INVOKABLE void queueStickerAt(int row);
     Q_INVOKABLE void removePendingAttachmentWithID(const QString &id);
+    // Asks for the page before the oldest loaded message, once per oldest message.
     Q_INVOKABLE void loadOlderMessages();
+    // Edits the newest of the user's own text messages in the selected chat;
+    // false when there is none.
+    Q_INVOKABLE bool editLastOwnMessage();
     Q_INVOKABLE void deleteMessage(const QString &messageID);
     Q_INVOKABLE void forwardMessage(const QString &messageID, const QString &toChatID);
     Q_INVOKABLE void searchContacts(const QString &query);
@@ -172,9 +211,15 @@ Q_SIGNALS:
     void editingMessageChanged();
     void canSendMessagesChanged();
     void unreadDividersChanged();
+    void historyStateChanged();
+    void refusedFilesChanged();
+    void downloadProgressChanged(qint64 fileID);
+    void stickerErrorChanged();
 
 private:
     void rebuildIndex();
+    // The notice of refused files goes with the next send or another chat.
+    void clearRefusedFiles();
     void replaceMessages(qsizetype row, const QList<Message> &messages);
 
     QList<Chat> m_chats;
@@ -195,6 +240,16 @@ private:
     std::optional<Message> m_editingMessage;
     bool m_canSendMessages = false;
     QHash<QString, QString> m_unreadDividers;
+    QHash<QString, QList<MessageDetails>> m_messageDetails;
+    struct HistoryState {
+        bool loadingOlder = false;
+        bool exhausted = false;
+    };
+    QHash<QString, HistoryState> m_historyStates;
+    QHash<QString, QString> m_olderRequestedFrom; // chat id -> the oldest message id last asked from
+    QVariantList m_refusedFiles;
+    QHash<qint64, double> m_downloadProgress;
+    QString m_stickerError;
     // Drafts are not saved from this model, so there is no draft-saving task to keep.
     std::unique_ptr<TelegramService> m_service;
 };

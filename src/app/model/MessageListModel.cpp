@@ -2,7 +2,10 @@
 
 #include "ChatViewModel.h"
 
+#include "session/Initials.h"
+
 #include <QColor>
+#include <QDebug>
 
 using namespace Qt::StringLiterals;
 
@@ -19,12 +22,25 @@ bool sameRow(const MessageListModel::Row &a, const MessageListModel::Row &b)
 {
     const Message &x = a.message;
     const Message &y = b.message;
-    return a.showsUnreadDivider == b.showsUnreadDivider && a.isFirstOfGroup == b.isFirstOfGroup && sameSender(x, y) &&
-           x.sender.color == y.sender.color && x.text == y.text && x.timestamp == y.timestamp &&
-           x.deliveryState == y.deliveryState && x.mediaPath == y.mediaPath && x.mediaPaths == y.mediaPaths &&
-           x.mediaKind == y.mediaKind && x.stickerEmoji == y.stickerEmoji && x.stickerFormat == y.stickerFormat &&
-           x.mediaAlbumID == y.mediaAlbumID && x.documentPath == y.documentPath && x.documentName == y.documentName &&
-           x.reactions == y.reactions && x.isUnread == y.isUnread;
+    return a.showsUnreadDivider == b.showsUnreadDivider && a.isFirstOfGroup == b.isFirstOfGroup &&
+           a.startsDay == b.startsDay && sameSender(x, y) && x.sender.color == y.sender.color && x.text == y.text &&
+           x.timestamp == y.timestamp && x.deliveryState == y.deliveryState && x.mediaPath == y.mediaPath &&
+           x.mediaPaths == y.mediaPaths && x.mediaKind == y.mediaKind && x.stickerEmoji == y.stickerEmoji &&
+           x.stickerFormat == y.stickerFormat && x.mediaAlbumID == y.mediaAlbumID && x.documentPath == y.documentPath &&
+           x.documentName == y.documentName && x.reactions == y.reactions && x.isUnread == y.isUnread &&
+           a.details == b.details && a.album == b.album;
+}
+
+// An album's row is known by its album, so that it stays one row while its
+// messages arrive one by one.
+QString rowKey(const MessageListModel::Row &row)
+{
+    return row.album.isEmpty() ? row.message.id : u"album:"_s + QString::number(*row.message.mediaAlbumID);
+}
+
+QString dataUrl(const QByteArray &jpeg)
+{
+    return jpeg.isEmpty() ? QString() : u"data:image/jpeg;base64,"_s + QString::fromLatin1(jpeg.toBase64());
 }
 
 QColor senderColor(AvatarColor color)
@@ -45,19 +61,92 @@ MessageListModel::MessageListModel(ChatViewModel *viewModel, QObject *parent)
         if (chatID == m_chatID)
             refresh();
     });
+    connect(viewModel, &ChatViewModel::downloadProgressChanged, this, &MessageListModel::progressChanged);
     refresh();
 }
 
-QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &messages, const QString &dividerID)
+QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &messages,
+                                                        const QList<MessageDetails> &details, const QString &dividerID)
 {
+    // Oldest first while grouping; reversed at the end.
     QList<Row> rows;
     rows.reserve(messages.size());
+    QDate previousDay;
     for (qsizetype i = 0; i < messages.size(); ++i) {
         const Message &message = messages.at(i);
-        rows.append({message, !dividerID.isEmpty() && message.id == dividerID,
-                     i == 0 || !sameSender(messages.at(i - 1), message)});
+        MessageDetails shown;
+        if (i < details.size() && details.at(i).messageID == message.id) {
+            shown = details.at(i);
+        } else {
+            shown.messageID = message.id;
+            shown.text = message.text;
+        }
+        const bool divider = !dividerID.isEmpty() && message.id == dividerID;
+        Row *previous = rows.isEmpty() ? nullptr : &rows.last();
+        if (message.mediaAlbumID && previous && previous->message.mediaAlbumID == message.mediaAlbumID &&
+            sameSender(previous->message, message) && !divider) {
+            if (previous->album.isEmpty())
+                previous->album.append({previous->message, previous->details});
+            previous->album.append({message, shown});
+            // The album's text is the one caption among its messages.
+            if (previous->details.text.isEmpty() && !shown.text.isEmpty())
+                previous->details.text = shown.text;
+            continue;
+        }
+        const QDate day = shown.date.isValid() ? shown.date.toLocalTime().date() : previousDay;
+        rows.append({message, shown, {}, divider, i == 0 || !sameSender(messages.at(i - 1), message),
+                     day.isValid() && day != previousDay});
+        previousDay = day;
     }
+    std::reverse(rows.begin(), rows.end());
     return rows;
+}
+
+QVariantMap MessageListModel::detailsItem(const MessageDetails &details)
+{
+    QVariantList choices;
+    for (const PollChoice &choice : details.pollChoices)
+        choices.append(QVariantMap{{u"text"_s, choice.text},
+                                   {u"voterCount"_s, choice.voterCount},
+                                   {u"percentage"_s, choice.percentage},
+                                   {u"isChosen"_s, choice.isChosen}});
+    return {{u"kind"_s, int(details.kind)},
+            {u"text"_s, details.text},
+            {u"date"_s, details.date},
+            {u"isEdited"_s, details.isEdited},
+            {u"forwardedFrom"_s, details.forwardedFrom},
+            {u"replyToMessageID"_s, details.replyToMessageID},
+            {u"replyToSender"_s, details.replyToSender},
+            {u"replyToIsOutgoing"_s, details.replyToIsOutgoing},
+            {u"replyToText"_s, details.replyToText},
+            {u"fileID"_s, QString::number(details.fileID)},
+            {u"fileSize"_s, details.fileSize},
+            {u"fileName"_s, details.fileName},
+            {u"mimeType"_s, details.mimeType},
+            {u"width"_s, details.width},
+            {u"height"_s, details.height},
+            {u"duration"_s, details.duration},
+            {u"title"_s, details.title},
+            {u"performer"_s, details.performer},
+            {u"minithumbnail"_s, dataUrl(details.minithumbnail)},
+            {u"latitude"_s, details.latitude},
+            {u"longitude"_s, details.longitude},
+            {u"placeName"_s, details.placeName},
+            {u"address"_s, details.address},
+            {u"contactName"_s, details.contactName},
+            {u"contactInitials"_s, initials(details.contactName)},
+            {u"contactPhone"_s, details.contactPhone},
+            {u"contactUserID"_s, details.contactUserID ? QString::number(details.contactUserID) : QString()},
+            {u"pollQuestion"_s, details.pollQuestion},
+            {u"pollChoices"_s, choices},
+            {u"pollVoterCount"_s, details.pollVoterCount},
+            {u"pollIsClosed"_s, details.pollIsClosed},
+            {u"pollIsAnonymous"_s, details.pollIsAnonymous},
+            {u"pollIsQuiz"_s, details.pollIsQuiz},
+            {u"callIsVideo"_s, details.callIsVideo},
+            {u"callEnd"_s, int(details.callEnd)},
+            {u"diceEmoji"_s, details.diceEmoji},
+            {u"diceValue"_s, details.diceValue}};
 }
 
 void MessageListModel::refresh()
@@ -66,7 +155,9 @@ void MessageListModel::refresh()
         return;
     const QString chatID = m_viewModel->selectedChatIDText();
     const Chat *chat = m_viewModel->chat(chatID);
-    const QList<Row> rows = chat ? makeRows(chat->messages, m_viewModel->unreadDividers().value(chatID)) : QList<Row>();
+    const QList<Row> rows =
+        chat ? makeRows(chat->messages, m_viewModel->messageDetails(chatID), m_viewModel->unreadDividers().value(chatID))
+             : QList<Row>();
     const int before = count();
     if (chatID != m_chatID) {
         // Another chat: nothing of the old transcript stays.
@@ -76,8 +167,7 @@ void MessageListModel::refresh()
         endResetModel();
         Q_EMIT chatIDChanged();
     } else {
-        updateRows(
-            m_rows, rows, [](const Row &row) { return row.message.id; }, sameRow);
+        updateRows(m_rows, rows, rowKey, sameRow);
     }
     if (count() != before)
         Q_EMIT countChanged();
@@ -91,10 +181,56 @@ int MessageListModel::rowCount(const QModelIndex &parent) const
 int MessageListModel::rowOf(const QString &messageID) const
 {
     for (qsizetype row = 0; row < m_rows.size(); ++row) {
-        if (m_rows.at(row).message.id == messageID)
+        const Row &candidate = m_rows.at(row);
+        if (candidate.message.id == messageID ||
+            std::any_of(candidate.album.cbegin(), candidate.album.cend(),
+                        [&messageID](const Item &item) { return item.message.id == messageID; }))
             return int(row);
     }
     return -1;
+}
+
+QVariantList MessageListModel::media() const
+{
+    QVariantList found;
+    const auto add = [&found](const Message &message, const MessageDetails &details) {
+        const bool viewable = details.kind == MessageContent::Kind::Photo ||
+                              details.kind == MessageContent::Kind::Video ||
+                              details.kind == MessageContent::Kind::Animation;
+        if (viewable && message.mediaPath)
+            found.append(QVariantMap{{u"messageID"_s, message.id},
+                                     {u"path"_s, *message.mediaPath},
+                                     {u"kind"_s, int(details.kind)},
+                                     {u"fileName"_s, details.fileName}});
+    };
+    // Rows are newest first; the viewer goes from the oldest.
+    for (auto row = m_rows.crbegin(); row != m_rows.crend(); ++row) {
+        if (row->album.isEmpty()) {
+            add(row->message, row->details);
+        } else {
+            for (const Item &item : row->album)
+                add(item.message, item.details);
+        }
+    }
+    return found;
+}
+
+double MessageListModel::progressOf(qint64 fileID) const
+{
+    return m_viewModel && fileID ? m_viewModel->downloadProgress(fileID) : -1.0;
+}
+
+void MessageListModel::progressChanged(qint64 fileID)
+{
+    for (qsizetype row = 0; row < m_rows.size(); ++row) {
+        const Row &candidate = m_rows.at(row);
+        if (candidate.details.fileID == fileID ||
+            std::any_of(candidate.album.cbegin(), candidate.album.cend(),
+                        [fileID](const Item &item) { return item.details.fileID == fileID; })) {
+            const QModelIndex changed = index(int(row));
+            Q_EMIT dataChanged(changed, changed, {DownloadProgressRole, AlbumItemsRole});
+        }
+    }
 }
 
 QVariant MessageListModel::data(const QModelIndex &index, int role) const
@@ -152,6 +288,31 @@ QVariant MessageListModel::data(const QModelIndex &index, int role) const
         return row.showsUnreadDivider;
     case IsFirstOfGroupRole:
         return row.isFirstOfGroup;
+    case BodyTextRole:
+        return row.details.text;
+    case DateRole:
+        return row.details.date;
+    case StartsDayRole:
+        return row.startsDay;
+    case KindRole:
+        return int(row.details.kind);
+    case DetailsRole:
+        return detailsItem(row.details);
+    case DownloadProgressRole:
+        return progressOf(row.details.fileID);
+    case AlbumItemsRole: {
+        QVariantList items;
+        for (const Item &item : row.album)
+            items.append(QVariantMap{{u"messageID"_s, item.message.id},
+                                     {u"mediaPath"_s, item.message.mediaPath.value_or(QString())},
+                                     {u"kind"_s, int(item.details.kind)},
+                                     {u"width"_s, item.details.width},
+                                     {u"height"_s, item.details.height},
+                                     {u"fileID"_s, QString::number(item.details.fileID)},
+                                     {u"minithumbnail"_s, dataUrl(item.details.minithumbnail)},
+                                     {u"downloadProgress"_s, progressOf(item.details.fileID)}});
+        return items;
+    }
     default:
         return {};
     }
@@ -179,5 +340,12 @@ QHash<int, QByteArray> MessageListModel::roleNames() const
             {ReactionsRole, "reactions"},
             {IsUnreadRole, "isUnread"},
             {ShowsUnreadDividerRole, "showsUnreadDivider"},
-            {IsFirstOfGroupRole, "isFirstOfGroup"}};
+            {IsFirstOfGroupRole, "isFirstOfGroup"},
+            {BodyTextRole, "bodyText"},
+            {DateRole, "date"},
+            {StartsDayRole, "startsDay"},
+            {KindRole, "kind"},
+            {DetailsRole, "details"},
+            {DownloadProgressRole, "downloadProgress"},
+            {AlbumItemsRole, "albumItems"}};
 }

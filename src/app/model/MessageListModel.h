@@ -2,6 +2,7 @@
 
 #include "RowListModel.h"
 
+#include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
 
 #include <QPointer>
@@ -9,18 +10,28 @@
 
 class ChatViewModel;
 
-// The selected chat's transcript, oldest first. A change of the selected chat
-// resets the model; everything else (new, older, edited, deleted or sent
-// messages, the unread divider) changes rows only.
+// The selected chat's transcript, newest first, for a view laid out from the
+// bottom up: new messages arrive at row 0 and older pages at the end, so neither
+// moves what the reader is looking at. The messages of an album share one row. A
+// change of the selected chat resets the model; everything else (new, older,
+// edited, deleted or sent messages, the unread divider, download progress)
+// changes rows only.
 //
-// Roles: messageID, senderName, senderInitials, senderColor (color), senderAvatarPath
-// ("" when none), text, timestamp, isOutgoing, deliveryState ("none", "sending",
-// "sent", "read"), mediaPath ("" when none), mediaPaths (list of text), mediaKind
-// ("" or "photo", "sticker", "video", "animation", "voice", "audio"),
-// stickerEmoji, stickerFormat ("webp", "animated", "video"), documentName,
-// documentPath ("" when none), albumID ("" when none), reactions (list of
-// {emoji, count, isChosen}), isUnread, showsUnreadDivider (the unread run starts
-// here), isFirstOfGroup (the first of consecutive messages from one sender).
+// Roles: messageID (of the album's first message), senderName, senderInitials,
+// senderColor (color), senderAvatarPath ("" when none), text, timestamp,
+// isOutgoing, deliveryState ("none", "sending", "sent", "read"), mediaPath (""
+// when none), mediaPaths (list of text), mediaKind ("" or "photo", "sticker",
+// "video", "animation", "voice", "audio"), stickerEmoji, stickerFormat ("webp",
+// "animated", "video"), documentName, documentPath ("" when none), albumID (""
+// when none), reactions (list of {emoji, count, isChosen}), isUnread,
+// showsUnreadDivider (the unread run starts here), isFirstOfGroup (the first, in
+// time, of consecutive messages from one sender), bodyText (the bubble's text
+// line: the text or the caption, "" for media without one), date (QDateTime,
+// invalid when unknown), startsDay (the first message of its calendar day),
+// kind (MessageContent.Kind), details (a map of MessageDetails' fields; the
+// minithumbnail as a data URL), downloadProgress (0 to 1 while the file arrives,
+// -1 when nothing is known), albumItems (for an album, each message's messageID,
+// mediaPath, kind, width, height, fileID and downloadProgress, oldest first).
 class MessageListModel : public RowListModel
 {
     Q_OBJECT
@@ -52,13 +63,30 @@ public:
         IsUnreadRole,
         ShowsUnreadDividerRole,
         IsFirstOfGroupRole,
+        BodyTextRole,
+        DateRole,
+        StartsDayRole,
+        KindRole,
+        DetailsRole,
+        DownloadProgressRole,
+        AlbumItemsRole,
     };
     Q_ENUM(Role)
 
+    struct Item {
+        Message message;
+        MessageDetails details;
+
+        friend bool operator==(const Item &, const Item &) = default;
+    };
     struct Row {
         Message message;
+        MessageDetails details;
+        // The album's messages, oldest first; empty for a message of its own.
+        QList<Item> album;
         bool showsUnreadDivider = false;
         bool isFirstOfGroup = false;
+        bool startsDay = false;
     };
 
     explicit MessageListModel(ChatViewModel *viewModel, QObject *parent = nullptr);
@@ -69,10 +97,19 @@ public:
 
     int count() const { return int(m_rows.size()); }
     QString chatID() const { return m_chatID; }
+    // The row showing the message (an album's row for any of its messages), or -1.
     Q_INVOKABLE int rowOf(const QString &messageID) const;
+    // The photos and videos of the loaded messages whose files are here, oldest
+    // first, for the viewer: messageID, path, kind (MessageContent.Kind), fileName.
+    Q_INVOKABLE QVariantList media() const;
 
-    // Rows for a chat's messages: the divider before dividerID, groups by sender.
-    static QList<Row> makeRows(const QList<Message> &messages, const QString &dividerID);
+    // Rows for a chat's messages (given oldest first), newest first: the divider
+    // before dividerID, groups by sender, an album's messages in one row. details
+    // holds what each message's widgets show, in the order of messages; a message
+    // without them gets its own text.
+    static QList<Row> makeRows(const QList<Message> &messages, const QList<MessageDetails> &details,
+                               const QString &dividerID);
+    static QVariantMap detailsItem(const MessageDetails &details);
 
 Q_SIGNALS:
     void countChanged();
@@ -80,6 +117,8 @@ Q_SIGNALS:
 
 private:
     void refresh();
+    void progressChanged(qint64 fileID);
+    double progressOf(qint64 fileID) const;
 
     QPointer<ChatViewModel> m_viewModel;
     QString m_chatID;

@@ -19,33 +19,24 @@ Rectangle {
             Layout.preferredHeight: 44
             name: "exclamationmark.triangle"
             color: Appearance.warning
-            Accessible.role: Accessible.Graphic
-            Accessible.name: "Warning"
         }
 
-        Text {
+        ReadableText {
             id: title
 
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignHCenter
-            text: "Vost needs to be reinstalled"
+            text: qsTr("Vost needs to be reinstalled")
             color: Appearance.text
             font.pixelSize: 16
             font.weight: Font.DemiBold
-            wrapMode: Text.WordWrap
             Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
 
-        Text {
+        ReadableText {
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignHCenter
-            text: "This copy of Vost is missing its application configuration. Please install the latest complete release from the app’s distributor."
-            color: Appearance.secondaryText
-            font.pixelSize: 13
-            wrapMode: Text.WordWrap
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            text: qsTr("This copy of Vost is missing its application configuration. Please install the latest complete release from the app’s distributor.")
         }
     }
 }

@@ -2,7 +2,8 @@ import QtQuick
 import Vost.App
 
 // A round avatar: the photo when it is downloaded, otherwise the initials in
-// white on the chat's or sender's colour.
+// white on the chat's or sender's colour. Decorative: the names beside it say who
+// it is, so screen readers pass over it.
 Rectangle {
     id: avatar
 
@@ -16,8 +17,6 @@ Rectangle {
     height: size
     radius: size / 2
     color: photo.status === Image.Ready ? "transparent" : tint
-    Accessible.role: Accessible.Graphic
-    Accessible.name: initials
 
     Text {
         anchors.centerIn: parent

@@ -4,15 +4,18 @@ import Vost.App
 import Vost.Model
 
 // The sidebar: the search field on top and the chats under it. Up and Down move
-// the selection; Ctrl+F goes to the search field.
+// the selection, Enter goes to the composer; Ctrl+F goes to the search field.
 FocusScope {
     id: sidebar
 
     required property ChatViewModel viewModel
     required property ChatListModel chatList
 
+    // Enter on a chat: the user wants to write in it.
+    signal chatChosen
+
     Accessible.role: Accessible.Pane
-    Accessible.name: "Sidebar"
+    Accessible.name: qsTr("Sidebar")
 
     Shortcut {
         sequence: StandardKey.Find
@@ -30,19 +33,11 @@ FocusScope {
         }
         implicitHeight: 32
         font.pixelSize: 13
-        placeholderText: "Search"
+        placeholderText: qsTr("Search")
         text: sidebar.viewModel.searchText
         activeFocusOnTab: true
         onTextEdited: sidebar.viewModel.searchText = text
         Keys.onDownPressed: list.forceActiveFocus()
-        Keys.onEscapePressed: event => {
-            if (text !== "") {
-                sidebar.viewModel.searchText = "";
-                event.accepted = true;
-            } else {
-                event.accepted = false;
-            }
-        }
     }
 
     ListView {
@@ -63,11 +58,16 @@ FocusScope {
         model: sidebar.chatList
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
-        Accessible.name: "Chat list"
-        ScrollBar.vertical: ScrollBar {}
+        Accessible.name: qsTr("Chat list")
+        ScrollBar.vertical: ScrollBar {
+            Accessible.name: qsTr("Scroll chats")
+            Accessible.ignored: !visible || size >= 1
+        }
 
         Keys.onUpPressed: list.moveSelection(-1)
         Keys.onDownPressed: list.moveSelection(1)
+        Keys.onReturnPressed: sidebar.chatChosen()
+        Keys.onEnterPressed: sidebar.chatChosen()
 
         delegate: ChatRow {
             width: ListView.view.width
@@ -97,13 +97,9 @@ FocusScope {
         border.color: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.5)
     }
 
-    Text {
+    ReadableText {
         anchors.centerIn: list
         visible: list.count === 0
-        text: sidebar.viewModel.searchText !== "" ? "No results" : "No chats yet"
-        color: Appearance.secondaryText
-        font.pixelSize: 13
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        text: sidebar.viewModel.searchText !== "" ? qsTr("No results") : qsTr("No chats yet")
     }
 }

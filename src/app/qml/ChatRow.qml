@@ -2,7 +2,8 @@ import QtQuick
 import Vost.App
 
 // One chat in the sidebar, 60 high: avatar, title, preview or draft, time,
-// unread pill and the muted, pinned and archived marks.
+// unread pill and the muted, pinned and archived marks. For a screen reader it is
+// one item whose name says all of that, and whose Press action opens the chat.
 Rectangle {
     id: row
 
@@ -27,15 +28,34 @@ Rectangle {
     signal clicked
 
     readonly property bool hasUnread: unreadCount > 0 || isMarkedUnread
-    readonly property string secondLine: isTyping ? subtitle : (draftText !== "" ? "Draft: " + draftText : preview)
+    readonly property string secondLine: isTyping ? subtitle : (draftText !== "" ? qsTr("Draft: %1").arg(draftText) : preview)
+    // Only rows inside the list's viewport are shown to assistive technology.
+    readonly property bool onScreen: ListView.view !== null && y + height > ListView.view.contentY
+                                     && y < ListView.view.contentY + ListView.view.height
 
     height: 60
     color: isSelected ? Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.18)
                       : (hover.hovered ? Qt.rgba(Appearance.text.r, Appearance.text.g, Appearance.text.b, 0.05) : "transparent")
     Accessible.role: Accessible.ListItem
-    Accessible.name: title + (hasUnread ? ", " + Math.max(unreadCount, 1) + " unread" : "") + ", " + secondLine
+    Accessible.name: {
+        const parts = [title];
+        if (isPinned)
+            parts.push(qsTr("pinned"));
+        if (isMuted)
+            parts.push(qsTr("muted"));
+        if (isArchived)
+            parts.push(qsTr("archived"));
+        if (unreadCount > 0)
+            parts.push(qsTr("%n unread", "", unreadCount));
+        else if (isMarkedUnread)
+            parts.push(qsTr("marked unread"));
+        parts.push(secondLine);
+        return parts.join(", ");
+    }
     Accessible.selected: isSelected
     Accessible.selectable: true
+    Accessible.ignored: !visible || !onScreen
+    Accessible.onPressAction: row.clicked()
 
     HoverHandler {
         id: hover
@@ -75,24 +95,18 @@ Rectangle {
             text: "⚑"
             color: Appearance.secondaryText
             font.pixelSize: 12
-            Accessible.role: Accessible.StaticText
-            Accessible.name: "Pinned"
         }
         Text {
             visible: row.isMuted
             text: "⊘"
             color: Appearance.secondaryText
             font.pixelSize: 12
-            Accessible.role: Accessible.StaticText
-            Accessible.name: "Muted"
         }
         Text {
             visible: row.isArchived
             text: "⊟"
             color: Appearance.secondaryText
             font.pixelSize: 12
-            Accessible.role: Accessible.StaticText
-            Accessible.name: "Archived"
         }
     }
 
@@ -158,8 +172,6 @@ Rectangle {
         width: Math.max(height, count.implicitWidth + 12)
         radius: height / 2
         color: row.isMuted ? Appearance.secondaryText : Appearance.accent
-        Accessible.role: Accessible.StaticText
-        Accessible.name: row.unreadCount > 0 ? row.unreadCount + " unread" : "Marked unread"
 
         Text {
             id: count

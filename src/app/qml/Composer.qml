@@ -3,13 +3,16 @@ import QtQuick.Controls.Basic
 import Vost.App
 import Vost.Model
 
-// The composer: the reply or edit banner, then the text (growing up to six
-// lines) and the send button. Enter sends, Shift+Enter starts a new line, Esc
-// cancels a reply or an edit.
+// The composer: the reply or edit banner, the files waiting to be sent, then
+// "Attach", the text (growing up to six lines), "Emoji", "Stickers" and "Send".
+// Enter sends, Shift+Enter starts a new line, Up in an empty composer edits the
+// user's last message, and a pasted picture waits to be sent like an attached
+// one. Esc closes an open picker; after that it is the chat layout's.
 FocusScope {
     id: composer
 
     required property ChatViewModel viewModel
+    required property AppRootView host
 
     readonly property var replyTo: viewModel.replyToMessage
     readonly property var editing: viewModel.editingMessage
@@ -19,7 +22,29 @@ FocusScope {
 
     implicitHeight: column.implicitHeight + 16
     Accessible.role: Accessible.Pane
-    Accessible.name: "Composer"
+    Accessible.name: qsTr("Composer")
+
+    // An open picker closes first, also while the keyboard is in the text.
+    Keys.onEscapePressed: event => {
+        event.accepted = emoji.opened || stickers.opened;
+        emoji.close();
+        stickers.close();
+    }
+
+    function insertText(text) {
+        field.insert(field.cursorPosition, text);
+        field.forceActiveFocus();
+    }
+
+    function togglePicker(picker) {
+        if (picker.opened) {
+            picker.close();
+            field.forceActiveFocus();
+        } else {
+            (picker === stickers ? emoji : stickers).close();
+            picker.open();
+        }
+    }
 
     Rectangle {
         anchors {
@@ -29,6 +54,14 @@ FocusScope {
         }
         height: 1
         color: Appearance.separator
+    }
+
+    Connections {
+        target: FilePanel
+
+        function onFilesChosen(paths) {
+            composer.viewModel.queueFiles(paths);
+        }
     }
 
     Column {
@@ -44,86 +77,55 @@ FocusScope {
         }
         spacing: 6
 
-        Item {
-            id: banner
-
+        ComposerBanner {
             width: parent.width
-            height: 36
-            visible: composer.hasBanner
-            Accessible.role: Accessible.Grouping
-            Accessible.name: bannerTitle.text
+            viewModel: composer.viewModel
+        }
 
-            Rectangle {
-                id: bannerBar
-
-                width: 3
-                height: parent.height - 4
-                anchors.verticalCenter: parent.verticalCenter
-                radius: 1.5
-                color: Appearance.accent
-            }
-
-            Column {
-                anchors {
-                    left: bannerBar.right
-                    leftMargin: 8
-                    right: cancel.left
-                    rightMargin: 8
-                    verticalCenter: parent.verticalCenter
-                }
-
-                Text {
-                    id: bannerTitle
-
-                    width: parent.width
-                    text: composer.editing !== null ? "Edit message"
-                                                    : (composer.replyTo !== null ? "Reply to " + composer.replyTo.senderName : "")
-                    elide: Text.ElideRight
-                    color: Appearance.accent
-                    font.pixelSize: 12
-                    font.weight: Font.DemiBold
-                }
-                Text {
-                    width: parent.width
-                    readonly property var quoted: composer.editing !== null ? composer.editing : composer.replyTo
-                    text: quoted ? (quoted.text !== "" ? quoted.text : (quoted.mediaKind !== "" ? quoted.mediaKind : quoted.documentName)) : ""
-                    textFormat: Text.PlainText
-                    maximumLineCount: 1
-                    elide: Text.ElideRight
-                    color: Appearance.secondaryText
-                    font.pixelSize: 12
-                }
-            }
-
-            ToolButton {
-                id: cancel
-
-                anchors {
-                    right: parent.right
-                    verticalCenter: parent.verticalCenter
-                }
-                width: 28
-                height: 28
-                text: "✕"
-                font.pixelSize: 13
-                palette.buttonText: Appearance.secondaryText
-                onClicked: composer.viewModel.cancelReplyAndEdit()
-                Accessible.role: Accessible.Button
-                Accessible.name: composer.editing !== null ? "Cancel editing" : "Cancel reply"
-            }
+        PendingStrip {
+            width: parent.width
+            viewModel: composer.viewModel
         }
 
         Item {
             width: parent.width
             height: Math.max(32, Math.min(field.implicitHeight, 6 * 19 + 14))
 
-            ScrollView {
-                id: scroll
+            IconButton {
+                id: attach
 
                 anchors {
                     left: parent.left
-                    right: send.left
-                    rightMargin: 8
+                    bottom: parent.bottom
+                    bottomMargin: 2
+                }
+                symbol: "paperclip"
+                Accessible.name: qsTr("Attach")
+                onClicked: FilePanel.chooseAttachments()
+            }
+
+            ScrollView {
+                id: scroll
+
+                // Only the text field and its scroll bar matter to a screen reader.
+                Accessible.ignored: true
+                ScrollBar.horizontal: ScrollBar {
+                    policy: ScrollBar.AlwaysOff
+                    Accessible.ignored: true
+                }
+                ScrollBar.vertical: ScrollBar {
+                    parent: scroll
+                    x: scroll.width - width
+                    height: scroll.height
+                    Accessible.name: qsTr("Scroll message text")
+                    Accessible.ignored: !visible || size >= 1
+                }
+
+                anchors {
+                    left: attach.right
+                    leftMargin: 6
+                    right: emojiButton.left
+                    rightMargin: 4
                     top: parent.top
                     bottom: parent.bottom
                 }
@@ -135,7 +137,7 @@ FocusScope {
                     focus: true
                     activeFocusOnTab: true
                     text: composer.viewModel.composerText
-                    placeholderText: "Message"
+                    placeholderText: qsTr("Message")
                     wrapMode: TextEdit.Wrap
                     font.pixelSize: 14
                     color: Appearance.text
@@ -147,7 +149,7 @@ FocusScope {
                     topPadding: 7
                     bottomPadding: 7
                     Accessible.role: Accessible.EditableText
-                    Accessible.name: "Message"
+                    Accessible.name: qsTr("Message")
                     Accessible.multiLine: true
 
                     background: Rectangle {
@@ -162,39 +164,100 @@ FocusScope {
                     Keys.onBacktabPressed: event => { field.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason); }
                     Keys.onReturnPressed: event => composer.handleReturn(event)
                     Keys.onEnterPressed: event => composer.handleReturn(event)
-                    Keys.onEscapePressed: event => {
-                        event.accepted = composer.hasBanner;
-                        if (composer.hasBanner)
-                            composer.viewModel.cancelReplyAndEdit();
+                    Keys.onUpPressed: event => {
+                        event.accepted = field.text === "" && composer.viewModel.editLastOwnMessage();
+                        if (event.accepted)
+                            field.cursorPosition = field.length;
+                    }
+                    Keys.onPressed: event => {
+                        // A picture on the clipboard is attached; text is pasted as usual.
+                        if (event.matches(StandardKey.Paste) && Clipboard.hasImage()) {
+                            const path = Clipboard.saveImage();
+                            if (path !== "")
+                                composer.viewModel.queueFiles([path]);
+                            event.accepted = true;
+                        }
                     }
                 }
             }
 
-            RoundButton {
+            IconButton {
+                id: emojiButton
+
+                anchors {
+                    right: stickerButton.left
+                    bottom: parent.bottom
+                    bottomMargin: 2
+                }
+                symbol: "face.smiling"
+                highlighted: emoji.opened
+                Accessible.name: qsTr("Emoji")
+                onClicked: composer.togglePicker(emoji)
+            }
+
+            IconButton {
+                id: stickerButton
+
+                anchors {
+                    right: send.left
+                    rightMargin: 6
+                    bottom: parent.bottom
+                    bottomMargin: 2
+                }
+                symbol: "sticker"
+                highlighted: stickers.opened
+                Accessible.name: qsTr("Stickers")
+                onClicked: composer.togglePicker(stickers)
+            }
+
+            IconButton {
                 id: send
 
                 anchors {
                     right: parent.right
                     bottom: parent.bottom
                 }
-                width: 32
-                height: 32
+                side: 32
+                symbol: "paperplane.fill"
+                tint: Appearance.accentText
                 enabled: composer.viewModel.canSendMessages
-                Accessible.role: Accessible.Button
-                Accessible.name: composer.editing !== null ? "Save" : "Send"
+                Accessible.name: composer.editing !== null ? qsTr("Save") : qsTr("Send")
                 onClicked: composer.sendComposed()
 
                 background: Rectangle {
                     radius: 16
                     color: send.enabled ? Appearance.accent : Appearance.separator
                     opacity: send.down ? 0.8 : 1
-                }
-                contentItem: SymbolIcon {
-                    name: "paperplane.fill"
-                    color: Appearance.accentText
+                    border.width: send.visualFocus ? 2 : 0
+                    border.color: Appearance.text
                 }
             }
         }
+    }
+
+    EmojiPicker {
+        id: emoji
+
+        x: composer.width - width - 12
+        y: -height - 6
+        onChosen: emoji => composer.insertText(emoji)
+        onClosed: if (!stickers.opened) field.forceActiveFocus()
+    }
+
+    StickerPicker {
+        id: stickers
+
+        x: composer.width - width - 12
+        y: -height - 6
+        viewModel: composer.viewModel
+        session: composer.host.session
+        stickers: composer.host.recentStickerList
+        onChosen: row => {
+            composer.viewModel.queueStickerAt(row);
+            composer.sendComposed();
+            close();
+        }
+        onClosed: if (!emoji.opened) field.forceActiveFocus()
     }
 
     function handleReturn(event) {

@@ -2,20 +2,25 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Vost.App
 import Vost.Model
+import Vost.Render
 
-// The open chat: the header (avatar, title, subtitle), the transcript with the
-// newest message at the bottom, and the composer.
+// The open chat: the header (avatar, title, subtitle), the transcript and the
+// composer. The transcript is laid out from the bottom up: it opens at the newest
+// message, stays there as messages arrive while the reader is at the bottom, and
+// pages back through older history (15 at a time, with a small spinner) as the
+// reader nears the top, without moving what is on screen.
 FocusScope {
     id: conversation
 
-    required property ChatViewModel viewModel
-    required property MessageListModel messageList
+    required property AppRootView host
+    readonly property ChatViewModel viewModel: host.viewModel
+    readonly property MessageListModel messageList: host.messageList
 
     readonly property var chat: viewModel.selectedChat
     readonly property string chatTitle: chat ? chat.title : ""
 
     Accessible.role: Accessible.Pane
-    Accessible.name: "Conversation with " + chatTitle
+    Accessible.name: qsTr("Conversation with %1").arg(chatTitle)
 
     Rectangle {
         anchors.fill: parent
@@ -90,9 +95,8 @@ FocusScope {
     ListView {
         id: transcript
 
-        // Set once the newest message is in view, so that the start position does
-        // not count as scrolling to the top.
-        property bool settled: false
+        // Whether the newest message is in view; new ones then keep it in view.
+        property bool atNewest: true
 
         objectName: "transcript"
         anchors {
@@ -103,19 +107,23 @@ FocusScope {
         }
         clip: true
         activeFocusOnTab: true
+        verticalLayoutDirection: ListView.BottomToTop
         boundsBehavior: Flickable.StopAtBounds
-        // Short transcripts sit at the bottom, next to the composer.
-        topMargin: Math.max(8, height - contentHeight - 8)
+        topMargin: 8
         bottomMargin: 8
         model: conversation.messageList
-        keyNavigationEnabled: false
+        currentIndex: -1
+        keyNavigationEnabled: true
+        highlightMoveDuration: 0
         reuseItems: true
+        cacheBuffer: 600
         Accessible.role: Accessible.List
-        Accessible.name: "Messages"
-        ScrollBar.vertical: ScrollBar {}
+        Accessible.name: qsTr("Messages")
+        ScrollBar.vertical: ScrollBar {
+            Accessible.name: qsTr("Scroll messages")
+            Accessible.ignored: !visible || size >= 1
+        }
 
-        Keys.onUpPressed: flick(0, 800)
-        Keys.onDownPressed: flick(0, -800)
         Keys.onPressed: event => {
             if (event.key === Qt.Key_PageUp) {
                 contentY = Math.max(originY - topMargin, contentY - height * 0.9);
@@ -123,37 +131,135 @@ FocusScope {
             } else if (event.key === Qt.Key_PageDown) {
                 contentY = Math.min(originY + contentHeight - height + bottomMargin, contentY + height * 0.9);
                 event.accepted = true;
+            } else if (event.key === Qt.Key_Home) {
+                // The oldest loaded message (the end of the newest-first model) and
+                // above it the spinner or the start of the conversation.
+                positionViewAtEnd();
+                Qt.callLater(showTop);
+                event.accepted = true;
+            } else if (event.key === Qt.Key_End) {
+                positionViewAtBeginning();
+                event.accepted = true;
+            } else if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
+                       || event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+                if (currentItem) {
+                    currentItem.openMenu();
+                    event.accepted = true;
+                }
             }
         }
+        onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
 
-        onAtYBeginningChanged: if (atYBeginning && settled && count > 0) conversation.viewModel.loadOlderMessages()
-        onCountChanged: if (settled && atYEnd) Qt.callLater(positionViewAtEnd)
+        // The very top, once the items there are laid out with their real heights.
+        function showTop() {
+            contentY = originY - topMargin;
+        }
 
         delegate: MessageBubble {
             width: ListView.view.width
             paneWidth: ListView.view.width
             showsSenders: !isOutgoing && senderName !== "" && senderName !== conversation.chatTitle
-            onReplyRequested: id => conversation.viewModel.replyTo(id)
-            onEditRequested: id => conversation.viewModel.edit(id)
-            onDeleteRequested: id => conversation.viewModel.deleteMessage(id)
+            isCurrent: ListView.isCurrentItem && transcript.activeFocus
+            playback: audio
+            onMenuRequested: (anchor, x, y) => menu.openFor(messageID, isOutgoing && kind === MessageContent.Text,
+                                                            bodyText, reactions, anchor, x, y)
+            onMediaOpened: id => viewer.show(conversation.messageList.media(), id)
+            onReplyActivated: id => transcript.showMessage(id)
+            onContactMessageRequested: userID => conversation.viewModel.openContact(userID)
             onReactionToggled: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
         }
 
-        function showNewest() {
-            settled = false;
-            positionViewAtEnd();
-            Qt.callLater(() => { transcript.positionViewAtEnd(); transcript.settled = true; });
+        // At the visual top: the spinner while an older page is on its way, and
+        // the start of the conversation once it is reached.
+        footer: Item {
+            width: ListView.view.width
+            height: 40
+
+            // The indicator's own role means nothing to screen readers: the item
+            // around it speaks for it, as a busy progress bar.
+            Item {
+                anchors.centerIn: parent
+                width: 24
+                height: 24
+                visible: conversation.viewModel.loadingOlderMessages
+                Accessible.role: Accessible.ProgressBar
+                Accessible.name: qsTr("Loading older messages")
+                Accessible.ignored: !visible
+
+                BusyIndicator {
+                    anchors.fill: parent
+                    running: parent.visible
+                    Accessible.ignored: true
+                }
+            }
+
+            Rectangle {
+                anchors.centerIn: parent
+                visible: conversation.viewModel.historyStartReached && transcript.count > 0
+                width: startText.implicitWidth + 20
+                height: 22
+                radius: 11
+                color: Appearance.neutralBubble
+
+                ReadableText {
+                    id: startText
+
+                    anchors.centerIn: parent
+                    text: qsTr("Start of the conversation")
+                    font.pixelSize: 12
+                }
+            }
         }
 
-        Component.onCompleted: showNewest()
+        // Brings a loaded message into view, as the current one.
+        function showMessage(messageID) {
+            const row = conversation.messageList.rowOf(messageID);
+            if (row < 0)
+                return;
+            positionViewAtIndex(row, ListView.Center);
+            currentIndex = row;
+        }
+
+        // Half a screen from the top, the page before the oldest message is asked
+        // for; the view model asks once per oldest message and the session once at
+        // a time.
+        function loadOlderIfNearTop() {
+            if (count > 0 && contentHeight > 0 && (contentY - originY) < height / 2)
+                conversation.viewModel.loadOlderMessages();
+        }
+
+        onContentYChanged: {
+            atNewest = contentY + height >= originY + contentHeight - 2;
+            loadOlderIfNearTop();
+        }
+        onCountChanged: Qt.callLater(loadOlderIfNearTop)
+        onHeightChanged: if (atNewest) positionViewAtBeginning()
 
         Connections {
             target: conversation.messageList
 
             function onModelReset() {
-                transcript.showNewest();
+                transcript.currentIndex = -1;
+                transcript.positionViewAtBeginning();
+                transcript.atNewest = true;
+            }
+            function onRowsInserted(parent, first, last) {
+                // Row 0 is the newest: a message that arrives while the reader is
+                // at the bottom comes into view.
+                if (first === 0 && transcript.atNewest)
+                    Qt.callLater(transcript.positionViewAtBeginning);
             }
         }
+
+        Connections {
+            target: conversation.viewModel
+
+            function onHistoryStateChanged() {
+                Qt.callLater(transcript.loadOlderIfNearTop);
+            }
+        }
+
+        Component.onCompleted: positionViewAtBeginning()
     }
 
     // The keyboard focus ring, outside the list so that it does not scroll.
@@ -165,12 +271,122 @@ FocusScope {
         border.color: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.5)
     }
 
-    Text {
+    ReadableText {
         anchors.centerIn: transcript
         visible: transcript.count === 0
-        text: "No messages here yet."
-        color: Appearance.secondaryText
-        font.pixelSize: 13
+        text: qsTr("No messages here yet.")
+    }
+
+    AudioPlayback {
+        id: audio
+    }
+
+    // The day of the message at the top while the transcript moves.
+    Rectangle {
+        id: stickyDay
+
+        readonly property var topItem: transcript.itemAt(transcript.width / 2, transcript.contentY + 4)
+        readonly property string label: topItem ? Formats.dayLabel(topItem.date) : ""
+
+        anchors {
+            top: transcript.top
+            topMargin: 6
+            horizontalCenter: transcript.horizontalCenter
+        }
+        width: stickyText.implicitWidth + 20
+        height: 22
+        radius: 11
+        color: Appearance.neutralBubble
+        border.width: 1
+        border.color: Appearance.separator
+        opacity: transcript.moving && label !== "" ? 1 : 0
+        visible: opacity > 0
+
+        Behavior on opacity {
+            NumberAnimation {
+                duration: 150
+            }
+        }
+
+        Text {
+            id: stickyText
+
+            anchors.centerIn: parent
+            text: stickyDay.label
+            color: Appearance.secondaryText
+            font.pixelSize: 12
+        }
+    }
+
+    PhotoViewer {
+        id: viewer
+
+        parent: conversation.Window.contentItem
+    }
+
+    MessageMenu {
+        id: menu
+
+        palette: conversation.viewModel.reactionPalette
+
+        function openFor(messageID, canEdit, text, reactions, anchor, x, y) {
+            menu.messageID = messageID;
+            menu.canEdit = canEdit;
+            menu.messageText = text;
+            menu.reactions = reactions;
+            menu.popup(anchor, x, y);
+        }
+
+        onReplyRequested: id => {
+            conversation.viewModel.replyTo(id);
+            composer.forceActiveFocus();
+        }
+        onEditRequested: id => {
+            conversation.viewModel.edit(id);
+            composer.forceActiveFocus();
+        }
+        onForwardRequested: id => {
+            forwarding.messageID = id;
+            forwarding.open();
+        }
+        onReactionRequested: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
+        onDeleteRequested: id => {
+            deletion.messageID = id;
+            deletion.open();
+        }
+    }
+
+    ForwardDialog {
+        id: forwarding
+
+        chats: conversation.host.allChats
+        onChatChosen: chatID => {
+            conversation.viewModel.forwardMessage(messageID, chatID);
+            close();
+            conversation.viewModel.selectChat(chatID);
+        }
+    }
+
+    // Files dropped on the conversation wait in the composer like attached ones.
+    DropArea {
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onDropped: drop => {
+            if (drop.hasUrls) {
+                conversation.viewModel.queueFiles(drop.urls.map(url => url.toString()));
+                drop.acceptProposedAction();
+            }
+        }
+    }
+
+    ConfirmDialog {
+        id: deletion
+
+        property string messageID
+
+        question: qsTr("Delete this message for everyone?")
+        actionText: qsTr("Delete")
+        onConfirmed: conversation.viewModel.deleteMessage(messageID)
     }
 
     Composer {
@@ -182,8 +398,9 @@ FocusScope {
             bottom: parent.bottom
         }
         viewModel: conversation.viewModel
+        host: conversation.host
         focus: true
         // A message sent here always comes into view.
-        onSent: Qt.callLater(transcript.positionViewAtEnd)
+        onSent: Qt.callLater(transcript.positionViewAtBeginning)
     }
 }

@@ -5,17 +5,13 @@ import Vost.App
 Rectangle {
     color: Appearance.background
     Accessible.role: Accessible.Pane
-    Accessible.name: "Conversation"
+    Accessible.name: qsTr("Conversation")
 
-    Text {
+    ReadableText {
         anchors.centerIn: parent
         width: Math.min(implicitWidth, parent.width - 40)
         horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.WordWrap
-        text: "Choose a Telegram chat or contact."
-        color: Appearance.secondaryText
+        text: qsTr("Choose a Telegram chat or contact.")
         font.pixelSize: 14
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
     }
 }

@@ -21,6 +21,9 @@ TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
     Accessible.passwordEdit: secure
+    // Qt 6.4 gives a masked field no name: the description still says what it is for.
+    Accessible.description: placeholderText
+    Accessible.ignored: !visible
 
     background: Rectangle {
         radius: 8

@@ -1,12 +1,18 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import Vost.App
+import Vost.Model
+import Vost.Render
 
-// One message of the transcript: the unread divider above it when the unread run
-// starts here, then the bubble (incoming on the left in the neutral colour,
-// outgoing on the right in the accent colour) with the sender's name and avatar
-// on the first of a group in group chats, the text, media or a placeholder, and
-// the time and ticks at the bottom right.
+// One message of the transcript: the day's separator above the first message of a
+// day, the unread divider where the unread run starts, then the bubble (incoming
+// on the left in the neutral colour, outgoing on the right in the accent colour)
+// with the sender's name and avatar on the first of a group in group chats, where
+// it was forwarded from, the message it answers, what it holds, its text with the
+// preview of its first link, and the time ("edited" beside it) and ticks at the
+// bottom right. Stickers, dice and albums need no bubble round them. A right
+// click anywhere on the row, the "More" button that hovering shows, or the item's
+// accessible Press action opens the message's menu.
 Item {
     id: message
 
@@ -17,48 +23,100 @@ Item {
     required property color senderColor
     required property string senderAvatarPath
     required property string text
+    required property string bodyText
     required property string timestamp
     required property bool isOutgoing
     required property string deliveryState
     required property string mediaPath
-    required property string mediaKind
     required property string stickerEmoji
     required property string stickerFormat
-    required property string documentName
     required property var reactions
     required property bool showsUnreadDivider
     required property bool isFirstOfGroup
+    required property bool startsDay
+    required property var date
+    required property int kind
+    required property var details
+    required property real downloadProgress
+    required property var albumItems
 
     // Whether sender names and avatars are shown (group chats).
     property bool showsSenders: false
     property real paneWidth: width
+    property bool isCurrent: false
+    required property AudioPlayback playback
 
-    signal replyRequested(string messageID)
-    signal editRequested(string messageID)
-    signal deleteRequested(string messageID)
+    signal menuRequested(Item anchor, real x, real y)
     signal reactionToggled(string emoji, string messageID)
+    signal mediaOpened(string messageID)
+    signal replyActivated(string messageID)
+    signal contactMessageRequested(string userID)
 
-    readonly property bool isSticker: mediaKind === "sticker"
-    readonly property bool hasImage: mediaPath !== "" && (mediaKind === "photo" || (isSticker && stickerFormat === "webp"))
+    readonly property bool bare: kind === MessageContent.Sticker || kind === MessageContent.Dice
     readonly property bool withSender: showsSenders && !isOutgoing
-    readonly property color foreground: isOutgoing && !isSticker ? Appearance.accentText : Appearance.text
-    readonly property string placeholder: {
-        switch (mediaKind) {
-        case "photo": return "📷 Photo";
-        case "video": return "🎬 Video";
-        case "animation": return "🎞 GIF";
-        case "voice": return "🎤 Voice message";
-        case "audio": return "🎵 Audio";
-        case "sticker": return stickerEmoji + " Sticker";
-        default: return documentName !== "" ? "📄 " + documentName : "";
-        }
-    }
+    readonly property color foreground: isOutgoing && !bare ? Appearance.accentText : Appearance.text
+    readonly property string link: kind === MessageContent.Text ? MessageText.firstLink(bodyText) : ""
     readonly property string ticks: !isOutgoing ? "" : (deliveryState === "sending" ? "◷" : (deliveryState === "read" ? "✓✓" : (deliveryState === "sent" ? "✓" : "")))
-    readonly property string deliveryName: deliveryState === "sending" ? ", sending" : (deliveryState === "read" ? ", read" : (deliveryState === "sent" ? ", sent" : ""))
+    readonly property string deliveryName: deliveryState === "sending" ? qsTr("sending") : (deliveryState === "read" ? qsTr("read") : (deliveryState === "sent" ? qsTr("sent") : ""))
+    // Set while the view keeps this delegate for reuse: it stays visible there.
+    property bool pooled: false
+    // Only messages inside the transcript's viewport are shown to assistive technology.
+    readonly property bool onScreen: !pooled && ListView.view !== null && y + height > ListView.view.contentY
+                                     && y < ListView.view.contentY + ListView.view.height
+
+    ListView.onPooled: pooled = true
+    ListView.onReused: pooled = false
+
+    function openMenu(x, y) {
+        menuRequested(bubble, x === undefined ? bubble.width / 2 : x, y === undefined ? bubble.height / 2 : y);
+    }
 
     height: column.y + column.height
     Accessible.role: Accessible.ListItem
-    Accessible.name: (isOutgoing ? "You" : senderName) + ": " + (text !== "" ? text : placeholder) + ", " + timestamp + deliveryName
+    Accessible.name: {
+        // What it holds as its widget says it, then its text.
+        const held = content.item ? content.item.Accessible.name : "";
+        const said = [held, MessageText.displayText(bodyText)].filter(part => part !== "").join(", ");
+        const parts = [(isOutgoing ? qsTr("You") : senderName) + ": " + (said !== "" ? said : text), timestamp];
+        if (details.isEdited)
+            parts.push(qsTr("edited"));
+        if (deliveryName !== "")
+            parts.push(deliveryName);
+        for (const reaction of reactions)
+            parts.push(reaction.isChosen ? qsTr("%1 %2, yours").arg(reaction.emoji).arg(reaction.count)
+                                         : reaction.emoji + " " + reaction.count);
+        return parts.join(", ");
+    }
+    Accessible.selected: isCurrent
+    Accessible.ignored: !visible || !onScreen
+    Accessible.onPressAction: openMenu()
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => {
+            const point = message.mapToItem(bubble, eventPoint.position.x, eventPoint.position.y);
+            message.openMenu(point.x, point.y);
+        }
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    DateSeparator {
+        id: day
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            topMargin: 4
+        }
+        date: message.date
+        visible: message.startsDay && label !== ""
+        height: visible ? implicitHeight : 0
+        shown: message.onScreen
+    }
 
     Item {
         id: divider
@@ -66,13 +124,11 @@ Item {
         anchors {
             left: parent.left
             right: parent.right
-            top: parent.top
+            top: day.bottom
             topMargin: 6
         }
         visible: message.showsUnreadDivider
         height: visible ? 20 : 0
-        Accessible.role: Accessible.Separator
-        Accessible.name: "Unread messages"
 
         Rectangle {
             anchors {
@@ -90,13 +146,13 @@ Item {
             radius: height / 2
             color: Appearance.background
 
-            Text {
+            ReadableText {
                 id: dividerText
 
                 anchors.centerIn: parent
-                text: "Unread messages"
-                color: Appearance.secondaryText
+                text: qsTr("Unread messages")
                 font.pixelSize: 12
+                Accessible.ignored: !visible || !message.onScreen
             }
         }
     }
@@ -114,6 +170,22 @@ Item {
         tint: message.senderColor
     }
 
+    IconButton {
+        id: more
+
+        anchors {
+            verticalCenter: column.verticalCenter
+            left: message.isOutgoing ? undefined : column.right
+            right: message.isOutgoing ? column.left : undefined
+            margins: 4
+        }
+        visible: hover.hovered || message.isCurrent
+        symbol: "ellipsis"
+        Accessible.name: qsTr("More")
+        Accessible.ignored: !visible || !message.onScreen
+        onClicked: message.openMenu()
+    }
+
     Column {
         id: column
 
@@ -126,35 +198,31 @@ Item {
             id: bubble
 
             readonly property real maxWidth: message.paneWidth * 0.7
+            readonly property real innerWidth: maxWidth - 24
             readonly property real contentWidth: Math.max(name.visible ? name.implicitWidth : 0,
-                                                          media.visible ? media.width : 0,
-                                                          body.visible ? Math.min(body.implicitWidth, maxWidth - 24) : 0,
-                                                          placeholderText.visible ? placeholderText.implicitWidth : 0,
+                                                          forwarded.visible ? forwarded.implicitWidth : 0,
+                                                          reply.visible ? reply.implicitWidth : 0,
+                                                          content.item ? content.item.width : 0,
+                                                          body.visible ? Math.min(body.implicitWidth, innerWidth) : 0,
+                                                          preview.visible ? 280 : 0,
                                                           meta.implicitWidth)
 
             width: Math.min(maxWidth, contentWidth + 24)
-            height: content.height + 16
+            height: inner.height + 16
             radius: 14
-            color: message.isSticker ? "transparent" : (message.isOutgoing ? Appearance.accent : Appearance.neutralBubble)
-
-            HoverHandler {
-                id: hover
-            }
-
-            TapHandler {
-                acceptedButtons: Qt.RightButton
-                onTapped: menu.popup()
-            }
+            color: message.bare ? "transparent" : (message.isOutgoing ? Appearance.accent : Appearance.neutralBubble)
+            border.width: message.isCurrent ? 2 : 0
+            border.color: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.6)
 
             Rectangle {
                 anchors.fill: parent
                 radius: parent.radius
-                visible: hover.hovered
+                visible: hover.hovered && !message.bare
                 color: Qt.rgba(Appearance.text.r, Appearance.text.g, Appearance.text.b, 0.04)
             }
 
             Column {
-                id: content
+                id: inner
 
                 x: 12
                 y: 8
@@ -171,46 +239,83 @@ Item {
                     font.weight: Font.DemiBold
                 }
 
-                Image {
-                    id: media
+                Text {
+                    id: forwarded
 
-                    visible: message.hasImage && status === Image.Ready
-                    source: message.hasImage ? "file://" + message.mediaPath : ""
-                    asynchronous: true
-                    fillMode: Image.PreserveAspectFit
-                    readonly property real maxSide: message.isSticker ? 160 : Math.min(320, bubble.maxWidth - 24)
-                    readonly property real scale_: implicitWidth > 0 ? Math.min(1, maxSide / Math.max(implicitWidth, message.isSticker ? implicitHeight : 0)) : 1
-                    width: implicitWidth * scale_
-                    height: implicitHeight * scale_
-                    Accessible.role: Accessible.Graphic
-                    Accessible.name: message.isSticker ? "Sticker " + message.stickerEmoji : "Photo"
+                    visible: message.details.forwardedFrom !== ""
+                    width: Math.min(implicitWidth, bubble.innerWidth)
+                    text: qsTr("Forwarded from %1").arg(message.details.forwardedFrom)
+                    elide: Text.ElideRight
+                    color: message.isOutgoing && !message.bare ? Qt.rgba(1, 1, 1, 0.85) : Appearance.accent
+                    font.pixelSize: 12
+                    font.italic: true
                 }
 
-                Text {
-                    id: placeholderText
+                ReplyQuote {
+                    id: reply
 
-                    visible: message.placeholder !== "" && !media.visible
-                    text: message.placeholder
-                    color: message.foreground
-                    font.pixelSize: 14
+                    visible: message.details.replyToMessageID !== ""
+                    width: Math.min(implicitWidth, bubble.innerWidth)
+                    details: message.details
+                    outgoing: message.isOutgoing && !message.bare
+                    shown: visible && message.onScreen
+                    onActivated: id => message.replyActivated(id)
+                }
+
+                MessageContentView {
+                    id: content
+
+                    kind: message.kind
+                    details: message.details
+                    messageID: message.messageID
+                    mediaPath: message.mediaPath
+                    albumItems: message.albumItems
+                    downloadProgress: message.downloadProgress
+                    outgoing: message.isOutgoing
+                    stickerEmoji: message.stickerEmoji
+                    stickerFormat: message.stickerFormat
+                    onScreen: message.onScreen
+                    playback: message.playback
+                    maximumWidth: Math.min(320, bubble.innerWidth)
+                    onOpened: id => message.mediaOpened(id)
+                    onContactMessageRequested: id => message.contactMessageRequested(id)
                 }
 
                 Text {
                     id: body
 
-                    visible: message.text !== ""
-                    width: Math.min(implicitWidth, bubble.maxWidth - 24)
-                    text: MessageText.richText(message.text, message.isOutgoing ? "#FFFFFF" : Appearance.accent.toString())
+                    visible: message.bodyText !== ""
+                    width: Math.min(implicitWidth, bubble.innerWidth)
+                    text: MessageText.richText(message.bodyText, message.isOutgoing ? "#FFFFFF" : Appearance.accent.toString())
                     textFormat: Text.RichText
                     wrapMode: Text.Wrap
                     color: message.foreground
                     font.pixelSize: 14
                     onLinkActivated: link => Qt.openUrlExternally(link)
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: message.text
+                    Accessible.role: Accessible.Paragraph
+                    Accessible.name: MessageText.displayText(message.bodyText)
+                    Accessible.ignored: !visible || !message.onScreen
 
                     HoverHandler {
                         cursorShape: body.hoveredLink !== "" ? Qt.PointingHandCursor : Qt.ArrowCursor
+                    }
+                }
+
+                Loader {
+                    id: preview
+
+                    // The card loads its page the first time the message is shown.
+                    active: message.link !== "" && message.onScreen || item !== null
+                    visible: message.link !== ""
+                    width: Math.min(280, bubble.innerWidth)
+                    sourceComponent: MessageLinkPreview {
+                        url: message.link
+                        outgoing: message.isOutgoing
+                        onActivated: url => Qt.openUrlExternally(url)
+                        Accessible.role: Accessible.Link
+                        Accessible.name: qsTr("Link preview: %1").arg(title)
+                        Accessible.ignored: !message.onScreen
+                        Accessible.onPressAction: Qt.openUrlExternally(url)
                     }
                 }
 
@@ -218,8 +323,9 @@ Item {
                     id: meta
 
                     anchors.right: parent.right
-                    text: message.timestamp + (message.ticks !== "" ? "  " + message.ticks : "")
-                    color: message.isOutgoing && !message.isSticker ? Qt.rgba(1, 1, 1, 0.75) : Appearance.secondaryText
+                    text: (message.details.isEdited ? qsTr("edited") + "  " : "") + message.timestamp
+                          + (message.ticks !== "" ? "  " + message.ticks : "")
+                    color: message.isOutgoing && !message.bare ? Qt.rgba(1, 1, 1, 0.75) : Appearance.secondaryText
                     font.pixelSize: 12
                 }
             }
@@ -236,9 +342,11 @@ Item {
                 model: message.reactions
 
                 delegate: Rectangle {
+                    id: chip
+
                     required property var modelData
 
-                    width: Math.max(28, chip.implicitWidth + 14)
+                    width: Math.max(28, chipText.implicitWidth + 14)
                     height: 28
                     radius: 14
                     color: modelData.isChosen ? Appearance.accent : Appearance.neutralBubble
@@ -246,44 +354,34 @@ Item {
                     border.color: Appearance.separator
                     Accessible.role: Accessible.Button
                     Accessible.name: modelData.emoji + " " + modelData.count
+                    Accessible.checkable: true
                     Accessible.checked: modelData.isChosen
+                    Accessible.ignored: !message.onScreen
+                    Accessible.onPressAction: message.reactionToggled(modelData.emoji, message.messageID)
 
-                    Text {
-                        id: chip
+                    Row {
+                        id: chipText
 
                         anchors.centerIn: parent
-                        text: parent.modelData.emoji + " " + parent.modelData.count
-                        color: parent.modelData.isChosen ? Appearance.accentText : Appearance.text
-                        font.pixelSize: 12
+                        spacing: 4
+
+                        Text {
+                            text: chip.modelData.emoji
+                            font.pixelSize: 13
+                            font.family: Appearance.emojiFontFamily
+                        }
+                        Text {
+                            text: chip.modelData.count
+                            color: chip.modelData.isChosen ? Appearance.accentText : Appearance.text
+                            font.pixelSize: 12
+                        }
                     }
 
                     TapHandler {
-                        onTapped: message.reactionToggled(parent.modelData.emoji, message.messageID)
+                        onTapped: message.reactionToggled(chip.modelData.emoji, message.messageID)
                     }
                 }
             }
-        }
-    }
-
-    Menu {
-        id: menu
-
-        MenuItem {
-            text: "Reply"
-            onTriggered: message.replyRequested(message.messageID)
-        }
-        MenuItem {
-            text: "Edit"
-            enabled: message.isOutgoing && message.text !== ""
-            onTriggered: message.editRequested(message.messageID)
-        }
-        MenuItem {
-            text: "React 👍"
-            onTriggered: message.reactionToggled("👍", message.messageID)
-        }
-        MenuItem {
-            text: "Delete"
-            onTriggered: message.deleteRequested(message.messageID)
         }
     }
 }

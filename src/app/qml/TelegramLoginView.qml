@@ -3,14 +3,15 @@ import QtQuick.Layouts
 import Vost.App
 
 // The sign-in screen: the step's icon, title and instructions, its field and
-// "Continue", the session's error and start-up texts, and the footer.
+// "Continue", the error that answers what was submitted, the start-up progress,
+// and the footer.
 FocusScope {
     id: view
 
     property alias session: presenter.session
 
     Accessible.role: Accessible.Pane
-    Accessible.name: "Sign in"
+    Accessible.name: qsTr("Sign in")
 
     LoginPresenter {
         id: presenter
@@ -33,7 +34,7 @@ FocusScope {
             Layout.fillWidth: true
             spacing: 8
             Accessible.role: Accessible.Grouping
-            Accessible.name: "Login Information"
+            Accessible.name: qsTr("Login Information")
 
             SymbolIcon {
                 Layout.alignment: Qt.AlignHCenter
@@ -42,31 +43,22 @@ FocusScope {
                 Layout.bottomMargin: 4
                 name: presenter.icon
                 color: presenter.icon === "exclamationmark.triangle.fill" ? Appearance.warning : Appearance.accent
-                Accessible.role: Accessible.Graphic
-                Accessible.name: presenter.title
             }
 
-            Text {
+            ReadableText {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
                 text: presenter.title
                 color: Appearance.text
                 font.pixelSize: 16
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
-            Text {
+            ReadableText {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
                 text: presenter.instructions
-                color: Appearance.secondaryText
-                font.pixelSize: 13
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
             }
         }
 
@@ -84,26 +76,20 @@ FocusScope {
             onAccepted: presenter.submit()
         }
 
-        Text {
+        ReadableText {
             Layout.fillWidth: true
             visible: presenter.showsHint
             text: presenter.hintLine
-            color: Appearance.secondaryText
             font.pixelSize: 12
-            wrapMode: Text.WordWrap
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
 
-        Text {
+        ReadableText {
             Layout.fillWidth: true
-            visible: presenter.errorMessage.length > 0
+            visible: text !== ""
             text: presenter.errorMessage
             color: Appearance.badge
             font.pixelSize: 12
-            wrapMode: Text.WordWrap
             Accessible.role: Accessible.AlertMessage
-            Accessible.name: text
         }
 
         AccentButton {
@@ -111,20 +97,16 @@ FocusScope {
             Layout.topMargin: 4
             visible: presenter.hasField
             enabled: presenter.canContinue
-            text: "Continue"
+            text: qsTr("Continue")
             onClicked: presenter.submit()
         }
 
-        Text {
+        ReadableText {
             Layout.fillWidth: true
             horizontalAlignment: Text.AlignHCenter
             visible: presenter.isStarting && presenter.startupStatus.length > 0
             text: presenter.startupStatus
-            color: Appearance.secondaryText
             font.pixelSize: 12
-            wrapMode: Text.WordWrap
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
     }
 
@@ -137,25 +119,18 @@ FocusScope {
         }
         spacing: 4
 
-        Text {
+        ReadableText {
             Layout.alignment: Qt.AlignHCenter
             Layout.maximumWidth: 520
             horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.WordWrap
             text: presenter.footer
-            color: Appearance.secondaryText
             font.pixelSize: 12
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
 
-        Text {
+        ReadableText {
             Layout.alignment: Qt.AlignHCenter
             text: presenter.versionLine
-            color: Appearance.secondaryText
             font.pixelSize: 12
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
     }
 }

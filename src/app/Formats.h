@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+// Sizes and durations as the views show them, in the user's locale.
+class Formats : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    explicit Formats(QObject *parent = nullptr);
+
+    // "820 bytes", "1.2 MB", …
+    Q_INVOKABLE static QString dataSize(qint64 bytes);
+    // "0:07", "12:30", "1:02:03".
+    Q_INVOKABLE static QString duration(int seconds);
+    // A day as the transcript's separators name it: "Today", "Yesterday", the
+    // weekday within the last week, else the date; relative to today.
+    Q_INVOKABLE static QString dayLabel(const QDateTime &date);
+    static QString dayLabel(const QDate &day, const QDate &today);
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QSortFilterProxyModel>
+#include <QtQml/qqmlregistration.h>
+
+// The chats of a ChatListModel whose title contains the search text, ignoring
+// case as the sidebar's search does; all of them while it is empty. The
+// "Forward to" chooser lists chats through it.
+class ChatFilterModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
+
+public:
+    explicit ChatFilterModel(QObject *parent = nullptr);
+
+    QString searchText() const { return m_searchText; }
+    void setSearchText(const QString &text);
+
+Q_SIGNALS:
+    void searchTextChanged();
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private:
+    QString m_searchText;
+};

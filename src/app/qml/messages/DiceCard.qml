@@ -1,0 +1,40 @@
+import QtQuick
+import Vost.App
+
+// A thrown dice (or dart, ball, …): its emoji, large, and the value it came to.
+Item {
+    id: card
+
+    // Whether the message is on screen: off screen, nothing of it is exposed to
+    // assistive technology.
+    property bool shown: true
+
+    required property var details
+    property bool outgoing: false
+
+    implicitWidth: row.implicitWidth
+    implicitHeight: 56
+    Accessible.role: Accessible.Grouping
+    Accessible.ignored: !card.shown
+    Accessible.name: qsTr("%1 rolled %2").arg(details.diceEmoji).arg(details.diceValue)
+
+    Row {
+        id: row
+
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 10
+
+        Text {
+            text: card.details.diceEmoji
+            font.pixelSize: 40
+            font.family: Appearance.emojiFontFamily
+        }
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            text: card.details.diceValue
+            color: card.outgoing ? Appearance.accentText : Appearance.text
+            font.pixelSize: 22
+            font.weight: Font.DemiBold
+        }
+    }
+}

@@ -1,0 +1,171 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtMultimedia
+import Vost.App
+import Vost.Model
+import Vost.Render
+
+// The chat's photos and videos over the whole popover: one at a time, fitted,
+// with the arrows (and Left and Right) going through them, "Save" and "Open",
+// and Esc closing it. Videos play here with sound.
+Popup {
+    id: viewer
+
+    // Each item: messageID, path, kind (MessageContent.Kind), fileName.
+    property var items: []
+    property int index: 0
+
+    readonly property var current: index >= 0 && index < items.length ? items[index] : null
+    readonly property bool isVideo: current !== null && current.kind !== MessageContent.Photo
+
+    function show(media, messageID) {
+        items = media;
+        index = Math.max(0, media.findIndex(item => item.messageID === messageID));
+        open();
+    }
+
+    function step(delta) {
+        index = Math.max(0, Math.min(items.length - 1, index + delta));
+    }
+
+    x: 0
+    y: 0
+    width: parent ? parent.width : 860
+    height: parent ? parent.height : 560
+    modal: true
+    focus: true
+    padding: 0
+    closePolicy: Popup.CloseOnEscape
+    Component.onCompleted: contentItem.parent.Accessible.name = qsTr("Photo viewer")
+
+    background: Rectangle {
+        color: Qt.rgba(0.05, 0.05, 0.06, 0.96)
+    }
+
+    contentItem: FocusScope {
+        focus: true
+        Keys.onLeftPressed: viewer.step(-1)
+        Keys.onRightPressed: viewer.step(1)
+
+        Image {
+            id: picture
+
+            anchors.fill: parent
+            anchors.margins: 56
+            visible: !viewer.isVideo
+            source: viewer.current && !viewer.isVideo ? "image://media/" + encodeURIComponent(viewer.current.path) : ""
+            sourceSize: Qt.size(width * 2, height * 2)
+            fillMode: Image.PreserveAspectFit
+            asynchronous: true
+            Accessible.role: Accessible.Graphic
+            Accessible.name: qsTr("Photo %1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
+            Accessible.ignored: !visible
+        }
+
+        Loader {
+            anchors.fill: parent
+            anchors.margins: 56
+            active: viewer.opened && viewer.isVideo
+            sourceComponent: Item {
+                Accessible.role: Accessible.Graphic
+                Accessible.name: qsTr("Video %1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
+
+                readonly property bool isGif: viewer.current.path.toLowerCase().endsWith(".gif")
+
+                AnimatedImage {
+                    anchors.fill: parent
+                    visible: parent.isGif
+                    source: parent.isGif ? LocalFile.url(viewer.current.path) : ""
+                    fillMode: Image.PreserveAspectFit
+                }
+                VideoOutput {
+                    id: output
+
+                    anchors.fill: parent
+                    visible: !parent.isGif
+                }
+                MediaPlayer {
+                    source: parent.isGif ? "" : LocalFile.url(viewer.current.path)
+                    videoOutput: output
+                    audioOutput: AudioOutput {}
+                    Component.onCompleted: if (!parent.isGif) play()
+                }
+            }
+        }
+
+        IconButton {
+            anchors {
+                left: parent.left
+                leftMargin: 12
+                verticalCenter: parent.verticalCenter
+            }
+            side: 40
+            symbol: "chevron.left"
+            tint: "white"
+            visible: viewer.index > 0
+            Accessible.name: qsTr("Previous")
+            onClicked: viewer.step(-1)
+        }
+        IconButton {
+            anchors {
+                right: parent.right
+                rightMargin: 12
+                verticalCenter: parent.verticalCenter
+            }
+            side: 40
+            symbol: "chevron.right"
+            tint: "white"
+            visible: viewer.index < viewer.items.length - 1
+            Accessible.name: qsTr("Next")
+            onClicked: viewer.step(1)
+        }
+
+        Row {
+            anchors {
+                top: parent.top
+                right: parent.right
+                margins: 10
+            }
+            spacing: 4
+
+            IconButton {
+                side: 36
+                symbol: "arrow.down.to.line"
+                tint: "white"
+                Accessible.name: qsTr("Save")
+                onClicked: {
+                    const item = viewer.current;
+                    const name = item.fileName !== "" ? item.fileName : item.path.split("/").pop();
+                    viewer.close();
+                    FilePanel.saveCopy(item.path, name);
+                }
+            }
+            IconButton {
+                side: 36
+                symbol: "arrow.up.right"
+                tint: "white"
+                Accessible.name: qsTr("Open")
+                onClicked: Qt.openUrlExternally(LocalFile.url(viewer.current.path))
+            }
+            IconButton {
+                side: 36
+                symbol: "xmark"
+                tint: "white"
+                Accessible.name: qsTr("Close")
+                onClicked: viewer.close()
+            }
+        }
+
+        Text {
+            anchors {
+                bottom: parent.bottom
+                horizontalCenter: parent.horizontalCenter
+                margins: 16
+            }
+            text: qsTr("%1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
+            color: "white"
+            opacity: 0.7
+            font.pixelSize: 12
+        }
+    }
+}

@@ -1,0 +1,75 @@
+import QtQuick
+import Vost.App
+
+// The message a reply answers: a bar, its sender and a line of it. A click goes
+// to it when it is loaded.
+Item {
+    id: quote
+
+    // Whether the message is on screen: off screen, nothing of it is exposed to
+    // assistive technology.
+    property bool shown: true
+
+    required property var details
+    property bool outgoing: false
+
+    signal activated(string messageID)
+
+    readonly property string sender: details.replyToIsOutgoing ? qsTr("You") : details.replyToSender
+    readonly property color tint: outgoing ? Appearance.accentText : Appearance.accent
+
+    implicitWidth: Math.min(280, Math.max(senderText.implicitWidth, lineText.implicitWidth) + 14)
+    implicitHeight: 38
+    Accessible.role: Accessible.Link
+    Accessible.ignored: !quote.shown
+    Accessible.name: qsTr("Reply to %1: %2").arg(sender !== "" ? sender : qsTr("a message")).arg(lineText.text)
+    Accessible.onPressAction: quote.activated(details.replyToMessageID)
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 6
+        color: Qt.rgba(quote.tint.r, quote.tint.g, quote.tint.b, 0.12)
+    }
+    Rectangle {
+        width: 3
+        height: parent.height
+        radius: 1.5
+        color: quote.tint
+    }
+
+    Column {
+        anchors {
+            left: parent.left
+            leftMargin: 10
+            right: parent.right
+            rightMargin: 4
+            verticalCenter: parent.verticalCenter
+        }
+
+        Text {
+            id: senderText
+
+            width: parent.width
+            text: quote.sender !== "" ? quote.sender : qsTr("Reply")
+            elide: Text.ElideRight
+            color: quote.tint
+            font.pixelSize: 12
+            font.weight: Font.DemiBold
+        }
+        Text {
+            id: lineText
+
+            width: parent.width
+            text: MessageText.displayText(quote.details.replyToText)
+            textFormat: Text.PlainText
+            maximumLineCount: 1
+            elide: Text.ElideRight
+            color: quote.outgoing ? Qt.rgba(1, 1, 1, 0.85) : Appearance.secondaryText
+            font.pixelSize: 12
+        }
+    }
+
+    TapHandler {
+        onTapped: quote.activated(quote.details.replyToMessageID)
+    }
+}

@@ -1,0 +1,69 @@
+import QtQuick
+import Vost.Render
+
+// One sticker, wherever stickers show: a WebP as an image, an animated (.tgs)
+// sticker by the native player, a video (WebM) sticker in the isolated web page,
+// which starts the web engine only while such a sticker is shown. Until the file
+// is there, or when it cannot be shown, its emoji stands in.
+Item {
+    id: view
+
+    // The sticker file; "" while it downloads.
+    property string path
+    // "webp", "animated" or "video".
+    property string format: "webp"
+    property string emoji
+    // Animated and video stickers play while this is set and they are shown.
+    property bool playing: true
+    // Whether it is exposed to assistive technology (a list hides what is off screen).
+    property bool shown: true
+
+    readonly property bool ready: (format === "webp" && image.status === Image.Ready)
+                                  || (format === "animated" && player.status === StickerPlayer.Ready)
+                                  || (format === "video" && video.status === Loader.Ready)
+
+    implicitWidth: 160
+    implicitHeight: 160
+    Accessible.role: Accessible.Graphic
+    Accessible.name: qsTr("Sticker %1").arg(emoji)
+    Accessible.ignored: !visible || !shown
+
+    Image {
+        id: image
+
+        anchors.fill: parent
+        visible: view.format === "webp"
+        source: visible ? LocalFile.url(view.path) : ""
+        sourceSize: Qt.size(view.width * 2, view.height * 2)
+        fillMode: Image.PreserveAspectFit
+        asynchronous: true
+    }
+
+    StickerPlayer {
+        id: player
+
+        anchors.fill: parent
+        visible: view.format === "animated"
+        path: visible ? view.path : ""
+        playing: view.playing
+    }
+
+    Loader {
+        id: video
+
+        anchors.fill: parent
+        active: view.format === "video" && view.path !== "" && view.visible && view.playing
+        sourceComponent: AnimatedStickerView {
+            path: view.path
+            format: StickerPageController.Video
+        }
+    }
+
+    Text {
+        anchors.centerIn: parent
+        visible: !view.ready
+        text: view.emoji
+        font.pixelSize: Math.max(12, Math.min(view.width, view.height) * 0.45)
+        font.family: "Noto Color Emoji"
+    }
+}
