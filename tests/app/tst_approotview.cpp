@@ -113,8 +113,18 @@ private Q_SLOTS:
         center.post(u"vostPopoverVisibilityDidChange"_s, u"yes"_s); // not a boolean: hidden
         QVERIFY(!m_root->isPopoverVisible());
         QVERIFY(m_requests.isEmpty());
+        // Before sign-in there is nothing to refresh.
         center.post(u"vostPopoverVisibilityDidChange"_s, true);
         QVERIFY(m_root->isPopoverVisible());
+        QVERIFY(!m_requests.contains(u"loadChats"_s));
+        center.post(u"vostPopoverVisibilityDidChange"_s, false);
+        m_session->handleResponse(
+            R"({"@type":"updateAuthorizationState","authorization_state":{"@type":"authorizationStateReady"}})"_ba);
+        for (const char *list : {"chatListMain", "chatListArchive"})
+            m_session->handleResponse(u"{\"@type\":\"error\",\"code\":404,\"@extra\":{\"purpose\":\"load_chat_list\","
+                                      u"\"list\":\"%1\"}}"_s.arg(QLatin1StringView(list)));
+        m_requests.clear();
+        center.post(u"vostPopoverVisibilityDidChange"_s, true);
         QVERIFY(m_requests.contains(u"loadChats"_s));
 
         center.post(u"openTelegramChat"_s, 1); // not text: ignored

@@ -310,6 +310,59 @@ private Q_SLOTS:
         model.removePendingAttachment(first.id);
         QCOMPARE(model.pendingAttachments(), (QList<PendingAttachment>{second}));
     }
+
+    void olderPagesAreAskedForOncePerOldestMessage()
+    {
+        // TDLib may answer the first message of a chat again instead of nothing:
+        // the start is then reached, and the transcript stops asking.
+        ChatViewModel model(nullptr);
+        QStringList asked;
+        model.loadOlderHandler = [&](const QString &chat, const QString &oldest) {
+            asked.append(chat + u':' + oldest);
+            model.setHistoryState(chat, true, false);
+        };
+        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
+        model.setMessages({makeMessage(u"5"_s), makeMessage(u"6"_s)}, u"1"_s);
+        QSignalSpy changes(&model, &ChatViewModel::historyStateChanged);
+        model.loadOlderMessages();
+        model.loadOlderMessages(); // still on its way
+        QVERIFY(model.loadingOlderMessages());
+        QVERIFY(!model.historyStartReached());
+        model.setHistoryState(u"1"_s, false, false);
+        model.setMessages({makeMessage(u"3"_s), makeMessage(u"5"_s), makeMessage(u"6"_s)}, u"1"_s);
+        QVERIFY(!model.historyStartReached());
+        model.loadOlderMessages();
+        model.setHistoryState(u"1"_s, false, false); // nothing older came
+        QVERIFY(model.historyStartReached());
+        model.loadOlderMessages();
+        QCOMPARE(asked, (QStringList{u"1:5"_s, u"1:3"_s}));
+        QVERIFY(changes.size() >= 4);
+        // The session's word that the start was reached stops it as well.
+        model.replaceChats({makeChat(u"1"_s, u"One"_s), makeChat(u"2"_s, u"Two"_s)});
+        model.setMessages({makeMessage(u"9"_s)}, u"2"_s);
+        model.setSelectedChatID(u"2"_s);
+        model.setHistoryState(u"2"_s, false, true);
+        QVERIFY(model.historyStartReached());
+        model.loadOlderMessages();
+        QCOMPARE(asked.size(), 2);
+    }
+
+    void upEditsTheNewestOwnTextMessage()
+    {
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
+        QVERIFY(!model.editLastOwnMessage());
+        Message own = makeMessage(u"1"_s);
+        own.isOutgoing = true;
+        Message ownPhoto = makeMessage(u"2"_s);
+        ownPhoto.isOutgoing = true;
+        ownPhoto.mediaKind = MessageMediaKind::Photo;
+        Message theirs = makeMessage(u"3"_s);
+        model.setMessages({own, ownPhoto, theirs}, u"1"_s);
+        QVERIFY(model.editLastOwnMessage());
+        QCOMPARE(model.editingMessage()->id, u"1"_s);
+        QCOMPARE(model.composerText(), u"text 1"_s);
+    }
 };
 
 QTEST_GUILESS_MAIN(ChatViewModelTest)

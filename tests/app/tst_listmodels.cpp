@@ -7,6 +7,7 @@
 #include "MessageListModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -186,27 +187,30 @@ private Q_SLOTS:
 
     void transcriptChangesByRows()
     {
+        // Newest first: the view lays the transcript out from the bottom up.
         ChatViewModel viewModel(nullptr);
         MessageListModel model(&viewModel);
         QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         viewModel.replaceChats({makeChat(1), makeChat(2)});
         viewModel.setMessages({makeMessage(10, u"Ann"_s), makeMessage(11, u"Ann"_s, true)}, u"1"_s);
         QCOMPARE(model.chatID(), u"1"_s);
-        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"10"_s, u"11"_s}));
-        QVERIFY(model.index(1).data(MessageListModel::ShowsUnreadDividerRole).toBool());
-        QVERIFY(model.index(0).data(MessageListModel::IsFirstOfGroupRole).toBool());
-        QVERIFY(!model.index(1).data(MessageListModel::IsFirstOfGroupRole).toBool());
+        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"11"_s, u"10"_s}));
+        QVERIFY(model.index(0).data(MessageListModel::ShowsUnreadDividerRole).toBool());
+        QVERIFY(model.index(1).data(MessageListModel::IsFirstOfGroupRole).toBool());
+        QVERIFY(!model.index(0).data(MessageListModel::IsFirstOfGroupRole).toBool());
 
         QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
         QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
         QSignalSpy removes(&model, &QAbstractItemModel::rowsRemoved);
-        // Older history above, a new message from someone else below.
+        // A new message from someone else arrives at row 0, older history at the end.
         viewModel.setMessages({makeMessage(8, u"Bo"_s), makeMessage(9, u"Bo"_s), makeMessage(10, u"Ann"_s),
                                makeMessage(11, u"Ann"_s, true), makeMessage(12, u"Bo"_s, true)},
                               u"1"_s);
         QCOMPARE(inserts.size(), 2);
-        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"8"_s, u"9"_s, u"10"_s, u"11"_s, u"12"_s}));
-        QVERIFY(model.index(4).data(MessageListModel::IsFirstOfGroupRole).toBool());
+        QCOMPARE(inserts.first().at(1).toInt(), 0);
+        QCOMPARE(inserts.last().at(1).toInt(), 3);
+        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"12"_s, u"11"_s, u"10"_s, u"9"_s, u"8"_s}));
+        QVERIFY(model.index(0).data(MessageListModel::IsFirstOfGroupRole).toBool());
 
         // Ann's first message is deleted: her second now starts her group.
         Message edited = makeMessage(11, u"Ann"_s, true);
@@ -215,9 +219,9 @@ private Q_SLOTS:
         viewModel.setMessages({makeMessage(8, u"Bo"_s), makeMessage(9, u"Bo"_s), edited, makeMessage(12, u"Bo"_s)},
                               u"1"_s);
         QCOMPARE(removes.size(), 1);
-        QVERIFY(model.index(2).data(MessageListModel::IsFirstOfGroupRole).toBool());
-        QCOMPARE(model.index(2).data(MessageListModel::TextRole).toString(), u"edited"_s);
-        QCOMPARE(model.index(2).data(MessageListModel::ReactionsRole).toList().size(), 1);
+        QVERIFY(model.index(1).data(MessageListModel::IsFirstOfGroupRole).toBool());
+        QCOMPARE(model.index(1).data(MessageListModel::TextRole).toString(), u"edited"_s);
+        QCOMPARE(model.index(1).data(MessageListModel::ReactionsRole).toList().size(), 1);
         QCOMPARE(resets.size(), 0);
 
         // Another chat is another transcript.
@@ -226,6 +230,33 @@ private Q_SLOTS:
         QCOMPARE(model.count(), 0);
         viewModel.setSelectedChatID(std::nullopt);
         QCOMPARE(model.chatID(), QString());
+    }
+
+    void transcriptShowsCaptionsNotPreviewTexts()
+    {
+        // A photo's bubble shows its caption, or no text line at all.
+        ChatViewModel viewModel(nullptr);
+        MessageListModel model(&viewModel);
+        viewModel.replaceChats({makeChat(1)});
+        Message photo = makeMessage(20, u"Ann"_s);
+        photo.mediaKind = MessageMediaKind::Photo;
+        photo.text = u"📷 Photo"_s;
+        Message captioned = makeMessage(21, u"Ann"_s);
+        captioned.mediaKind = MessageMediaKind::Photo;
+        captioned.text = u"Lake"_s;
+        const auto details = [](const char *json) {
+            return messageDetails(QJsonDocument::fromJson(json).object());
+        };
+        viewModel.setMessageDetails(
+            {details(R"({"id":20,"date":1700000000,"content":{"@type":"messagePhoto","caption":{"text":""}}})"),
+             details(R"({"id":21,"content":{"@type":"messagePhoto","caption":{"text":"Lake"}}})")},
+            u"1"_s);
+        viewModel.setMessages({photo, captioned}, u"1"_s);
+        QCOMPARE(model.index(1).data(MessageListModel::BodyTextRole).toString(), QString());
+        QCOMPARE(model.index(1).data(MessageListModel::DateRole).toDateTime(),
+                 QDateTime::fromSecsSinceEpoch(1700000000));
+        QCOMPARE(model.index(0).data(MessageListModel::BodyTextRole).toString(), u"Lake"_s);
+        QVERIFY(!model.index(0).data(MessageListModel::DateRole).toDateTime().isValid());
     }
 
     void stickersAndContactsFollowTheViewModel()

@@ -1,0 +1,230 @@
+// What the composer sends and offers: files sorted into photos and documents or
+// refused, the emoji catalog and its search, the "Forward to" chooser's filter,
+// and sizes and durations as shown.
+
+#include "Attachments.h"
+#include "ChatFilterModel.h"
+#include "ChatListModel.h"
+#include "ChatViewModel.h"
+#include "EmojiCatalog.h"
+#include "EmojiModels.h"
+
+#include "session/UserDefaults.h"
+
+#include <QAbstractItemModelTester>
+#include <QImage>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString writeFile(const QTemporaryDir &folder, const QString &name, const QByteArray &data)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(data);
+    return file.fileName();
+}
+
+QString writeImage(const QTemporaryDir &folder, const QString &name, const char *format)
+{
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QString path = folder.filePath(name);
+    image.save(path, format);
+    return path;
+}
+
+Chat makeChat(const QString &id, const QString &title)
+{
+    Chat chat;
+    chat.id = id;
+    chat.title = title;
+    return chat;
+}
+
+QStringList column(const QAbstractItemModel &model, int role)
+{
+    QStringList values;
+    for (int row = 0; row < model.rowCount(); ++row)
+        values.append(model.index(row, 0).data(role).toString());
+    return values;
+}
+
+const QByteArray emojiTest = R"(# group: Smileys & Emotion
+# subgroup: face-smiling
+1F600                                                  ; fully-qualified     # 😀 E1.0 grinning face
+1F642                                                  ; fully-qualified     # 🙂 E1.0 slightly smiling face
+# group: People & Body
+1F44B                                                  ; fully-qualified     # 👋 E0.6 waving hand
+1F44B 1F3FB                                            ; fully-qualified     # 👋🏻 E1.0 waving hand: light skin tone
+# group: Component
+1F3FB                                                  ; component           # 🏻 E1.0 light skin tone
+# group: Animals & Nature
+1F63A                                                  ; fully-qualified     # 😺 E0.6 grinning cat
+263A                                                   ; unqualified         # ☺ E0.6 smiling face
+263A FE0F                                              ; fully-qualified     # ☺️ E0.6 smiling face
+)";
+
+} // namespace
+
+class ComposerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void picturesGoAsPhotosOtherFilesAsDocuments()
+    {
+        QTemporaryDir folder;
+        const QString png = writeImage(folder, u"red.png"_s, "PNG");
+        const QString jpeg = writeImage(folder, u"photo.JPG"_s, "JPEG");
+        const QString gif = writeImage(folder, u"moving.gif"_s, "GIF");
+        // The content decides, not the name.
+        const QString disguised = writeImage(folder, u"scan.dat"_s, "PNG");
+        const QString text = writeFile(folder, u"notes.txt"_s, "hello");
+        const QString svg = writeFile(folder, u"logo.svg"_s, "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+        QCOMPARE(Attachments::kindFor(png), PendingAttachmentKind::Photo);
+        QCOMPARE(Attachments::kindFor(jpeg), PendingAttachmentKind::Photo);
+        QCOMPARE(Attachments::kindFor(disguised), PendingAttachmentKind::Photo);
+        QCOMPARE(Attachments::kindFor(gif), PendingAttachmentKind::Document);
+        QCOMPARE(Attachments::kindFor(text), PendingAttachmentKind::Document);
+        QCOMPARE(Attachments::kindFor(svg), PendingAttachmentKind::Document);
+        // A picture over Telegram's photo limit goes as a document.
+        QFile large(png);
+        QVERIFY(large.open(QIODevice::Append));
+        QVERIFY(large.resize(Attachments::maximumPhotoSize + 1));
+        large.close();
+        QCOMPARE(Attachments::kindFor(png), PendingAttachmentKind::Document);
+    }
+
+    void filesThatCannotBeSentAreRefused()
+    {
+        QTemporaryDir folder;
+        QCOMPARE(Attachments::refusal(folder.filePath(u"missing"_s)), Attachments::Refusal::Unreadable);
+        QCOMPARE(Attachments::refusal(folder.path()), Attachments::Refusal::Folder);
+        QCOMPARE(Attachments::refusal(writeFile(folder, u"empty"_s, {})), Attachments::Refusal::Empty);
+        QCOMPARE(Attachments::refusal(writeFile(folder, u"fine"_s, "x")), std::nullopt);
+        QCOMPARE(Attachments::localPath(u"file:///tmp/a%20b.png"_s), u"/tmp/a b.png"_s);
+        QCOMPARE(Attachments::localPath(u"/tmp/c.png"_s), u"/tmp/c.png"_s);
+        QCOMPARE(Attachments::localPath(u"https://example.org/d.png"_s), QString());
+        QCOMPARE(Attachments::localPath(u"relative.png"_s), QString());
+        const QString locked = writeFile(folder, u"locked"_s, "secret");
+        QFile::setPermissions(locked, {});
+        if (QFileInfo(locked).isReadable())
+            QSKIP("Running as a user who reads everything");
+        QCOMPARE(Attachments::refusal(locked), Attachments::Refusal::Unreadable);
+    }
+
+    void theQueueSortsRefusesAndSendsPicturesAsFilesOnRequest()
+    {
+        QTemporaryDir folder;
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
+        model.setCanSendMessages(true);
+        QList<PendingAttachment> sent;
+        model.liveAttachmentsHandler = [&](const QList<PendingAttachment> &attachments, const QString &,
+                                           const QString &) { sent = attachments; };
+        const QString png = writeImage(folder, u"red.png"_s, "PNG");
+        const QString pdf = writeFile(folder, u"a.pdf"_s, "%PDF-1.4");
+        model.queueFiles({QUrl::fromLocalFile(png).toString(), pdf, folder.filePath(u"gone.txt"_s),
+                          u"https://example.org/x.png"_s});
+        QCOMPARE(model.pendingAttachments().size(), 2);
+        QCOMPARE(model.pendingAttachments().at(0).kind, PendingAttachmentKind::Photo);
+        QCOMPARE(model.pendingAttachments().at(1).kind, PendingAttachmentKind::Document);
+        QCOMPARE(model.refusedFiles().size(), 2);
+        QCOMPARE(model.refusedFiles().first().toMap().value(u"name"_s), u"gone.txt"_s);
+        QVERIFY(!model.picturesSentAsFiles());
+        model.setPicturesSentAsFiles(true);
+        QCOMPARE(model.pendingAttachments().at(0).kind, PendingAttachmentKind::Document);
+        QVERIFY(model.picturesSentAsFiles());
+        // A picture queued now follows the choice.
+        model.queueFiles({writeImage(folder, u"blue.png"_s, "PNG")});
+        QCOMPARE(model.pendingAttachments().at(2).kind, PendingAttachmentKind::Document);
+        QVERIFY(model.refusedFiles().isEmpty());
+        model.setPicturesSentAsFiles(false);
+        QCOMPARE(model.pendingAttachments().at(0).kind, PendingAttachmentKind::Photo);
+        QCOMPARE(model.pendingAttachments().at(1).kind, PendingAttachmentKind::Document);
+        model.queueFiles({folder.filePath(u"gone"_s)});
+        model.sendMessage();
+        QCOMPARE(sent.size(), 3);
+        QVERIFY(model.pendingAttachments().isEmpty());
+        QVERIFY(model.refusedFiles().isEmpty());
+    }
+
+    void theCatalogKeepsWhatAPersonPicks()
+    {
+        const QList<EmojiEntry> entries = EmojiCatalog::parse(emojiTest);
+        QStringList emoji;
+        for (const EmojiEntry &entry : entries)
+            emoji.append(entry.emoji);
+        // Skin-tone variants, components and unqualified forms are left out.
+        QCOMPARE(emoji, (QStringList{u"😀"_s, u"🙂"_s, u"👋"_s, u"😺"_s, u"☺️"_s}));
+        QCOMPARE(entries.at(2).group, EmojiGroup::PeopleAndBody);
+        QCOMPARE(entries.at(3).name, u"grinning cat"_s);
+        QCOMPARE(entries.at(3).characterName, u"smiling cat face with open mouth"_s);
+        QCOMPARE(entries.at(4).characterName, u"white smiling face"_s);
+        // Every word counts, from the short name or ICU's name, in any case.
+        QVERIFY(EmojiCatalog::matches(entries.at(3), u"Cat grinning"_s));
+        QVERIFY(EmojiCatalog::matches(entries.at(3), u"open mouth"_s));
+        QVERIFY(!EmojiCatalog::matches(entries.at(3), u"cat sad"_s));
+        QVERIFY(EmojiCatalog::matches(entries.at(3), u"😺"_s));
+        QVERIFY(EmojiCatalog::matches(entries.at(0), u"  "_s));
+        // The compiled-in catalog is Unicode's whole set.
+        QVERIFY(EmojiCatalog::all().size() > 1500);
+    }
+
+    void theEmojiListPutsRecentOnesFirstAndSearchesOnce()
+    {
+        UserDefaults::setValue(QString::fromLatin1(EmojiListModel::recentKey), QStringList());
+        EmojiListModel all;
+        EmojiSearchModel found;
+        found.setSourceModel(&all);
+        QAbstractItemModelTester allTester(&all, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester foundTester(&found, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const int total = all.rowCount();
+        QCOMPARE(found.firstRowOf(EmojiGroup::Recent), -1);
+        all.remember(u"😺"_s);
+        all.remember(u"🙂"_s);
+        all.remember(u"😺"_s);
+        QCOMPARE(all.rowCount(), total + 2);
+        QCOMPARE(column(all, EmojiListModel::EmojiRole).mid(0, 2), (QStringList{u"😺"_s, u"🙂"_s}));
+        QCOMPARE(found.firstRowOf(EmojiGroup::SmileysAndEmotion), 2);
+        found.setSearchText(u"grinning cat"_s);
+        QCOMPARE(column(found, EmojiListModel::EmojiRole), (QStringList{u"😺"_s, u"😸"_s}));
+        found.setSearchText({});
+        QCOMPARE(found.rowCount(), total + 2);
+        // The recent ones persist, newest first, and an unknown one is dropped.
+        UserDefaults::setValue(QString::fromLatin1(EmojiListModel::recentKey),
+                               QStringList{u"🙂"_s, u"not an emoji"_s, u"😺"_s});
+        EmojiListModel again;
+        QCOMPARE(column(again, EmojiListModel::EmojiRole).mid(0, 3), (QStringList{u"🙂"_s, u"😺"_s, u"😀"_s}));
+    }
+
+    void theForwardChooserFiltersEveryChatByTitle()
+    {
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"Liam Chen"_s), makeChat(u"2"_s, u"Lab"_s), makeChat(u"3"_s, u"Émile"_s)});
+        // The sidebar's search does not narrow the chooser.
+        model.setSearchText(u"Lab"_s);
+        ChatListModel chats(&model, ChatListModel::Rows::All);
+        ChatFilterModel filtered;
+        filtered.setSourceModel(&chats);
+        QAbstractItemModelTester tester(&filtered, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(filtered.rowCount(), 3);
+        filtered.setSearchText(u"CHEN"_s);
+        QCOMPARE(column(filtered, ChatListModel::TitleRole), (QStringList{u"Liam Chen"_s}));
+        filtered.setSearchText(u"ÉMILE"_s);
+        QCOMPARE(column(filtered, ChatListModel::TitleRole), (QStringList{u"Émile"_s}));
+        model.replaceChats({makeChat(u"3"_s, u"Émile"_s), makeChat(u"4"_s, u"Emilia"_s)});
+        QCOMPARE(filtered.rowCount(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(ComposerTest)
+#include "tst_composer.moc"

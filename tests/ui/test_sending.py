@@ -1,0 +1,164 @@
+#!/usr/bin/python3
+"""Sending anything: files through the desktop's dialog and the clipboard, stickers,
+emoji, and the message menu's reactions, forwarding and copying."""
+
+import os
+import subprocess
+import time
+
+from vostui import VostTestCase, dishonest_nodes, main, wait_until
+
+
+def make_picture(path, colour, size="64x48"):
+    subprocess.run(["convert", "-size", size, f"xc:{colour}", path], check=True)
+
+
+class Files(VostTestCase):
+    def make_files(self):
+        folder = os.path.join(self.desktop.env["HOME"], "Pictures")
+        os.makedirs(folder, exist_ok=True)
+        for name, colour in (("red.png", "red"), ("green.jpg", "green"), ("blue.png", "blue")):
+            make_picture(os.path.join(folder, name), colour)
+        with open(os.path.join(folder, "itinerary.pdf"), "wb") as pdf:
+            pdf.write(b"%PDF-1.4\n% a small document\n" + b"0" * 3000)
+        with open(os.path.join(folder, "empty.txt"), "wb"):
+            pass
+        return folder
+
+    def test_attached_photos_and_a_document_arrive_as_an_album_and_a_file(self):
+        self.make_files()
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        vost.find("push button", "Attach").press()
+        # The popover steps aside for the desktop's file dialog.
+        wait_until(lambda: not vost.popover_shown(), what="the popover out of the dialog's way")
+        dialog = vost.find("dialog", "Attach files", timeout=15)
+        name = vost.find("text", within=dialog)
+        vost.fill(name, '"red.png" "green.jpg" "blue.png" "itinerary.pdf" "empty.txt"')
+        vost.key("Return")
+        wait_until(vost.popover_shown, what="the popover back after the dialog")
+        strip = vost.find("panel", "Files to send")
+        for item in ("Photo red.png", "Photo green.jpg", "Photo blue.png"):
+            vost.find("list item", item, within=strip)
+        vost.find("list item", "Document itinerary.pdf", contains=True, within=strip)
+        vost.find("alert", "empty.txt is empty and can’t be sent.")
+        vost.find("check box", "Send as file", within=strip)
+        self.assertEqual(dishonest_nodes(strip), [])
+        vost.find("push button", "Remove green.jpg", within=strip).press()
+        vost.absent("list item", "Photo green.jpg")
+        vost.fill(vost.find("text", "Message"), "Colours")
+        vost.find("push button", "Send").press()
+        vost.absent("panel", "Files to send")
+        # Two photos as an album with the caption, the document on its own.
+        wait_until(lambda: len([m for m in vost.messages() if m.name.startswith("You: Colours")]) == 1, timeout=15,
+                   what="the captioned photo")
+        vost.find("list item", "You: 📄 itinerary.pdf", contains=True, timeout=15)
+        photos = [m for m in vost.messages() if m.name.startswith("You: 📷 Photo") or m.name.startswith("You: Colours")]
+        self.assertEqual(len(photos), 2, [m.name for m in vost.messages()])
+
+    def test_a_pasted_picture_waits_to_be_sent(self):
+        folder = self.make_files()
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        subprocess.run(["xclip", "-selection", "clipboard", "-t", "image/png", "-i", os.path.join(folder, "red.png")],
+                       env=self.desktop.env, check=True, timeout=10)
+        vost.focus(vost.find("text", "Message"))
+        vost.key("ctrl+v")
+        vost.find("list item", "Photo Pasted image", contains=True)
+        self.assertEqual(vost.find("text", "Message").text(), "")
+
+
+class Pickers(VostTestCase):
+    def test_stickers_load_search_and_send(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        vost.find("push button", "Stickers").press()
+        picker = vost.find("dialog", "Sticker picker")
+        vost.find("page tab", "Recent", within=picker)
+        vost.find("push button", "Sticker 😄", within=picker)
+        vost.find("page tab", "Installed", within=picker).press()
+        vost.find("push button", "Sticker 🌧", within=picker)
+        vost.fill(vost.find("text", "Search stickers"), "cat")
+        vost.find("push button", "Sticker 🙀", within=picker)
+        vost.absent("push button", "Sticker 🌧", within=picker)
+        vost.fill(vost.find("text", "Search stickers"), "🌈")
+        vost.find("push button", "Sticker 🌈", within=picker)
+        vost.absent("push button", "Sticker 🙀", within=picker)
+        self.assertEqual(dishonest_nodes(picker), [])
+        vost.find("push button", "Sticker 🌈", within=picker).press()
+        vost.absent("dialog", "Sticker picker")
+        vost.find("list item", "You: 🌈 Sticker", contains=True, timeout=15)
+
+    def test_an_emoji_found_by_name_goes_in_at_the_cursor(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        composer = vost.find("text", "Message")
+        vost.fill(composer, "Look ")
+        vost.find("push button", "Emoji").press()
+        picker = vost.find("dialog", "Emoji picker")
+        vost.fill(vost.find("text", "Search emoji", within=picker), "grinning cat")
+        vost.find("push button", "😺 grinning cat", within=picker).press()
+        wait_until(lambda: composer.text() == "Look 😺", what="the emoji in the composer")
+        self.assertEqual(dishonest_nodes(picker), [])
+        # Esc closes the picker before anything else: the text stays.
+        vost.key("Escape")
+        vost.absent("dialog", "Emoji picker")
+        self.assertEqual(composer.text(), "Look 😺")
+        self.assertTrue(vost.popover_shown())
+        # The emoji is recent now: first when the picker opens again.
+        vost.find("push button", "Emoji").press()
+        picker = vost.find("dialog", "Emoji picker")
+        first = vost.all("push button", within=vost.find("list", "Emoji", within=picker))[0]
+        self.assertEqual(first.name, "😺 grinning cat")
+
+
+class MessageMenu(VostTestCase):
+    def open_menu(self, vost, message):
+        vost.find("list item", message, contains=True).press()
+        return vost.find("popup menu", "Message actions")
+
+    def test_reacting_from_the_palette_and_taking_it_back(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        question = "Emma Wilson: Are we still on for tonight?"
+        menu = self.open_menu(vost, question)
+        palette = [button.name for button in vost.all("push button", within=menu)]
+        self.assertEqual(palette, ["😁", "👍", "❤️", "👎", "🔥", "🥰", "👏"])
+        self.assertTrue(vost.find("push button", "❤️", within=menu).has_state("checked"))
+        vost.find("push button", "🔥", within=menu).press()
+        wait_until(lambda: "🔥 1, yours" in vost.find("list item", question, contains=True).name, timeout=10,
+                   what="the fire reaction on the message")
+        menu = self.open_menu(vost, question)
+        self.assertTrue(vost.find("push button", "🔥", within=menu).has_state("checked"))
+        vost.find("push button", "🔥", within=menu).press()
+        wait_until(lambda: "🔥" not in vost.find("list item", question, contains=True).name, timeout=10,
+                   what="the fire reaction taken back")
+
+    def test_forwarding_opens_the_chat_it_went_to(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        self.open_menu(vost, "You: Of course! See you at 7")
+        vost.find("menu item", "Forward").press()
+        dialog = vost.find("dialog", "Forward to")
+        vost.fill(vost.find("text", "Search chats", within=dialog), "Liam")
+        rows = wait_until(lambda: [r for r in vost.all("list item", within=dialog)] or None, what="Liam's chat")
+        self.assertEqual([r.name.split(",")[0] for r in rows], ["Liam Chen"])
+        self.assertEqual(dishonest_nodes(dialog), [])
+        rows[0].press()
+        vost.find("panel", "Conversation with Liam Chen")
+        vost.find("list item", "You: Of course! See you at 7 🍕", contains=True, timeout=10)
+
+    def test_copy_puts_the_text_on_the_clipboard(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        self.open_menu(vost, "Emma Wilson: Are we still on for tonight?")
+        vost.find("menu item", "Copy").press()
+
+        def clipboard():
+            return subprocess.run(["xclip", "-o", "-selection", "clipboard"], env=self.desktop.env,
+                                  capture_output=True, text=True, timeout=5).stdout
+        wait_until(lambda: clipboard() == "Are we still on for tonight? :)", what="the text on the clipboard")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,111 @@
+#!/usr/bin/python3
+"""The tray item, the popover and the program's life: with and without a tray."""
+
+import os
+import re
+import shutil
+import subprocess
+
+from vostui import VOST, VostTestCase, main, wait_until
+
+UNREAD = re.compile(r"Vost, (\d+) unread messages")
+
+
+def unread_total(vost):
+    return int(UNREAD.fullmatch(vost.tooltip()).group(1))
+
+
+class Tray(VostTestCase):
+    def test_the_badge_counts_unread_messages_and_reading_a_chat_lowers_it(self):
+        vost = self.open_signed_in()
+        total = wait_until(lambda: UNREAD.fullmatch(vost.tooltip()), timeout=20, what="an unread total").group(1)
+        self.assertGreater(int(total), 3)
+        family = vost.find("list item", "Family, pinned, 3 unread", contains=True)
+        family.press()
+        vost.find("panel", "Conversation with Family")
+        wait_until(lambda: unread_total(vost) == int(total) - 3, timeout=15, what="the total less Family's 3")
+        vost.find("list item", "Family, pinned, Grandma loved the photos! ❤️")
+
+    def test_clicks_escape_and_the_keyboard_open_and_close_the_popover(self):
+        vost = self.launch()
+        wait_until(vost.tray_icon_geometry, what="the tray item")
+        self.assertFalse(vost.popover_shown())
+        vost.click_tray()
+        wait_until(vost.popover_shown, what="the popover")
+        vost.wait_for_chats()
+        vost.key("Escape")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by Esc")
+        vost.click_tray()
+        wait_until(vost.popover_shown, what="the popover again")
+        vost.click_tray()
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by a second click")
+        vost.click_tray()
+        wait_until(vost.popover_shown, what="the popover a third time")
+        vost.key("ctrl+q")
+        self.assertEqual(vost.process.wait(10), 0)
+
+    def test_the_tray_menu_opens_the_popover_and_quits(self):
+        # The menu is a popup: screen readers follow it by its focus, not in the
+        # tree, so it is driven by keyboard here.
+        vost = self.launch()
+        vost.open_popover()
+        vost.click_tray(button=3)
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the right click")
+        vost.key("Down", "Return")
+        wait_until(vost.popover_shown, what="the popover opened by Open Vost")
+        vost.click_tray(button=3)
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the right click")
+        vost.key("Up", "Return")
+        self.assertEqual(vost.process.wait(10), 0)
+
+    def test_a_second_launch_shows_the_running_one(self):
+        vost = self.launch()
+        wait_until(vost.tray_icon_geometry, what="the tray item")
+        self.assertFalse(vost.popover_shown())
+        second = subprocess.run([VOST, "--demo"], env=vost.env, timeout=15, capture_output=True)
+        self.assertEqual(second.returncode, 0, second.stderr)
+        wait_until(vost.popover_shown, what="the first one's popover")
+        self.assertTrue(vost.running())
+
+
+class WithoutTray(VostTestCase):
+    tray = False
+
+    def test_a_remembered_account_lists_its_chats_in_a_window(self):
+        vost = self.launch()
+        wait_until(vost.popover_shown, what="the window")
+        rows = vost.wait_for_chats()
+        self.assertTrue(rows[0].name.startswith("Vost Helper"))
+        # A tray that appears takes the client in, badge included.
+        self.desktop.start_tray()
+        wait_until(lambda: not vost.popover_shown(), timeout=10, what="the window gone into the tray")
+        self.assertGreater(unread_total(vost), 0)
+
+    def test_signing_in_in_a_window_lists_the_chats(self):
+        vost = self.launch(signed_in=False)
+        wait_until(vost.popover_shown, what="the window")
+        vost.sign_in()
+        vost.wait_for_chats()
+        self.assertEqual(vost.all("alert"), [])
+
+
+class Configuration(VostTestCase):
+    signed_in = False
+
+    def test_a_copy_without_credentials_asks_to_be_reinstalled(self):
+        # A copy of the program in a bundle with neither credentials nor the demo.
+        bundle = os.path.join(self.desktop.env["HOME"], "bundle")
+        os.makedirs(os.path.join(bundle, "bin"))
+        os.makedirs(os.path.join(bundle, "share", "vost"))
+        shutil.copy(VOST, os.path.join(bundle, "bin", "vost"))
+        with open(os.path.join(bundle, "share", "vost", "Info.json"), "w") as info:
+            info.write('{"CFBundleShortVersionString": "0.1.0"}')
+        vost = self.launch(binary=os.path.join(bundle, "bin", "vost"), args=())
+        vost.open_popover()
+        vost.find("heading", "Vost needs to be reinstalled")
+        vost.find("paragraph", "This copy of Vost is missing its application configuration.", contains=True)
+        self.assertEqual(vost.all("text"), [])
+
+
+if __name__ == "__main__":
+    main()

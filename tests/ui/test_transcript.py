@@ -1,0 +1,181 @@
+#!/usr/bin/python3
+"""Emma Wilson's long chat: opening at the newest message, paging back through its
+history, what a bubble shows, and the keyboard."""
+
+import time
+
+from vostui import VostTestCase, dishonest_nodes, main, wait_until
+
+
+def inside(inner, outer, slack=2):
+    x, y, w, h = inner
+    ox, oy, ow, oh = outer
+    return x >= ox - slack and y >= oy - slack and x + w <= ox + ow + slack and y + h <= oy + oh + slack
+
+
+def intersects(inner, outer):
+    x, y, w, h = inner
+    ox, oy, ow, oh = outer
+    return x < ox + ow and ox < x + w and y < oy + oh and oy < y + h
+
+
+NEWEST = "You: Of course! See you at 7 🍕"
+
+
+class Transcript(VostTestCase):
+    def open_emma(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        messages = vost.find("list", "Messages")
+        vost.find("list item", NEWEST, contains=True, within=messages)
+        time.sleep(0.5)
+        return vost, messages
+
+    def test_a_chat_opens_at_its_newest_message_and_stays_there(self):
+        vost, messages = self.open_emma()
+        newest = vost.find("list item", NEWEST, contains=True, within=messages)
+        self.assertTrue(inside(newest.extents(), messages.extents()), f"{newest.extents()} in {messages.extents()}")
+        for reaction in ("👍 1", "🔥 1"):
+            badge = vost.find("push button", reaction, within=newest)
+            self.assertTrue(inside(badge.extents(), messages.extents()), f"{reaction} below the visible area")
+        # A wheel turn down at the bottom moves nothing.
+        before = newest.extents()
+        vost.wheel(messages, 1, down=True)
+        time.sleep(0.3)
+        self.assertEqual(vost.find("list item", NEWEST, contains=True, within=messages).extents(), before)
+
+    def test_scrolling_up_pages_back_to_the_start(self):
+        vost, messages = self.open_emma()
+        seen = set()
+        for _ in range(400):
+            seen.update(m.name for m in vost.messages())
+            if vost.all("paragraph", "Start of the conversation", within=messages):
+                break
+            vost.wheel(messages, 1)
+        else:
+            self.fail(f"the start was not reached; {len(seen)} messages seen")
+        self.assertGreater(len(seen), 200)
+        # Only what is inside the transcript is exposed.
+        for item in vost.messages():
+            self.assertTrue(intersects(item.extents(), messages.extents()), f"{item} is off screen")
+
+    def test_a_page_arriving_moves_nothing_on_screen_and_shows_a_spinner_meanwhile(self):
+        vost, messages = self.open_emma()
+        pages = 0
+        for _ in range(30):
+            if pages == 3:
+                break
+            # A quick turn of the wheel reaches the top while the next page is on its way.
+            vost.wheel(messages, 25)
+            if not vost.all("progress bar", "Loading older messages", within=messages):
+                continue
+            # Bottom edges: a message whose older neighbour arrives may lose the
+            # space above it that starts a sender's group, but its bubble stays.
+            def bottoms():
+                return {m.name: sum(m.extents()[1::2]) for m in vost.messages()}
+            # The wheel's flick comes to rest first.
+            settled = [bottoms()]
+            for _ in range(10):
+                time.sleep(0.05)
+                settled.append(bottoms())
+                if settled[-1] == settled[-2]:
+                    break
+            if not vost.all("progress bar", "Loading older messages", within=messages):
+                continue
+            before = settled[-1]
+            vost.absent("progress bar", "Loading older messages", within=messages)
+            after = bottoms()
+            common = set(before) & set(after)
+            self.assertTrue(common, "nothing stayed on screen")
+            for name in common:
+                self.assertEqual(before[name], after[name], f"{name} moved when a page arrived")
+            pages += 1
+        self.assertEqual(pages, 3, "the spinner did not show at the top while pages were on their way")
+
+    def test_bubbles_show_captions_images_and_stickers(self):
+        vost, messages = self.open_emma()
+        # The WebP sticker renders as an image, not as its fallback text.
+        for _ in range(40):
+            if vost.all("image", "Sticker 😀", within=messages):
+                break
+            vost.wheel(messages, 2)
+        vost.find("image", "Sticker 😀", within=messages)
+        # Media without a caption shows no line of text; a caption does.
+        for _ in range(40):
+            photos = [m for m in vost.messages() if m.name.startswith("Emma Wilson: 📷 Photo")]
+            if photos and vost.all("image", "Photo", within=photos[0]):
+                break
+            vost.wheel(messages, 2)
+        photo = [m for m in vost.messages() if m.name.startswith("Emma Wilson: 📷 Photo")][0]
+        vost.find("image", "Photo", within=photo)
+        self.assertEqual(vost.all("paragraph", within=photo), [])
+        for _ in range(20):
+            captioned = [m for m in vost.messages() if m.name.startswith("Emma Wilson: Sunset at the lake")]
+            if captioned:
+                break
+            vost.wheel(messages, 2)
+        vost.find("paragraph", "Sunset at the lake 🌅", within=captioned[0], timeout=5)
+
+
+class Menu(VostTestCase):
+    def test_a_right_click_anywhere_on_a_message_row_opens_its_named_menu(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        messages = vost.find("list", "Messages")
+        welcome = vost.find("list item", "Vost Helper: Welcome", contains=True, within=messages)
+        x, y, w, h = welcome.extents()
+        # An incoming bubble sits on the left: the right end of its row is empty.
+        vost.click((x + w - 60, y + h // 2), button=3)
+        menu = vost.find("popup menu", "Message actions")
+        self.assertEqual([item.name for item in vost.all("menu item", within=menu)],
+                         ["Reply", "Forward", "Copy", "Delete"])
+        reactions = vost.find("panel", "Reactions", within=menu)
+        self.assertEqual(len(vost.all("push button", within=reactions)), 7)
+        self.assertEqual(dishonest_nodes(vost.app()), [])
+        vost.find("menu item", "Reply", within=menu).press()
+        vost.find("panel", "Reply to Vost Helper", contains=True)
+        self.assertEqual(dishonest_nodes(vost.app()), [])
+
+
+class Keyboard(VostTestCase):
+    def test_up_edits_the_last_own_message_and_escape_unwinds_step_by_step(self):
+        vost = self.open_signed_in()
+        vost.fill(vost.find("text", "Search"), "Emma")
+        vost.open_chat("Emma Wilson")
+        vost.find("list item", NEWEST, contains=True)
+        composer = vost.find("text", "Message")
+        vost.focus(composer)
+        vost.key("Up")
+        wait_until(lambda: composer.text() == "Of course! See you at 7 🍕", what="the last own message to edit")
+        vost.find("panel", "Edit message", contains=True)
+        vost.find("push button", "Save")
+        vost.key("Escape")
+        vost.absent("panel", "Edit message", contains=True)
+        self.assertEqual(composer.text(), "")
+        self.assertEqual([r.name.split(",")[0] for r in vost.chat_rows()], ["Emma Wilson"])
+        vost.key("Escape")
+        wait_until(lambda: len(vost.chat_rows()) > 1, what="the search cleared")
+        self.assertTrue(vost.popover_shown())
+        vost.key("Escape")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed")
+
+    def test_a_message_is_deleted_only_after_confirming(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        mine = vost.find("list item", "You: Hello bot", contains=True)
+        mine.press()
+        vost.find("menu item", "Reply")
+        vost.find("menu item", "Delete").press()
+        dialog = vost.find("dialog", "Delete this message for everyone?")
+        vost.find("push button", "Cancel", within=dialog).press()
+        vost.absent("dialog")
+        vost.find("list item", "You: Hello bot", contains=True).press()
+        vost.find("menu item", "Delete").press()
+        dialog = vost.find("dialog", "Delete this message for everyone?")
+        vost.find("push button", "Delete", within=dialog).press()
+        vost.absent("list item", "You: Hello bot", contains=True)
+        vost.find("list item", "Vost Helper: Hello! Try sending", contains=True)
+
+
+if __name__ == "__main__":
+    main()
