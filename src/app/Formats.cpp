@@ -10,7 +10,7 @@ Formats::Formats(QObject *parent)
 
 QString Formats::dataSize(qint64 bytes)
 {
-    return QLocale().formattedDataSize(std::max<qint64>(bytes, 0), 1, QLocale::DataSizeTraditionalFormat);
+    return QLocale().formattedDataSize(std::max<qint64>(bytes, 0), 1, QLocale::DataSizeSIFormat);
 }
 
 QString Formats::duration(int seconds)

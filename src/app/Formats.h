@@ -14,7 +14,7 @@ class Formats : public QObject
 public:
     explicit Formats(QObject *parent = nullptr);
 
-    // "820 bytes", "1.2 MB", …
+    // "820 bytes", "1.2 MB" (decimal units), …
     Q_INVOKABLE static QString dataSize(qint64 bytes);
     // "0:07", "12:30", "1:02:03".
     Q_INVOKABLE static QString duration(int seconds);

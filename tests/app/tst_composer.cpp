@@ -8,6 +8,7 @@
 #include "ChatViewModel.h"
 #include "EmojiCatalog.h"
 #include "EmojiModels.h"
+#include "app/Formats.h"
 
 #include "session/UserDefaults.h"
 
@@ -223,6 +224,27 @@ private Q_SLOTS:
         QCOMPARE(column(filtered, ChatListModel::TitleRole), (QStringList{u"Émile"_s}));
         model.replaceChats({makeChat(u"3"_s, u"Émile"_s), makeChat(u"4"_s, u"Emilia"_s)});
         QCOMPARE(filtered.rowCount(), 1);
+    }
+
+    void sizesDurationsAndDaysReadAsPeopleSayThem()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        QCOMPARE(Formats::duration(7), u"0:07"_s);
+        QCOMPARE(Formats::duration(750), u"12:30"_s);
+        QCOMPARE(Formats::duration(3723), u"1:02:03"_s);
+        QCOMPARE(Formats::duration(-3), u"0:00"_s);
+        QCOMPARE(Formats::dataSize(1200000), u"1.2 MB"_s); // decimal units, as file managers show them
+        QCOMPARE(Formats::dataSize(820), u"820 bytes"_s);
+
+        const QDate today(2025, 10, 9); // a Thursday
+        QCOMPARE(Formats::dayLabel(today, today), u"Today"_s);
+        QCOMPARE(Formats::dayLabel(today.addDays(-1), today), u"Yesterday"_s);
+        QCOMPARE(Formats::dayLabel(today.addDays(-3), today), u"Monday"_s);
+        QCOMPARE(Formats::dayLabel(today.addDays(-7), today), u"2 October"_s);
+        QCOMPARE(Formats::dayLabel(QDate(2024, 12, 31), today), u"31 December 2024"_s);
+        // A day after today (a clock set back) is a date, not a weekday.
+        QCOMPARE(Formats::dayLabel(today.addDays(2), today), u"11 October"_s);
+        QCOMPARE(Formats::dayLabel(QDateTime()), QString());
     }
 };
 

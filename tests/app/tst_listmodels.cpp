@@ -259,6 +259,40 @@ private Q_SLOTS:
         QVERIFY(!model.index(0).data(MessageListModel::DateRole).toDateTime().isValid());
     }
 
+
+    void albumsShareARowAndPagesArriveByRows()
+    {
+        ChatViewModel viewModel(nullptr);
+        MessageListModel model(&viewModel);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        viewModel.replaceChats({makeChat(1)});
+        const auto inAlbum = [](int id, qint64 albumID) {
+            Message message = makeMessage(id, u"Ann"_s);
+            message.mediaAlbumID = albumID;
+            return message;
+        };
+        // TDLib gives the album id 0 to messages outside albums: they stay apart.
+        QList<Message> newest{inAlbum(30, 0), inAlbum(31, 0), inAlbum(32, 77), inAlbum(33, 77), inAlbum(34, 0)};
+        viewModel.setMessages(newest, u"1"_s);
+        QCOMPARE(column(model, MessageListModel::IdRole), (QStringList{u"34"_s, u"32"_s, u"31"_s, u"30"_s}));
+        QCOMPARE(model.index(1).data(MessageListModel::AlbumItemsRole).toList().size(), 2);
+        QCOMPARE(model.index(1).data(MessageListModel::AlbumIDRole).toString(), u"77"_s);
+        QCOMPARE(model.index(0).data(MessageListModel::AlbumIDRole).toString(), QString());
+        QCOMPARE(model.rowOf(u"33"_s), 1);
+
+        // An older page is appended at the end, the album's third photo joins its row.
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
+        newest.insert(2, inAlbum(315, 77));
+        QList<Message> all{inAlbum(27, 0), inAlbum(28, 0)};
+        all += newest;
+        viewModel.setMessages(all, u"1"_s);
+        QCOMPARE(resets.size(), 0);
+        QVERIFY(inserts.size() >= 1);
+        QCOMPARE(model.index(model.rowOf(u"32"_s)).data(MessageListModel::AlbumItemsRole).toList().size(), 3);
+        QCOMPARE(column(model, MessageListModel::IdRole),
+                 (QStringList{u"34"_s, u"315"_s, u"31"_s, u"30"_s, u"28"_s, u"27"_s}));
+    }
     void stickersAndContactsFollowTheViewModel()
     {
         ChatViewModel viewModel(nullptr);

@@ -2,6 +2,7 @@
 """Emma Wilson's long chat: opening at the newest message, paging back through its
 history, what a bubble shows, and the keyboard."""
 
+import re
 import time
 
 from vostui import VostTestCase, dishonest_nodes, main, wait_until
@@ -102,15 +103,15 @@ class Transcript(VostTestCase):
         vost.find("image", "Sticker 😀", within=messages)
         # Media without a caption shows no line of text; a caption does.
         for _ in range(40):
-            photos = [m for m in vost.messages() if m.name.startswith("Emma Wilson: 📷 Photo")]
+            photos = [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)]
             if photos and vost.all("image", "Photo", within=photos[0]):
                 break
             vost.wheel(messages, 2)
-        photo = [m for m in vost.messages() if m.name.startswith("Emma Wilson: 📷 Photo")][0]
+        photo = [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)][0]
         vost.find("image", "Photo", within=photo)
         self.assertEqual(vost.all("paragraph", within=photo), [])
         for _ in range(20):
-            captioned = [m for m in vost.messages() if m.name.startswith("Emma Wilson: Sunset at the lake")]
+            captioned = [m for m in vost.messages() if m.name.startswith("Emma Wilson: Photo, Sunset at the lake")]
             if captioned:
                 break
             vost.wheel(messages, 2)

@@ -83,7 +83,8 @@ QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &me
         }
         const bool divider = !dividerID.isEmpty() && message.id == dividerID;
         Row *previous = rows.isEmpty() ? nullptr : &rows.last();
-        if (message.mediaAlbumID && previous && previous->message.mediaAlbumID == message.mediaAlbumID &&
+        // TDLib gives messages outside albums the album id 0.
+        if (message.mediaAlbumID.value_or(0) != 0 && previous && previous->message.mediaAlbumID == message.mediaAlbumID &&
             sameSender(previous->message, message) && !divider) {
             if (previous->album.isEmpty())
                 previous->album.append({previous->message, previous->details});
@@ -274,7 +275,7 @@ QVariant MessageListModel::data(const QModelIndex &index, int role) const
     case DocumentPathRole:
         return message.documentPath.value_or(QString());
     case AlbumIDRole:
-        return message.mediaAlbumID ? QString::number(*message.mediaAlbumID) : QString();
+        return message.mediaAlbumID.value_or(0) != 0 ? QString::number(*message.mediaAlbumID) : QString();
     case ReactionsRole: {
         QVariantList reactions;
         for (const MessageReaction &reaction : message.reactions)

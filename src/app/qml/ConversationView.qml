@@ -218,6 +218,9 @@ FocusScope {
                 return;
             positionViewAtIndex(row, ListView.Center);
             currentIndex = row;
+            // The keyboard goes with the eye: the message is current for the keys
+            // and for screen readers.
+            forceActiveFocus();
         }
 
         // Half a screen from the top, the page before the oldest message is asked

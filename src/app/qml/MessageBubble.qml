@@ -28,6 +28,7 @@ Item {
     required property bool isOutgoing
     required property string deliveryState
     required property string mediaPath
+    required property string documentPath
     required property string stickerEmoji
     required property string stickerFormat
     required property var reactions
@@ -268,7 +269,8 @@ Item {
                     kind: message.kind
                     details: message.details
                     messageID: message.messageID
-                    mediaPath: message.mediaPath
+                    // A document's file, or a picture's sent as a file, is its document.
+                    mediaPath: message.mediaPath !== "" ? message.mediaPath : message.documentPath
                     albumItems: message.albumItems
                     downloadProgress: message.downloadProgress
                     outgoing: message.isOutgoing

@@ -21,7 +21,8 @@ Item {
     implicitHeight: column.implicitHeight
     Accessible.role: Accessible.Grouping
     Accessible.ignored: !card.shown
-    Accessible.name: details.placeName !== "" ? qsTr("Location %1").arg(details.placeName) : qsTr("Location")
+    Accessible.name: details.placeName !== "" ? qsTr("Location %1").arg(details.placeName)
+                                              : qsTr("Location %1").arg(coordinates)
 
     Column {
         id: column

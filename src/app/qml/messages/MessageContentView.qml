@@ -31,6 +31,9 @@ Loader {
     signal contactMessageRequested(string userID)
 
     active: kind !== MessageContent.Text && kind !== MessageContent.Other
+    // An unloaded Loader keeps the size of its last item; a delegate reused for a
+    // text message must not keep the photo's space.
+    visible: item !== null
     sourceComponent: {
         switch (kind) {
         case MessageContent.Photo: return photos;
