@@ -10,7 +10,6 @@ Item {
     property bool shown: true
 
     required property var details
-    property bool outgoing: false
 
     implicitWidth: row.implicitWidth
     implicitHeight: 56
@@ -32,7 +31,8 @@ Item {
         Text {
             anchors.verticalCenter: parent.verticalCenter
             text: card.details.diceValue
-            color: card.outgoing ? Appearance.accentText : Appearance.text
+            // Dice sit outside a bubble, on the pane's own background.
+            color: Appearance.text
             font.pixelSize: 22
             font.weight: Font.DemiBold
         }

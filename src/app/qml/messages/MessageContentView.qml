@@ -155,7 +155,6 @@ Loader {
 
         DiceCard {
             details: view.details
-            outgoing: view.outgoing
         }
     }
 }

@@ -1,0 +1,105 @@
+#!/usr/bin/python3
+"""Scrolling Emma Wilson's chat on the demo account, measured: the real program
+under Xvfb with a tray host (the UI cases' harness), signed in, opens the chat,
+scrolls with the wheel to the start of the conversation (every older page loads
+on the way) and back to the newest message. Prints the frame times Qt Quick's
+render loop reports (GUI thread polish plus the render thread's sync, render
+and swap, per frame: median, p99, maximum, frames over 16 ms) and the process
+tree's memory (PSS) at each step.
+
+    xvfb-run -a /usr/bin/python3 bench/transcript.py      (after ./run.sh test or a build)
+
+VOST_BUILD_DIR or VOST_BINARY pick the build, as for the UI cases."""
+
+import os
+import re
+import statistics
+import sys
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "ui"))
+from vostui import Desktop, Vost, signed_in_template  # noqa: E402
+
+NEWEST = "You: Of course! See you at 7 🍕"
+
+
+def pss_kb(pid):
+    """The PSS of pid and every process below it, in kB."""
+    total = 0
+    try:
+        with open(f"/proc/{pid}/smaps_rollup") as rollup:
+            total += next(int(line.split()[1]) for line in rollup if line.startswith("Pss:"))
+        for task in os.listdir(f"/proc/{pid}/task"):
+            with open(f"/proc/{pid}/task/{task}/children") as children:
+                total += sum(pss_kb(int(child)) for child in children.read().split())
+    except (OSError, StopIteration):
+        pass
+    return total
+
+
+def frame_times(log):
+    """Per frame: the GUI thread's polish and the render thread's frame, in ms."""
+    polish = [int(m) for m in re.findall(r"Frame prepared, polish=(\d+) ms", log)]
+    rendered = [int(m) for m in re.findall(r"frame rendered in (\d+)ms", log)]
+    count = min(len(polish), len(rendered))
+    return [polish[-count + i] + rendered[-count + i] for i in range(count)] if count else []
+
+
+def report(label, times):
+    if not times:
+        print(f"{label}: no frames")
+        return
+    ordered = sorted(times)
+    p99 = ordered[min(len(ordered) - 1, int(len(ordered) * 0.99))]
+    print(f"{label}: {len(times)} frames, median {statistics.median(times):.0f} ms, p99 {p99} ms, "
+          f"max {ordered[-1]} ms, {sum(t > 16 for t in times)} over 16 ms")
+
+
+def main():
+    desktop = Desktop()
+    try:
+        vost = Vost(desktop, home_template=signed_in_template(),
+                    extra_env={"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop.debug=true"}).start()
+        pid = vost.process.pid
+        time.sleep(3)
+        print(f"PSS in the tray, popover never opened: {pss_kb(pid) / 1024:.0f} MB")
+        vost.open_popover()
+        vost.wait_for_chats()
+        time.sleep(2)
+        print(f"PSS with the chat list: {pss_kb(pid) / 1024:.0f} MB")
+        vost.open_chat("Emma Wilson")
+        messages = vost.find("list", "Messages")
+        vost.find("list item", NEWEST, contains=True, within=messages)
+        time.sleep(2)
+        print(f"PSS with Emma Wilson's chat open: {pss_kb(pid) / 1024:.0f} MB")
+
+        start = len(vost.output())
+        started = time.monotonic()
+        for turn in range(2000):
+            vost.wheel(messages, 2)
+            if turn % 10 == 9 and vost.all("paragraph", "Start of the conversation", within=messages):
+                break
+        up = frame_times(vost.output()[start:])
+        print(f"to the start: {time.monotonic() - started:.1f} s, {len(vost.messages())} rows exposed")
+        start = len(vost.output())
+        for turn in range(2000):
+            vost.wheel(messages, 2, down=True)
+            if turn % 10 == 9 and vost.all("list item", NEWEST, contains=True, within=messages):
+                break
+        down = frame_times(vost.output()[start:])
+        report("scrolling up (pages loading)", up)
+        report("scrolling down", down)
+        print(f"PSS after scrolling: {pss_kb(pid) / 1024:.0f} MB")
+        vost.key("Escape")
+        vost.key("Escape")
+        if vost.popover_shown():
+            vost.click_tray()
+        time.sleep(10)
+        print(f"PSS 10 s after closing the popover: {pss_kb(pid) / 1024:.0f} MB")
+        vost.quit()
+    finally:
+        desktop.close()
+
+
+if __name__ == "__main__":
+    main()

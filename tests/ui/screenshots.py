@@ -1,0 +1,95 @@
+#!/usr/bin/python3
+"""Makes the README's screenshots of the popover on the demo account, driven
+through the accessibility tree like the UI cases:
+
+    VOST_BINARY=build/bin/vost VOST_BUILD_DIR=build /usr/bin/python3 tests/ui/screenshots.py [OUT_DIR]
+
+OUT_DIR defaults to docs/screenshots. Not a test: it checks nothing."""
+
+import os
+import sys
+import time
+
+from vostui import Desktop, Vost, signed_in_template, wait_until
+
+OUT = sys.argv[1] if len(sys.argv) > 1 else os.path.join(os.path.dirname(__file__), "..", "..", "docs", "screenshots")
+
+
+def shoot(desktop, vost, name):
+    time.sleep(1.0)  # images decode and animations settle
+    path = os.path.join(OUT, name)
+    desktop.screenshot(path, crop=vost.window().extents())
+    print(path)
+
+
+def scroll_to(vost, messages, start, wheels=60):
+    for _ in range(wheels):
+        if any(m.name.startswith(start) for m in vost.messages()):
+            return
+        vost.wheel(messages, 1)
+        time.sleep(0.15)
+
+
+def session(desktop, mode, shots):
+    desktop.new_home()
+    vost = Vost(desktop, home_template=signed_in_template(), settings={"vostAppearanceMode": mode}).start()
+    try:
+        vost.open_popover()
+        vost.wait_for_chats()
+        shots(desktop, vost)
+    finally:
+        vost.quit()
+
+
+def emma(desktop, vost, suffix):
+    vost.open_chat("Emma Wilson")
+    messages = vost.find("list", "Messages")
+    vost.find("list item", "You: Of course! See you at 7", contains=True, within=messages)
+    shoot(desktop, vost, f"messages-{suffix}.png")
+    scroll_to(vost, messages, "Emma Wilson: Voice message")
+    vost.wheel(messages, 2)
+    shoot(desktop, vost, f"media-{suffix}.png")
+    return messages
+
+
+def light(desktop, vost):
+    messages = emma(desktop, vost, "light")
+    scroll_to(vost, messages, "Emma Wilson: Album")
+    album = [m for m in vost.messages() if m.name.startswith("Emma Wilson: Album")][0]
+    vost.find("image", "Photo", within=album).press()
+    vost.find("dialog", "Photo viewer")
+    shoot(desktop, vost, "photo-viewer.png")
+    vost.key("Escape")
+    vost.open_chat("Vost Helper")
+    vost.find("push button", "Stickers").press()
+    vost.find("push button", "Sticker", contains=True, within=vost.find("dialog", "Sticker picker"))
+    shoot(desktop, vost, "sticker-picker.png")
+    vost.key("Escape")
+    vost.find("push button", "Emoji").press()
+    vost.find("dialog", "Emoji picker")
+    shoot(desktop, vost, "emoji-picker.png")
+    vost.key("Escape")
+    welcome = vost.find("list item", "Vost Helper: Welcome", contains=True)
+    x, y, w, h = welcome.extents()
+    vost.click((x + w - 60, y + h // 2), button=3)
+    vost.find("popup menu", "Message actions")
+    shoot(desktop, vost, "message-menu.png")
+    vost.key("Escape")
+
+
+def dark(desktop, vost):
+    emma(desktop, vost, "dark")
+
+
+def main():
+    os.makedirs(OUT, exist_ok=True)
+    desktop = Desktop()
+    try:
+        session(desktop, "light", light)
+        session(desktop, "dark", dark)
+    finally:
+        desktop.close()
+
+
+if __name__ == "__main__":
+    main()
