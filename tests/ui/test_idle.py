@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """A closed popover does nothing: no frame is drawn and the program sleeps, on the
-sign-in screen as with the chats."""
+sign-in screen as with the chats, animations in view included."""
 
 import glob
 import os
@@ -55,6 +55,14 @@ class ClosedPopover(VostTestCase):
         vost.open_popover()
         vost.wait_for_chats()
         vost.open_chat("Emma Wilson")
+        # With a looping GIF and animated stickers in view.
+        messages = vost.find("list", "Messages")
+        for _ in range(40):
+            if any(m.name.startswith("Emma Wilson: GIF") for m in vost.messages()):
+                break
+            vost.wheel(messages, 1)
+            time.sleep(0.1)
+        vost.find("image", "GIF", within=messages)
         vost.focus(vost.find("text", "Message"))
         vost.click_tray()
         wait_until(lambda: not vost.popover_shown(), what="the popover closed")

@@ -78,10 +78,13 @@ class Messages(VostTestCase):
     def test_an_album_is_one_bubble_and_a_photo_opens_the_viewer(self):
         vost, messages = self.open_emma()
         album = self.scroll_to(vost, messages, KINDS["album"])
-        photos = wait_until(lambda: len(vost.all("image", "Photo", within=album)) == 3 and
+        wait_until(lambda: len(vost.all("image", "Photo", within=album)) == 3 and
                             vost.all("image", "Photo", within=album), what="three photos in the album")
         self.assertEqual(len(vost.all("paragraph", "Trip album", within=album)), 1)
-        photos[1].press()
+        # Once the photos have arrived, their items stay put.
+        vost.absent("progress bar", within=album, timeout=15)
+        vost.find("image", "Photo", within=album)
+        vost.all("image", "Photo", within=album)[1].press()
         viewer = vost.find("dialog", "Photo viewer")
         shown = vost.find("image", "Photo", contains=True, within=viewer)
         position = re.fullmatch(r"Photo (\d+) of (\d+)", shown.name)

@@ -61,9 +61,11 @@ Item {
     readonly property string deliveryName: deliveryState === "sending" ? qsTr("sending") : (deliveryState === "read" ? qsTr("read") : (deliveryState === "sent" ? qsTr("sent") : ""))
     // Set while the view keeps this delegate for reuse: it stays visible there.
     property bool pooled: false
-    // Only messages inside the transcript's viewport are shown to assistive technology.
+    // Only messages inside the transcript's viewport of a shown popover are exposed
+    // to assistive technology, and only they play animations.
     readonly property bool onScreen: !pooled && ListView.view !== null && y + height > ListView.view.contentY
                                      && y < ListView.view.contentY + ListView.view.height
+                                     && Window.visibility !== Window.Hidden
 
     ListView.onPooled: pooled = true
     ListView.onReused: pooled = false

@@ -44,12 +44,15 @@ Item {
         spacing: 2
 
         Repeater {
-            model: album.items
+            // By count, so that the photos stay (and keep their decoded images) when
+            // a download's progress or a new page gives the album a new list.
+            model: album.items.length
 
             delegate: Rectangle {
                 id: photo
 
-                required property var modelData
+                required property int index
+                readonly property var modelData: album.items[index]
 
                 width: album.single ? album.singleWidth : album.cell
                 height: album.single ? album.singleHeight : album.cell
