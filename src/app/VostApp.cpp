@@ -22,11 +22,16 @@
 #include <QCursor>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPixmapCache>
 #include <QQmlEngine>
 #include <QScreen>
 #include <QSystemTrayIcon>
 #include <QTextStream>
 #include <QTimer>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -163,6 +168,8 @@ bool VostApp::launch()
     connect(m_popover.get(), &QWindow::visibleChanged, this, [this](bool visible) {
         NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::popoverVisibilityDidChange),
                                                  visible);
+        if (!visible)
+            releasePopoverMemory();
     });
     connect(m_popover.get(), &QWindow::activeChanged, this, &VostApp::popoverActiveChanged);
     connect(m_popover.get(), &PopoverWindow::escapeNotHandled, this, [this] {
@@ -374,6 +381,21 @@ void VostApp::suspendPopoverForFilePanel()
 void VostApp::restorePopoverAfterFilePanel()
 {
     showPopover();
+}
+
+// Vost spends most of its life in the tray: what a look at the popover cost
+// (the scene graph's textures, decoded pictures, unused QML components, freed
+// heap) goes back to the system when it closes. The models stay.
+void VostApp::releasePopoverMemory()
+{
+    m_popover->releaseResources();
+    MediaImageProvider::release();
+    m_engine->trimComponentCache();
+    m_engine->collectGarbage();
+    QPixmapCache::clear();
+#if defined(__GLIBC__)
+    malloc_trim(0);
+#endif
 }
 
 void VostApp::quit()

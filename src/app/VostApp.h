@@ -62,6 +62,7 @@ private:
     void openChatFromNotification();
     void suspendPopoverForFilePanel();
     void restorePopoverAfterFilePanel();
+    void releasePopoverMemory();
     void quit();
 
     Options m_options;
