@@ -29,6 +29,8 @@ private:
     void fillTalk(DemoChat &chat, const std::vector<qint64> &people, int count, int fromMinutes, int toMinutes);
     void markRead(DemoChat &chat, int unread);
     void addStickers();
+    // More chats, up to `total`, with a few messages each: a large account.
+    void addCrowd(int total);
     QJsonObject media(FileRecipe recipe, const QString &folder, const QString &name, int seed);
     unsigned next()
     {
@@ -358,6 +360,52 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
     DemoChat &mi = privateChat(mia, true);
     fillTalk(mi, {mia, me}, 12, 60000, 20000);
     markRead(mi, 0);
+
+    bool sized = false;
+    const int wanted = qEnvironmentVariable("VOST_DEMO_CHATS").toInt(&sized);
+    if (sized)
+        addCrowd(std::min(wanted, 100000));
+}
+
+void AccountBuilder::addCrowd(int total)
+{
+    static const char16_t *const firstNames[] = {u"Ada",   u"Ben",   u"Cleo", u"Dev",  u"Elif", u"Finn", u"Gia",
+                                                 u"Hugo",  u"Ines",  u"Jon",  u"Kira", u"Leo",  u"Maya", u"Nico",
+                                                 u"Omar",  u"Pia",   u"Quinn", u"Rosa", u"Sami", u"Tess", u"Ugo",
+                                                 u"Vera",  u"Wes",   u"Xena", u"Yuki", u"Zane"};
+    static const char16_t *const lastNames[] = {u"Abbott", u"Brandt", u"Costa", u"Dumas",  u"Eriksen", u"Fischer",
+                                                u"Garcia", u"Haddad", u"Ito",   u"Jensen", u"Kowalski", u"Larsen",
+                                                u"Moreau", u"Novak",  u"Okafor", u"Petrov", u"Rossi",   u"Silva",
+                                                u"Tanaka", u"Varga"};
+    static const char16_t *const topics[] = {u"Climbing", u"Board Games", u"Photography", u"Gardening", u"Chess",
+                                             u"Cycling",  u"Jazz",        u"Baking",      u"Astronomy", u"Film"};
+    const qint64 me = a.m_selfID;
+    const int first = int(std::size(firstNames));
+    const int last = int(std::size(lastNames));
+    for (int i = 0; int(a.chats.size()) < total; ++i) {
+        // Newer chats first in time, spread over a year; every third has unread messages.
+        const int newest = 600 + i * 97 % (60 * 24 * 365);
+        if (i % 4 == 3) {
+            DemoChat &group = groupChat(i % 8 == 3 ? ChatKind::Supergroup : ChatKind::BasicGroup, 100000 + i,
+                                        QString::fromUtf16(topics[i % std::size(topics)]) + u' ' + QString::number(i),
+                                        3 + i % 200, i % 3 == 0);
+            const qint64 a1 = 300000000 + ((i + 1) % 2000), a2 = 300000000 + ((i + 7) % 2000);
+            for (const qint64 id : {a1, a2}) {
+                if (!a.users.contains(id))
+                    person(id, QString::fromUtf16(firstNames[id % first]), QString::fromUtf16(lastNames[id / first % last]),
+                           Presence::Recently, 0, false, false);
+            }
+            fillTalk(group, {a1, a2, me}, 4, newest + 600, newest);
+            markRead(group, i % 3 == 0 ? 1 + i % 5 : 0);
+        } else {
+            const qint64 id = 300000000 + i;
+            person(id, QString::fromUtf16(firstNames[i % first]), QString::fromUtf16(lastNames[i / first % last]),
+                   i % 5 == 0 ? Presence::Online : Presence::Offline, 60 + i % 5000, i % 2 == 0, i % 3 == 0);
+            DemoChat &chat = privateChat(id);
+            fillTalk(chat, {id, me}, 3, newest + 300, newest);
+            markRead(chat, i % 3 == 0 ? 1 : 0);
+        }
+    }
 }
 
 qint64 AccountBuilder::person(qint64 id, const QString &first, const QString &last, Presence presence, int minutesAgo,

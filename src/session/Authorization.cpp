@@ -230,6 +230,7 @@ void TelegramSession::resetAccountState()
     m_exhaustedHistory.clear();
     m_pendingRecentStickers.clear();
     m_rosterOrder.clear();
+    m_rosterRank.clear();
     m_contactUsers.clear();
     m_currentUserID.reset();
     m_requestedTrendingStickers = false;

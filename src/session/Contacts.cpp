@@ -227,6 +227,7 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
         if (const auto contactID = int64From(extra.value("contact_id"_L1))) {
             m_contactUserIDs.remove(*contactID);
             m_rosterOrder.removeAll(*contactID);
+            rankRoster();
             if (m_contacts.removeIf([id = *contactID](const ContactChoice &c) { return c.id == id; }) > 0)
                 Q_EMIT contactsChanged();
         }
@@ -255,8 +256,17 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
                 send(u"getUser"_s, {{"user_id"_L1, *userID}, {"@extra"_L1, tagged(u"contact_roster_result"_s)}});
             }
         }
-        // Contacts that left the roster leave the list.
-        if (m_contacts.removeIf([this](const ContactChoice &c) { return !m_rosterOrder.contains(c.id); }) > 0)
+        rankRoster();
+        // Contacts that left the roster leave the list; the others follow its new order.
+        const bool removed =
+            m_contacts.removeIf([this](const ContactChoice &c) { return !m_rosterRank.contains(c.id); }) > 0;
+        const auto byRank = [this](const ContactChoice &a, const ContactChoice &b) {
+            return m_rosterRank.value(a.id) < m_rosterRank.value(b.id);
+        };
+        const bool reordered = !std::is_sorted(m_contacts.cbegin(), m_contacts.cend(), byRank);
+        if (reordered)
+            std::stable_sort(m_contacts.begin(), m_contacts.end(), byRank);
+        if (removed || reordered)
             Q_EMIT contactsChanged();
         return true;
     }
@@ -331,23 +341,29 @@ ContactChoice TelegramSession::makeContactChoice(qint64 userID, const TdObject &
 void TelegramSession::publishRosterContact(const TdObject &user)
 {
     const std::optional<qint64> userID = int64From(user.value("id"_L1));
-    if (!userID || !m_rosterOrder.contains(*userID))
+    const auto rank = userID ? m_rosterRank.constFind(*userID) : m_rosterRank.cend();
+    if (rank == m_rosterRank.cend())
         return;
     m_contactUsers.insert(*userID, user);
-    const ContactChoice choice = makeContactChoice(*userID, user);
-    const auto same = std::find_if(m_contacts.begin(), m_contacts.end(),
-                                   [&choice](const ContactChoice &c) { return c.id == choice.id; });
-    if (same != m_contacts.end()) {
-        *same = choice;
-    } else {
-        // Keep the roster's order.
-        const qsizetype rank = m_rosterOrder.indexOf(*userID);
-        const auto after = std::find_if(m_contacts.begin(), m_contacts.end(), [this, rank](const ContactChoice &c) {
-            return m_rosterOrder.indexOf(c.id) > rank;
-        });
-        m_contacts.insert(after, choice);
-    }
+    // The list keeps the roster's order: its place is found by rank, not by a scan.
+    const auto place = std::lower_bound(m_contacts.begin(), m_contacts.end(), *rank,
+                                        [this](const ContactChoice &c, qsizetype wanted) {
+                                            return m_rosterRank.value(c.id, -1) < wanted;
+                                        });
+    ContactChoice choice = makeContactChoice(*userID, user);
+    if (place != m_contacts.end() && place->id == choice.id)
+        *place = std::move(choice);
+    else
+        m_contacts.insert(place, std::move(choice));
     Q_EMIT contactsChanged();
+}
+
+void TelegramSession::rankRoster()
+{
+    m_rosterRank.clear();
+    m_rosterRank.reserve(m_rosterOrder.size());
+    for (qsizetype i = 0; i < m_rosterOrder.size(); ++i)
+        m_rosterRank.insert(m_rosterOrder.at(i), i);
 }
 
 void TelegramSession::publishContactResult(const TdObject &user, const QString &query)

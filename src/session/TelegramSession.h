@@ -261,6 +261,7 @@ private:
     void forgetChat(const QString &chatID);
     ContactChoice makeContactChoice(qint64 userID, const TdObject &user) const;
     void publishRosterContact(const TdObject &user);
+    void rankRoster();
     void publishContactResult(const TdObject &user, const QString &query);
     void refreshContactEntries(qint64 userID);
 
@@ -385,6 +386,7 @@ private:
     // Contacts and conversations
     QList<ContactChoice> m_contacts;
     QList<qint64> m_rosterOrder;
+    QHash<qint64, qsizetype> m_rosterRank; // each contact's place in m_rosterOrder
     QHash<qint64, TdObject> m_contactUsers; // the user objects behind contact entries
     QList<ContactChoice> m_contactResults;
     QString m_contactQuery;
