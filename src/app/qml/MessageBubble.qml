@@ -78,8 +78,8 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: {
         // What it holds as its widget says it, then its text.
-        const held = content.item ? content.item.Accessible.name : "";
-        const said = [held, MessageText.displayText(bodyText)].filter(part => part !== "").join(", ");
+        const held = content.item ? content.item.Accessible.name : null;
+        const said = [held, MessageText.displayText(bodyText)].filter(part => part).join(", ");
         const parts = [(isOutgoing ? qsTr("You") : senderName) + ": " + (said !== "" ? said : text), timestamp];
         if (details.isEdited)
             parts.push(qsTr("edited"));

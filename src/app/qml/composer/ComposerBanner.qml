@@ -16,7 +16,7 @@ Item {
     height: 36
     visible: quoted !== null
     Accessible.role: Accessible.Grouping
-    Accessible.name: title.text + (quote.text !== "" ? ": " + quote.text : "")
+    Accessible.name: quote.text.length > 0 ? qsTr("%1: %2").arg(title.text).arg(quote.text) : title.text
     Accessible.ignored: !visible
 
     Rectangle {
