@@ -155,12 +155,12 @@ class Dates(VostTestCase):
         messages = vost.find("list", "Messages")
         vost.find("list item", NEWEST, contains=True, within=messages)
         headings = set()
-        for _ in range(40):
+        for _ in range(150):
             headings.update(h.name for h in vost.all("heading", within=messages))
             if {"Today", "Yesterday"} <= headings:
                 break
             vost.wheel(messages, 1)
-            time.sleep(0.1)
+            time.sleep(0.15)
         self.assertLessEqual({"Today", "Yesterday"}, headings)
 
 
