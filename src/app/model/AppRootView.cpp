@@ -28,7 +28,10 @@ AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<Teleg
     , m_messageList(new MessageListModel(m_viewModel, this))
     , m_stickerList(new StickerListModel(m_viewModel, this))
     , m_contactList(new ContactListModel(m_viewModel, this))
+    , m_applyTimer(new QTimer(this))
 {
+    m_applyTimer->setSingleShot(true);
+    connect(m_applyTimer, &QTimer::timeout, this, &AppRootView::applyPendingChanges);
     connectSession();
 }
 
@@ -65,8 +68,10 @@ void AppRootView::connectSession()
             [this] { m_viewModel->setStickerError(m_session.stickerError().value_or(QString())); });
     connect(session, &TelegramSession::recentStickersLoadedChanged, this,
             [this] { m_viewModel->setRecentStickersLoaded(m_session.recentStickersLoaded()); });
-    connect(session, &TelegramSession::contactsChanged, this,
-            [this] { m_viewModel->setContacts(m_session.contacts()); });
+    connect(session, &TelegramSession::contactsChanged, this, [this] {
+        m_contactsPending = true;
+        schedule();
+    });
     connect(session, &TelegramSession::newlyOpenedChatIDChanged, this, [this] {
         if (const auto chatID = m_session.newlyOpenedChatID()) {
             applyPendingChanges();
@@ -87,12 +92,21 @@ void AppRootView::schedule()
     if (m_scheduled)
         return;
     m_scheduled = true;
-    QMetaObject::invokeMethod(this, &AppRootView::applyPendingChanges, Qt::QueuedConnection);
+    constexpr qint64 burstIntervalMs = 40;
+    const qint64 since = m_sinceApplied.isValid() ? m_sinceApplied.elapsed() : burstIntervalMs;
+    if (since >= burstIntervalMs)
+        QMetaObject::invokeMethod(this, &AppRootView::applyPendingChanges, Qt::QueuedConnection);
+    else
+        m_applyTimer->start(int(burstIntervalMs - since));
 }
 
 void AppRootView::applyPendingChanges()
 {
     m_scheduled = false;
+    m_applyTimer->stop();
+    m_sinceApplied.start();
+    if (std::exchange(m_contactsPending, false))
+        m_viewModel->setContacts(m_session.contacts());
     const bool chatsChanged = std::exchange(m_chatsPending, false);
     const QSet<QString> messagesChanged = std::exchange(m_messagesPending, {});
     const auto &messagesByChat = m_session.messagesByChat();

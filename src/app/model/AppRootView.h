@@ -8,7 +8,9 @@
 #include "session/CredentialStore.h"
 #include "session/TelegramSession.h"
 
+#include <QElapsedTimer>
 #include <QObject>
+#include <QTimer>
 #include <QSet>
 #include <QtQml/qqmlregistration.h>
 
@@ -20,10 +22,11 @@
 // badge in step with the unread total, marks messages read while the popover is
 // visible, and answers "openTelegramChat" and "vostPopoverVisibilityDidChange".
 //
-// Session changes are applied once per turn of the event loop. During a sync the
-// session announces every one of thousands of chat updates, and each application
-// copies the whole chat list (replaceChats, the unread total, the list model's
-// diff); doing that once per turn instead of once per update keeps a sync linear.
+// Session changes are applied once per turn of the event loop, and at most once
+// every 40 ms while they keep coming. During a sync the session announces every
+// one of thousands of chat updates, and each application copies the whole chat
+// list (replaceChats, the unread total, the list models' diffs); doing that once
+// per burst instead of once per update keeps a sync linear.
 // The effects keep the order of the rules: chats first (replace, unread total,
 // every chat's messages), then messages (and marking the selected chat read).
 // applyPendingChanges() applies what is waiting at once, for code that must see
@@ -74,7 +77,7 @@ public:
     static qint64 unreadTotal(const QList<Chat> &chats);
 
     void applyPendingChanges();
-    bool hasPendingChanges() const { return m_chatsPending || !m_messagesPending.isEmpty(); }
+    bool hasPendingChanges() const { return m_chatsPending || m_contactsPending || !m_messagesPending.isEmpty(); }
 
 Q_SIGNALS:
     void isPopoverVisibleChanged();
@@ -106,6 +109,9 @@ private:
     bool m_isPopoverVisible = false;
 
     bool m_chatsPending = false;
+    bool m_contactsPending = false;
     QSet<QString> m_messagesPending;
     bool m_scheduled = false;
+    QElapsedTimer m_sinceApplied;
+    QTimer *m_applyTimer;
 };
