@@ -1,5 +1,6 @@
 #include "VostApp.h"
 
+#include "AppPreferences.h"
 #include "AppRootView.h"
 #include "PopoverPlacement.h"
 #include "PopoverWindow.h"
@@ -141,6 +142,7 @@ bool VostApp::launch()
         infoDictionary = {{u"TelegramAPIID"_s, QString::number(demoAPIID)},
                           {u"TelegramAPIHash"_s, QString::fromLatin1(demoAPIHash)}};
         m_session->setBundle(demo);
+        AppPreferences::setDemoAccount(true);
     }
     m_credentialStore = new CredentialStore(infoDictionary, this);
     m_root = new AppRootView(*m_credentialStore, *m_session, this);

@@ -1,8 +1,10 @@
 // Every incoming message in a chat that is not muted is announced with a desktop
-// notification and the sound pack's sound, whichever chat is open.
+// notification (unless the user turned them off) and the sound pack's sound,
+// whichever chat is open.
 
 #include "session/ContentTexts.h"
 #include "session/NotificationService.h"
+#include "session/Preferences.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
 
@@ -21,6 +23,7 @@ void TelegramSession::notifyIfNeeded(const TdObject &message)
         return;
     const QString title =
         m_chatIndexKeys.contains(chatID) ? m_knownChats.value(chatID).title : u"New Telegram message"_s;
-    NotificationService::shared().notify(title, messageText(content.toObject()), chatID);
+    if (Preferences::shared().showsNotifications())
+        NotificationService::shared().notify(title, messageText(content.toObject()), chatID);
     m_soundManager->play(SoundEvent::IncomingMessage);
 }

@@ -1,6 +1,6 @@
 #include "session/SoundManager.h"
 
-#include "session/UserDefaults.h"
+#include "session/Preferences.h"
 
 #include <array>
 
@@ -50,12 +50,7 @@ SoundManager &SoundManager::shared()
 
 bool SoundManager::isEnabled() const
 {
-    const QVariant stored = UserDefaults::value(u"soundsEnabled"_s);
-    // Only a stored boolean false turns sounds off. The settings file keeps booleans
-    // as the words true and false, so those words count as booleans.
-    if (stored.typeId() == QMetaType::Bool)
-        return stored.toBool();
-    return stored.typeId() != QMetaType::QString || stored.toString() != "false"_L1;
+    return Preferences::shared().soundsEnabled();
 }
 
 void SoundManager::play(SoundEvent event, std::optional<SoundPack> previewPack) const
@@ -66,7 +61,7 @@ void SoundManager::play(SoundEvent event, std::optional<SoundPack> previewPack) 
     } else {
         if (!isEnabled())
             return;
-        pack = soundPackFromRawValue(UserDefaults::value(u"soundPack"_s).toString()).value_or(SoundPack::Crystal);
+        pack = Preferences::shared().soundPack();
     }
     if (m_player)
         m_player->play(soundName(pack, event));

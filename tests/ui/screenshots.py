@@ -75,10 +75,19 @@ def light(desktop, vost):
     vost.find("popup menu", "Message actions")
     shoot(desktop, vost, "message-menu.png")
     vost.key("Escape")
+    preferences(desktop, vost, "light")
+
+
+def preferences(desktop, vost, suffix):
+    vost.find("push button", "Preferences").press()
+    vost.find("panel", "Preferences")
+    shoot(desktop, vost, f"preferences-{suffix}.png")
+    vost.key("Escape")
 
 
 def dark(desktop, vost):
     emma(desktop, vost, "dark")
+    preferences(desktop, vost, "dark")
 
 
 def main():

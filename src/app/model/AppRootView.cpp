@@ -1,5 +1,6 @@
 #include "AppRootView.h"
 
+#include "session/Initials.h"
 #include "session/NotificationCenter.h"
 
 #include <QtNumeric>
@@ -68,6 +69,7 @@ void AppRootView::connectSession()
             [this] { m_viewModel->setStickerError(m_session.stickerError().value_or(QString())); });
     connect(session, &TelegramSession::recentStickersLoadedChanged, this,
             [this] { m_viewModel->setRecentStickersLoaded(m_session.recentStickersLoaded()); });
+    connect(session, &TelegramSession::currentAccountNameChanged, this, &AppRootView::accountInitialsChanged);
     connect(session, &TelegramSession::contactsChanged, this, [this] {
         m_contactsPending = true;
         schedule();
@@ -85,6 +87,11 @@ void AppRootView::connectSession()
                    [this](const QVariant &object) { popoverVisibilityChanged(object); });
     center.observe(QString::fromLatin1(NotificationName::openTelegramChat), this,
                    [this](const QVariant &object) { openChatRequested(object); });
+}
+
+QString AppRootView::accountInitials() const
+{
+    return initials(m_session.currentAccountName());
 }
 
 void AppRootView::schedule()

@@ -45,6 +45,8 @@ class AppRootView : public QObject
     Q_PROPERTY(StickerListModel *recentStickerList READ recentStickerList CONSTANT)
     Q_PROPERTY(ContactListModel *contactList READ contactList CONSTANT)
     Q_PROPERTY(bool isPopoverVisible READ isPopoverVisible NOTIFY isPopoverVisibleChanged)
+    // The signed-in account's initials, for its avatar.
+    Q_PROPERTY(QString accountInitials READ accountInitials NOTIFY accountInitialsChanged)
     Q_PROPERTY(bool hasCredentials READ hasCredentials CONSTANT)
 
 public:
@@ -77,10 +79,12 @@ public:
     static qint64 unreadTotal(const QList<Chat> &chats);
 
     void applyPendingChanges();
+    QString accountInitials() const;
     bool hasPendingChanges() const { return m_chatsPending || m_contactsPending || !m_messagesPending.isEmpty(); }
 
 Q_SIGNALS:
     void isPopoverVisibleChanged();
+    void accountInitialsChanged();
 
 private:
     void connectSession();

@@ -42,11 +42,28 @@ FocusScope {
         ChatListView {
             id: chatListView
 
-            anchors.fill: parent
+            anchors {
+                left: parent.left
+                right: parent.right
+                top: parent.top
+                bottom: toolbar.top
+            }
             focus: true
             viewModel: layout.viewModel
             chatList: layout.host.chatList
             onChatChosen: if (conversationPane.item) conversationPane.item.forceActiveFocus()
+        }
+
+        SidebarToolbar {
+            id: toolbar
+
+            anchors {
+                left: parent.left
+                right: parent.right
+                bottom: parent.bottom
+            }
+            host: layout.host
+            onPreferencesRequested: layout.showPreferences()
         }
     }
 
@@ -99,5 +116,36 @@ FocusScope {
         id: emptyConversation
 
         EmptyConversationView {}
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        onActivated: layout.showPreferences()
+    }
+
+    // Over everything else while open; the chats underneath keep their state.
+    Loader {
+        id: preferencesPage
+
+        anchors.fill: parent
+        active: false
+        z: 10
+        sourceComponent: PreferencesView {
+            host: layout.host
+            focus: true
+            onClosed: layout.hidePreferences()
+        }
+        onLoaded: item.forceActiveFocus()
+    }
+
+    function showPreferences() {
+        preferencesPage.active = true;
+        if (preferencesPage.item)
+            preferencesPage.item.forceActiveFocus();
+    }
+
+    function hidePreferences() {
+        preferencesPage.active = false;
+        chatListView.forceActiveFocus();
     }
 }

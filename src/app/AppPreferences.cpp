@@ -1,0 +1,27 @@
+#include "AppPreferences.h"
+
+#include "platform/Autostart.h"
+#include "tdlib/AppBundle.h"
+
+using namespace Qt::StringLiterals;
+
+AppPreferences::AppPreferences(QObject *parent)
+    : QObject(parent)
+{}
+
+bool AppPreferences::startsAtLogin() const
+{
+    return Autostart::isEnabled();
+}
+
+void AppPreferences::setStartsAtLogin(bool starts)
+{
+    Autostart::setEnabled(starts);
+    // Whatever happened, the switch shows what is on disk.
+    Q_EMIT startsAtLoginChanged();
+}
+
+QString AppPreferences::version() const
+{
+    return AppBundle::main().infoDictionary().value(u"CFBundleShortVersionString"_s).toString();
+}

@@ -1,0 +1,87 @@
+#include "Preferences.h"
+
+#include "session/UserDefaults.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString soundsEnabledKey = u"soundsEnabled"_s;
+const QString soundPackKey = u"soundPack"_s;
+const QString showNotificationsKey = u"showNotifications"_s;
+
+// Only a stored boolean false counts as off. The settings file keeps booleans as
+// the words true and false, so those words count as booleans.
+bool storedFlag(const QString &key)
+{
+    const QVariant stored = UserDefaults::value(key);
+    if (stored.typeId() == QMetaType::Bool)
+        return stored.toBool();
+    return stored.typeId() != QMetaType::QString || stored.toString() != "false"_L1;
+}
+
+} // namespace
+
+Preferences &Preferences::shared()
+{
+    static Preferences *preferences = new Preferences;
+    return *preferences;
+}
+
+bool Preferences::soundsEnabled() const
+{
+    return storedFlag(soundsEnabledKey);
+}
+
+void Preferences::setSoundsEnabled(bool enabled)
+{
+    if (enabled == soundsEnabled() && UserDefaults::value(soundsEnabledKey).isValid())
+        return;
+    UserDefaults::setValue(soundsEnabledKey, enabled);
+    Q_EMIT soundsEnabledChanged();
+}
+
+SoundPack Preferences::soundPack() const
+{
+    return soundPackFromRawValue(UserDefaults::value(soundPackKey).toString()).value_or(SoundPack::Crystal);
+}
+
+void Preferences::setSoundPackName(const QString &name)
+{
+    const std::optional<SoundPack> pack = soundPackFromRawValue(name);
+    if (!pack || (*pack == soundPack() && UserDefaults::value(soundPackKey).toString() == name))
+        return;
+    UserDefaults::setValue(soundPackKey, rawValue(*pack));
+    Q_EMIT soundPackChanged();
+}
+
+QStringList Preferences::soundPacks() const
+{
+    return {rawValue(SoundPack::Crystal), rawValue(SoundPack::Gentle), rawValue(SoundPack::Classic),
+            rawValue(SoundPack::Playful)};
+}
+
+bool Preferences::showsNotifications() const
+{
+    return storedFlag(showNotificationsKey);
+}
+
+void Preferences::setShowsNotifications(bool shown)
+{
+    if (shown == showsNotifications() && UserDefaults::value(showNotificationsKey).isValid())
+        return;
+    UserDefaults::setValue(showNotificationsKey, shown);
+    Q_EMIT showsNotificationsChanged();
+}
+
+void Preferences::previewSoundPack(const QString &name)
+{
+    const std::optional<SoundPack> pack = soundPackFromRawValue(name);
+    if (!pack)
+        return;
+    SoundManager::shared().play(SoundEvent::Preview0, *pack);
+    // The second sound once the first has had its moment.
+    QTimer::singleShot(450, this, [pack] { SoundManager::shared().play(SoundEvent::Preview2, *pack); });
+}

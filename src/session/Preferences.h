@@ -1,0 +1,48 @@
+#pragma once
+
+#include "session/SoundManager.h"
+
+#include <QObject>
+#include <QStringList>
+
+// The user's preferences in one place: the sound manager, the notification
+// service and the preferences page read and write them here, and hear about
+// changes. They live in the user-defaults store ("soundsEnabled", "soundPack",
+// "showNotifications"); the appearance mode has its own home in Appearance.
+class Preferences : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool soundsEnabled READ soundsEnabled WRITE setSoundsEnabled NOTIFY soundsEnabledChanged)
+    // The pack's raw value: "crystal", "gentle", "classic" or "playful".
+    Q_PROPERTY(QString soundPack READ soundPackName WRITE setSoundPackName NOTIFY soundPackChanged)
+    Q_PROPERTY(QStringList soundPacks READ soundPacks CONSTANT)
+    Q_PROPERTY(bool showsNotifications READ showsNotifications WRITE setShowsNotifications NOTIFY
+                   showsNotificationsChanged)
+
+public:
+    static Preferences &shared();
+
+    // Sounds play unless a boolean false is stored.
+    bool soundsEnabled() const;
+    void setSoundsEnabled(bool enabled);
+    // A missing or unknown pack is crystal.
+    SoundPack soundPack() const;
+    QString soundPackName() const { return rawValue(soundPack()); }
+    void setSoundPackName(const QString &name);
+    QStringList soundPacks() const;
+    // Desktop notifications are shown unless the user turned them off.
+    bool showsNotifications() const;
+    void setShowsNotifications(bool shown);
+
+    // Plays the pack's two preview sounds, one after the other, whether sounds are
+    // on or not.
+    Q_INVOKABLE void previewSoundPack(const QString &name);
+
+Q_SIGNALS:
+    void soundsEnabledChanged();
+    void soundPackChanged();
+    void showsNotificationsChanged();
+
+private:
+    using QObject::QObject;
+};

@@ -1,0 +1,107 @@
+#!/usr/bin/python3
+"""The preferences page: reached from the sidebar's toolbar or Ctrl+, and left with
+Esc; appearance applied at once, sounds, notifications and starting at login
+stored where the program reads them, and "Change account" back to sign-in."""
+
+import configparser
+import os
+import subprocess
+
+from vostui import CODE_FIELD, DEMO_CODE, DEMO_PHONE, PHONE_FIELD, VostTestCase, dishonest_nodes, main, wait_until
+
+
+def stored(vost, key):
+    settings = configparser.ConfigParser(interpolation=None)
+    settings.optionxform = str
+    settings.read(vost.settings_path)
+    return settings.get("General", key, fallback=None)
+
+
+def brightness(path):
+    out = subprocess.run(["convert", path, "-colorspace", "gray", "-format", "%[fx:mean]", "info:"],
+                         capture_output=True, text=True, check=True).stdout
+    return float(out)
+
+
+class Preferences(VostTestCase):
+    def open_preferences(self):
+        vost = self.open_signed_in()
+        vost.find("push button", "Preferences").press()
+        return vost, vost.find("panel", "Preferences")
+
+    def test_the_page_shows_every_preference_and_esc_returns_to_the_chats(self):
+        vost, page = self.open_preferences()
+        for name in ("System", "Light", "Dark", "Crystal", "Gentle", "Classic", "Playful"):
+            vost.find("radio button", name, within=page)
+        for name in ("Play sounds", "Show notifications", "Start Vost when I sign in to my computer"):
+            vost.find("check box", name, within=page)
+        vost.find("push button", "Change account", within=page)
+        vost.find("paragraph", "Demo account: nothing leaves this computer", within=page)
+        vost.find("paragraph", "Vost 0.1", contains=True, within=page)
+        self.assertEqual(dishonest_nodes(page), [])
+        vost.key("Escape")
+        vost.absent("panel", "Preferences")
+        vost.find("list", "Chat list")
+        self.assertTrue(vost.popover_shown())
+        # The keyboard way in.
+        vost.key("ctrl+comma")
+        vost.find("panel", "Preferences")
+        vost.find("push button", "Back").press()
+        vost.absent("panel", "Preferences")
+
+    def test_dark_applies_at_once_and_is_remembered(self):
+        vost, page = self.open_preferences()
+        light = brightness(self.desktop.screenshot(os.path.join(self.desktop.work, "light.png"),
+                                                   crop=vost.window().extents()))
+        vost.find("radio button", "Dark", within=page).press()
+        wait_until(lambda: vost.find("radio button", "Dark", within=page).has_state("checked"))
+        dark = brightness(self.desktop.screenshot(os.path.join(self.desktop.work, "dark.png"),
+                                                  crop=vost.window().extents()))
+        self.assertLess(dark, light - 0.3)
+        wait_until(lambda: stored(vost, "vostAppearanceMode") == "dark", what="the mode stored")
+        vost.find("radio button", "Light", within=page).press()
+        wait_until(lambda: stored(vost, "vostAppearanceMode") == "light", what="the mode stored")
+
+    def test_sounds_pack_and_notifications_are_stored(self):
+        vost, page = self.open_preferences()
+        sounds = vost.find("check box", "Play sounds", within=page)
+        self.assertTrue(sounds.has_state("checked"))
+        sounds.press()
+        wait_until(lambda: stored(vost, "soundsEnabled") == "false", what="sounds off stored")
+        wait_until(lambda: not vost.find("check box", "Play sounds", within=page).has_state("checked"))
+        self.assertTrue(vost.find("radio button", "Crystal", within=page).has_state("checked"))
+        vost.find("radio button", "Playful", within=page).press()
+        wait_until(lambda: stored(vost, "soundPack") == "playful", what="the pack stored")
+        self.assertFalse(vost.find("radio button", "Crystal", within=page).has_state("checked"))
+        vost.find("check box", "Show notifications", within=page).press()
+        wait_until(lambda: stored(vost, "showNotifications") == "false", what="notifications off stored")
+
+    def test_starting_at_login_writes_and_removes_the_autostart_entry(self):
+        vost, page = self.open_preferences()
+        entry = os.path.join(self.desktop.env["HOME"], ".config", "autostart", "vost.desktop")
+        self.assertFalse(os.path.exists(entry))
+        vost.find("check box", "Start Vost when I sign in to my computer", within=page).press()
+        wait_until(lambda: os.path.exists(entry), what="the autostart entry")
+        with open(entry) as file:
+            text = file.read()
+        self.assertIn("[Desktop Entry]", text)
+        self.assertIn("Exec=", text)
+        vost.find("check box", "Start Vost when I sign in to my computer", within=page).press()
+        wait_until(lambda: not os.path.exists(entry), what="the autostart entry gone")
+
+    def test_change_account_signs_out_to_the_sign_in_screen(self):
+        vost, page = self.open_preferences()
+        vost.find("push button", "Change account", within=page).press()
+        dialog = vost.find("dialog", "Sign out of this account and sign in to another?")
+        vost.find("push button", "Change account", within=dialog).press()
+        phone = vost.find("text", PHONE_FIELD, timeout=20)
+        vost.absent("list", "Chat list")
+        vost.fill(phone, DEMO_PHONE)
+        vost.key("Return")
+        vost.fill(vost.find("text", CODE_FIELD, timeout=15), DEMO_CODE)
+        vost.key("Return")
+        vost.wait_for_chats()
+
+
+if __name__ == "__main__":
+    main()
