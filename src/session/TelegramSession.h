@@ -12,6 +12,7 @@
 
 #include <QHash>
 #include <QSet>
+#include <QStringList>
 
 #include <functional>
 #include <map>
@@ -36,6 +37,7 @@ class TelegramSession : public QObject
     Q_PROPERTY(QString errorMessage READ errorMessageText NOTIFY errorMessageChanged)
     Q_PROPERTY(QString startupStatus READ startupStatus NOTIFY startupStatusChanged)
     Q_PROPERTY(QString currentAccountName READ currentAccountName NOTIFY currentAccountNameChanged)
+    Q_PROPERTY(QStringList deletingChatIDs READ deletingChatIDs NOTIFY deletingChatsChanged)
     Q_PROPERTY(QString currentAccountPhoneNumber READ currentAccountPhoneNumber NOTIFY currentAccountPhoneNumberChanged)
 
 public:
@@ -137,6 +139,9 @@ public:
     std::optional<QString> conversationError() const { return m_conversationError; }
     bool creatingConversation() const { return m_creatingConversation; }
     const QSet<QString> &deletingChats() const { return m_deletingChats; }
+    // For the views: the chats being deleted, and whether a chat is with one person.
+    QStringList deletingChatIDs() const { return m_deletingChats.values(); }
+    Q_INVOKABLE bool isPrivateChat(const QString &chatID) const { return m_privateChatUsers.contains(chatID); }
     std::optional<QString> newlyOpenedChatID() const { return m_newlyOpenedChatID; }
 
     // One raw answer or update as TDLib delivered it.

@@ -52,6 +52,37 @@ class ChatList(VostTestCase):
         vost.find("list item", "Olivia Martinez: Listen to this 😃", contains=True)
 
 
+class ChatMenu(VostTestCase):
+    def open_menu(self, vost, title):
+        row = vost.find("list item", title, contains=True, within=vost.find("list", "Chat list"))
+        vost.click(row, button=3)
+        return vost.find("popup menu", "Chat actions")
+
+    def test_a_chat_is_deleted_after_confirming_and_leaves_the_list(self):
+        vost = self.open_signed_in()
+        menu = self.open_menu(vost, "Liam Chen")
+        self.assertEqual([item.name for item in vost.all("menu item", within=menu)],
+                         ["Delete chat", "Delete chat and contact"])
+        self.assertEqual(dishonest_nodes(menu), [])
+        vost.find("menu item", "Delete chat", within=menu).press()
+        dialog = vost.find("dialog", "Delete the chat “Liam Chen”?")
+        vost.find("push button", "Cancel", within=dialog).press()
+        vost.absent("dialog")
+        vost.find("list item", "Liam Chen", contains=True)
+        menu = self.open_menu(vost, "Liam Chen")
+        vost.find("menu item", "Delete chat", within=menu).press()
+        dialog = vost.find("dialog", "Delete the chat “Liam Chen”?")
+        vost.find("push button", "Delete", within=dialog).press()
+        vost.absent("list item", "Liam Chen", contains=True, timeout=15)
+
+    def test_a_group_offers_no_contact_to_delete(self):
+        vost = self.open_signed_in()
+        menu = self.open_menu(vost, "Family")
+        self.assertEqual([item.name for item in vost.all("menu item", within=menu)], ["Delete chat"])
+        vost.key("Escape")
+        vost.absent("popup menu", "Chat actions")
+
+
 class Sending(VostTestCase):
     def test_the_send_button_sends_and_the_bots_answer_stays_in_view(self):
         vost = self.open_signed_in()

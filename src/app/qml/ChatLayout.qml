@@ -51,7 +51,10 @@ FocusScope {
             focus: true
             viewModel: layout.viewModel
             chatList: layout.host.chatList
+            session: layout.host.session
             onChatChosen: if (conversationPane.item) conversationPane.item.forceActiveFocus()
+            onChatMenuRequested: (chatID, title) => chatMenu.openFor(chatID, title,
+                                                                     layout.host.session.isPrivateChat(chatID))
         }
 
         SidebarToolbar {
@@ -116,6 +119,28 @@ FocusScope {
         id: emptyConversation
 
         EmptyConversationView {}
+    }
+
+    ChatMenu {
+        id: chatMenu
+
+        onDeleteRequested: (chatID, title, includingContact) => {
+            deletion.chatID = chatID;
+            deletion.includingContact = includingContact;
+            deletion.question = includingContact ? qsTr("Delete the chat with %1 and remove them from your contacts?").arg(title)
+                                                 : qsTr("Delete the chat “%1”?").arg(title);
+            deletion.open();
+        }
+    }
+
+    ConfirmDialog {
+        id: deletion
+
+        property string chatID
+        property bool includingContact
+
+        actionText: qsTr("Delete")
+        onConfirmed: layout.host.session.deleteChat(chatID, includingContact)
     }
 
     Shortcut {

@@ -10,9 +10,12 @@ FocusScope {
 
     required property ChatViewModel viewModel
     required property ChatListModel chatList
+    required property var session
 
     // Enter on a chat: the user wants to write in it.
     signal chatChosen
+    // A chat's menu: a right click on its row, or the Menu key on the selected one.
+    signal chatMenuRequested(string chatID, string title)
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Sidebar")
@@ -69,8 +72,24 @@ FocusScope {
         Keys.onReturnPressed: sidebar.chatChosen()
         Keys.onEnterPressed: sidebar.chatChosen()
 
+        Keys.onMenuPressed: list.requestMenuForSelection()
+        Keys.onPressed: event => {
+            if (event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier)) {
+                list.requestMenuForSelection();
+                event.accepted = true;
+            }
+        }
+
+        function requestMenuForSelection() {
+            const row = sidebar.chatList.rowOf(sidebar.viewModel.selectedChatID);
+            if (row >= 0 && itemAtIndex(row))
+                sidebar.chatMenuRequested(sidebar.viewModel.selectedChatID, itemAtIndex(row).title);
+        }
+
         delegate: ChatRow {
             width: ListView.view.width
+            deleting: sidebar.session.deletingChatIDs.includes(chatID)
+            onMenuRequested: sidebar.chatMenuRequested(chatID, title)
             onClicked: {
                 sidebar.viewModel.selectChat(chatID);
                 list.forceActiveFocus();

@@ -25,10 +25,16 @@ Rectangle {
     required property bool isSelected
     required property bool isTyping
 
+    // The chat is on its way out of the list.
+    property bool deleting: false
+
     signal clicked
+    // A right click: the chat's menu, at the pointer.
+    signal menuRequested
 
     readonly property bool hasUnread: unreadCount > 0 || isMarkedUnread
-    readonly property string secondLine: isTyping ? subtitle : (draftText !== "" ? qsTr("Draft: %1").arg(draftText) : preview)
+    readonly property string secondLine: deleting ? qsTr("Deleting…")
+                                                  : (isTyping ? subtitle : (draftText !== "" ? qsTr("Draft: %1").arg(draftText) : preview))
     // Only rows inside the list's viewport are shown to assistive technology.
     readonly property bool onScreen: ListView.view !== null && y + height > ListView.view.contentY
                                      && y < ListView.view.contentY + ListView.view.height
@@ -61,8 +67,15 @@ Rectangle {
         id: hover
     }
 
+    opacity: deleting ? 0.5 : 1
+
     TapHandler {
         onTapped: row.clicked()
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: row.menuRequested()
     }
 
     Avatar {
