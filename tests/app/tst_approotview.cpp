@@ -102,6 +102,28 @@ private Q_SLOTS:
         QVERIFY(m_requests.contains(u"openChat"_s));
     }
 
+    void typedTextStaysWithItsChat()
+    {
+        m_session->handleResponse(newChat(1, u"One"_s, 1, 0));
+        m_session->handleResponse(newChat(2, u"Two"_s, 2, 0));
+        m_root->applyPendingChanges();
+        ChatViewModel *model = m_root->viewModel();
+        model->setSelectedChatID(u"1"_s);
+        model->setComposerText(u"half a thought"_s);
+        model->setSelectedChatID(u"2"_s);
+        QCOMPARE(model->composerText(), QString());
+        model->setComposerText(u"for two"_s);
+        model->setSelectedChatID(u"1"_s);
+        QCOMPARE(model->composerText(), u"half a thought"_s);
+        // Cleared text is forgotten; nothing was sent as a draft.
+        model->setComposerText({});
+        model->setSelectedChatID(u"2"_s);
+        QCOMPARE(model->composerText(), u"for two"_s);
+        model->setSelectedChatID(u"1"_s);
+        QCOMPARE(model->composerText(), QString());
+        QVERIFY(!m_requests.contains(u"setChatDraftMessage"_s));
+    }
+
     void popoverVisibilityRefreshesChatsAndOpenChatSelects()
     {
         m_session->handleResponse(newChat(1, u"One"_s, 1, 0));

@@ -238,8 +238,26 @@ void AppRootView::markReadIfVisible(const QString &chatID)
         m_session.markMessagesRead(*messages, chatID);
 }
 
+void AppRootView::keepTypedText()
+{
+    const QString selected = m_viewModel->selectedChatID().value_or(QString());
+    if (selected == m_composerChatID)
+        return;
+    // An edit in progress is not typed text: it goes with its message.
+    const QString typed = m_viewModel->editingMessage() ? QString() : m_viewModel->composerText();
+    if (!m_composerChatID.isEmpty()) {
+        if (typed.isEmpty())
+            m_typedTexts.remove(m_composerChatID);
+        else
+            m_typedTexts.insert(m_composerChatID, typed);
+    }
+    m_composerChatID = selected;
+    m_viewModel->setComposerText(m_typedTexts.take(selected));
+}
+
 void AppRootView::selectedChatChanged()
 {
+    keepTypedText();
     const std::optional<QString> selected = m_viewModel->selectedChatID();
     if (!selected)
         return; // a change to no selection does nothing

@@ -93,6 +93,7 @@ private:
     void schedule();
     void fillHandlers();
     void selectedChatChanged();
+    void keepTypedText();
     void popoverVisibilityChanged(const QVariant &object);
     void openChatRequested(const QVariant &object);
     void markReadIfVisible(const QString &chatID);
@@ -111,6 +112,11 @@ private:
     StickerListModel *m_stickerList;
     ContactListModel *m_contactList;
     bool m_isPopoverVisible = false;
+
+    // What the user left typed in each chat, kept on this computer only (never
+    // sent as a draft), and the chat the composer's text belongs to now.
+    QHash<QString, QString> m_typedTexts;
+    QString m_composerChatID;
 
     bool m_chatsPending = false;
     bool m_contactsPending = false;
