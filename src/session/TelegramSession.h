@@ -38,6 +38,8 @@ class TelegramSession : public QObject
     Q_PROPERTY(QString startupStatus READ startupStatus NOTIFY startupStatusChanged)
     Q_PROPERTY(QString currentAccountName READ currentAccountName NOTIFY currentAccountNameChanged)
     Q_PROPERTY(QStringList deletingChatIDs READ deletingChatIDs NOTIFY deletingChatsChanged)
+    Q_PROPERTY(bool creatingConversation READ creatingConversation NOTIFY creatingConversationChanged)
+    Q_PROPERTY(QString conversationError READ conversationErrorText NOTIFY conversationErrorChanged)
     Q_PROPERTY(QString currentAccountPhoneNumber READ currentAccountPhoneNumber NOTIFY currentAccountPhoneNumberChanged)
 
 public:
@@ -137,6 +139,7 @@ public:
     const QList<ContactChoice> &contacts() const { return m_contacts; }
     const QList<ContactChoice> &contactResults() const { return m_contactResults; }
     std::optional<QString> conversationError() const { return m_conversationError; }
+    QString conversationErrorText() const { return m_conversationError.value_or(QString()); }
     bool creatingConversation() const { return m_creatingConversation; }
     const QSet<QString> &deletingChats() const { return m_deletingChats; }
     // For the views: the chats being deleted, and whether a chat is with one person.

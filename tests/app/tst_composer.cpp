@@ -3,7 +3,7 @@
 // and sizes and durations as shown.
 
 #include "Attachments.h"
-#include "ChatFilterModel.h"
+#include "SearchFilterModel.h"
 #include "ChatListModel.h"
 #include "ChatViewModel.h"
 #include "EmojiCatalog.h"
@@ -214,7 +214,7 @@ private Q_SLOTS:
         // The sidebar's search does not narrow the chooser.
         model.setSearchText(u"Lab"_s);
         ChatListModel chats(&model, ChatListModel::Rows::All);
-        ChatFilterModel filtered;
+        SearchFilterModel filtered;
         filtered.setSourceModel(&chats);
         QAbstractItemModelTester tester(&filtered, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(filtered.rowCount(), 3);

@@ -76,6 +76,14 @@ def light(desktop, vost):
     shoot(desktop, vost, "message-menu.png")
     vost.key("Escape")
     preferences(desktop, vost, "light")
+    new_chat(desktop, vost, "light")
+
+
+def new_chat(desktop, vost, suffix):
+    vost.find("push button", "New chat").press()
+    vost.find("list item", "Emma Wilson", contains=True, within=vost.find("list", "Contacts"))
+    shoot(desktop, vost, f"new-chat-{suffix}.png")
+    vost.key("Escape")
 
 
 def preferences(desktop, vost, suffix):
@@ -88,6 +96,7 @@ def preferences(desktop, vost, suffix):
 def dark(desktop, vost):
     emma(desktop, vost, "dark")
     preferences(desktop, vost, "dark")
+    new_chat(desktop, vost, "dark")
 
 
 def main():

@@ -14,7 +14,7 @@ class ChatViewModel;
 // kept in step by row changes (never a reset for a small change) whenever the
 // chats, the search text or the selection change. With Rows::All it lists every
 // chat whatever the sidebar's search (the choosers of other views filter it their
-// own way, see ChatFilterModel).
+// own way, see SearchFilterModel).
 //
 // Roles: chatID, title, subtitle, preview (typed smileys shown as emoji, as
 // everywhere a message text is shown), timestamp, unreadCount (int, negative read

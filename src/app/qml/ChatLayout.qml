@@ -67,6 +67,7 @@ FocusScope {
             }
             host: layout.host
             onPreferencesRequested: layout.showPreferences()
+            onNewChatRequested: layout.showNewChat()
         }
     }
 
@@ -146,6 +147,39 @@ FocusScope {
     Shortcut {
         sequence: "Ctrl+,"
         onActivated: layout.showPreferences()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+N"
+        onActivated: layout.showNewChat()
+    }
+
+    Loader {
+        id: newChatPage
+
+        anchors.fill: parent
+        active: false
+        z: 10
+        sourceComponent: NewChatView {
+            host: layout.host
+            focus: true
+            onClosed: layout.hideNewChat()
+        }
+        onLoaded: item.forceActiveFocus()
+    }
+
+    function showNewChat() {
+        newChatPage.active = true;
+        if (newChatPage.item)
+            newChatPage.item.forceActiveFocus();
+    }
+
+    function hideNewChat() {
+        newChatPage.active = false;
+        if (conversationPane.item)
+            conversationPane.item.forceActiveFocus();
+        else
+            chatListView.forceActiveFocus();
     }
 
     // Over everything else while open; the chats underneath keep their state.

@@ -2,13 +2,15 @@ import QtQuick
 import Vost.App
 import Vost.Model
 
-// Under the chat list: who is signed in, and the way to the preferences.
+// Under the chat list: who is signed in, and the ways to a new chat and to the
+// preferences.
 Item {
     id: toolbar
 
     required property AppRootView host
 
     signal preferencesRequested
+    signal newChatRequested
 
     implicitHeight: 52
 
@@ -39,7 +41,7 @@ Item {
         anchors {
             left: avatar.right
             leftMargin: 8
-            right: preferences.left
+            right: newChat.left
             rightMargin: 8
             verticalCenter: parent.verticalCenter
         }
@@ -47,6 +49,20 @@ Item {
         elide: Text.ElideRight
         font.pixelSize: 13
         wrapMode: Text.NoWrap
+    }
+
+    IconButton {
+        id: newChat
+
+        anchors {
+            right: preferences.left
+            rightMargin: 4
+            verticalCenter: parent.verticalCenter
+        }
+        glyph: "✎"
+        Accessible.name: qsTr("New chat")
+        tip: qsTr("New chat (Ctrl+N)")
+        onClicked: toolbar.newChatRequested()
     }
 
     IconButton {

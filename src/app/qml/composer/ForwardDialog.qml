@@ -38,7 +38,7 @@ Dialog {
         border.color: Appearance.separator
     }
 
-    ChatFilterModel {
+    SearchFilterModel {
         id: filtered
 
         sourceModel: dialog.chats

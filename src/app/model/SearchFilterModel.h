@@ -3,17 +3,18 @@
 #include <QSortFilterProxyModel>
 #include <QtQml/qqmlregistration.h>
 
-// The chats of a ChatListModel whose title contains the search text, ignoring
-// case as the sidebar's search does; all of them while it is empty. The
-// "Forward to" chooser lists chats through it.
-class ChatFilterModel : public QSortFilterProxyModel
+// The rows of a list whose filterRole (by default a chat's title) contains the
+// search text, ignoring case as the sidebar's search does; all of them while it is
+// empty. The "Forward to" chooser lists chats through it, the new-chat view its
+// contacts by name.
+class SearchFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
 
 public:
-    explicit ChatFilterModel(QObject *parent = nullptr);
+    explicit SearchFilterModel(QObject *parent = nullptr);
 
     QString searchText() const { return m_searchText; }
     void setSearchText(const QString &text);

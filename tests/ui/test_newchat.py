@@ -1,0 +1,70 @@
+#!/usr/bin/python3
+"""Starting a conversation: "New chat" from the sidebar's toolbar or Ctrl+N, a
+contact found by name, a contact added by phone number and a username opened,
+with the session's own words when that fails."""
+
+from vostui import VostTestCase, dishonest_nodes, main, wait_until
+
+NO_ACCOUNT = ("No Telegram account could be found for that number. Check the country code or try their "
+              "username; Telegram privacy settings can prevent phone-number lookup.")
+BAD_USERNAME = "Enter a Telegram username, such as @username, using letters, numbers and underscores."
+
+
+class NewChat(VostTestCase):
+    def open_new_chat(self, vost):
+        vost.find("push button", "New chat").press()
+        return vost.find("panel", "New chat")
+
+    def test_a_contact_found_by_name_opens_its_chat(self):
+        vost = self.open_signed_in()
+        view = self.open_new_chat(vost)
+        contacts = vost.find("list", "Contacts", within=view)
+        vost.find("list item", "Emma Wilson", contains=True, within=contacts)
+        self.assertEqual(dishonest_nodes(view), [])
+        vost.fill(vost.find("text", "Search contacts", within=view), "liam")
+        vost.absent("list item", "Emma Wilson", contains=True, within=contacts)
+        vost.find("list item", "Liam Chen", contains=True, within=contacts).press()
+        vost.absent("panel", "New chat")
+        vost.find("panel", "Conversation with Liam Chen")
+
+    def test_adding_a_contact_by_phone_number(self):
+        vost = self.open_signed_in()
+        view = self.open_new_chat(vost)
+        vost.fill(vost.find("text", "First name", within=view), "Nobody")
+        vost.fill(vost.find("text", "Phone number", within=view), "+1 555 9999")
+        vost.find("push button", "Add contact", within=view).press()
+        vost.find("alert", NO_ACCOUNT, within=view, timeout=15)
+        # Chloe Hall is on Telegram but not among the contacts.
+        vost.fill(vost.find("text", "First name", within=view), "Chloe")
+        vost.fill(vost.find("text", "Last name", within=view), "Hall")
+        vost.fill(vost.find("text", "Phone number", within=view), "+1 555 0123")
+        vost.find("push button", "Add contact", within=view).press()
+        vost.absent("panel", "New chat", timeout=15)
+        vost.find("panel", "Conversation with Chloe Hall")
+
+    def test_opening_a_username(self):
+        vost = self.open_signed_in()
+        vost.key("ctrl+n")
+        view = vost.find("panel", "New chat")
+        vost.fill(vost.find("text", "Username", within=view), "a b")
+        vost.find("push button", "Open", within=view).press()
+        vost.find("alert", BAD_USERNAME, within=view)
+        vost.fill(vost.find("text", "Username", within=view), "@nobody_here_at_all")
+        vost.find("push button", "Open", within=view).press()
+        wait_until(lambda: [a for a in vost.all("alert", within=view) if a.name and a.name != BAD_USERNAME],
+                   timeout=15, what="the unknown username's error")
+        vost.fill(vost.find("text", "Username", within=view), "@oliver_king")
+        vost.key("Return")
+        vost.absent("panel", "New chat", timeout=15)
+        vost.find("panel", "Conversation with Oliver King")
+
+    def test_escape_returns_to_the_chats(self):
+        vost = self.open_signed_in()
+        self.open_new_chat(vost)
+        vost.key("Escape")
+        vost.absent("panel", "New chat")
+        self.assertTrue(vost.popover_shown())
+
+
+if __name__ == "__main__":
+    main()
