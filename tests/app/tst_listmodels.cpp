@@ -1,6 +1,7 @@
 // The list models follow the view model row by row, and stay consistent models
 // while they do (QAbstractItemModelTester checks every signal they send).
 
+#include "ArchiveFilterModel.h"
 #include "ChatListModel.h"
 #include "ChatViewModel.h"
 #include "ChoiceListModels.h"
@@ -259,6 +260,35 @@ private Q_SLOTS:
         QVERIFY(!model.index(0).data(MessageListModel::DateRole).toDateTime().isValid());
     }
 
+
+    void theArchiveKeepsItsChatsApartAndCountsThem()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel chats(&viewModel);
+        ArchiveFilterModel archive;
+        QAbstractItemModelTester tester(&archive, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        archive.setSourceModel(&chats);
+        const auto archived = [](int id, int unread) {
+            Chat chat = makeChat(id);
+            chat.isArchived = true;
+            chat.unreadCount = unread;
+            return chat;
+        };
+        viewModel.replaceChats({makeChat(1), archived(2, 3), makeChat(3), archived(4, 1)});
+        QTRY_COMPARE(archive.archivedCount(), 2);
+        QCOMPARE(archive.archivedUnreadCount(), 4);
+        QCOMPARE(column(archive, ChatListModel::IdRole), (QStringList{u"1"_s, u"3"_s}));
+        archive.setShowsArchived(true);
+        QCOMPARE(column(archive, ChatListModel::IdRole), (QStringList{u"2"_s, u"4"_s}));
+        QCOMPARE(archive.rowOf(u"4"_s), 1);
+        QCOMPARE(archive.idAt(0), u"2"_s);
+        // A chat leaving the archive leaves this list and the count.
+        viewModel.replaceChats({makeChat(1), makeChat(2), makeChat(3), archived(4, 1)});
+        QCOMPARE(column(archive, ChatListModel::IdRole), (QStringList{u"4"_s}));
+        QTRY_COMPARE(archive.archivedUnreadCount(), 1);
+        archive.setSearching(true);
+        QCOMPARE(archive.rowCount(), 4);
+    }
 
     void albumsShareARowAndPagesArriveByRows()
     {

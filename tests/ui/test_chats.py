@@ -52,6 +52,25 @@ class ChatList(VostTestCase):
         vost.find("list item", "Olivia Martinez: Listen to this 😃", contains=True)
 
 
+class Archive(VostTestCase):
+    def test_archived_chats_live_behind_their_own_row_and_search_finds_them(self):
+        vost = self.open_signed_in()
+        chat_list = vost.find("list", "Chat list")
+        self.assertFalse([row for row in vost.chat_rows() if "archived" in row.name])
+        archive = vost.find("list item", "Archived chats", contains=True, within=chat_list)
+        self.assertRegex(archive.name, r"^Archived chats, \d+ unread$")
+        archive.press()
+        vost.find("push button", "Back to chats", within=chat_list)
+        vost.find("list item", "Tech News", contains=True, within=chat_list)
+        self.assertTrue(all("archived" in row.name for row in vost.chat_rows()), [r.name for r in vost.chat_rows()])
+        vost.find("push button", "Back to chats", within=chat_list).press()
+        vost.find("list item", "Archived chats", contains=True, within=chat_list)
+        vost.absent("list item", "Tech News", contains=True, within=chat_list)
+        # A search looks everywhere.
+        vost.fill(vost.find("text", "Search"), "Tech")
+        vost.find("list item", "Tech News", contains=True, within=chat_list)
+
+
 class ChatMenu(VostTestCase):
     def open_menu(self, vost, title):
         row = vost.find("list item", title, contains=True, within=vost.find("list", "Chat list"))

@@ -58,7 +58,16 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
-        model: sidebar.chatList
+        model: ArchiveFilterModel {
+            id: archiveFilter
+
+            sourceModel: sidebar.chatList
+            searching: sidebar.viewModel.searchText !== ""
+        }
+        header: ArchiveHeader {
+            width: ListView.view.width
+            archive: archiveFilter
+        }
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Chat list")
@@ -81,7 +90,7 @@ FocusScope {
         }
 
         function requestMenuForSelection() {
-            const row = sidebar.chatList.rowOf(sidebar.viewModel.selectedChatID);
+            const row = archiveFilter.rowOf(sidebar.viewModel.selectedChatID);
             if (row >= 0 && itemAtIndex(row))
                 sidebar.chatMenuRequested(sidebar.viewModel.selectedChatID, itemAtIndex(row).title);
         }
@@ -100,9 +109,9 @@ FocusScope {
         function moveSelection(delta) {
             if (count === 0)
                 return;
-            const row = sidebar.chatList.rowOf(sidebar.viewModel.selectedChatID);
+            const row = archiveFilter.rowOf(sidebar.viewModel.selectedChatID);
             const next = row < 0 ? 0 : Math.max(0, Math.min(row + delta, count - 1));
-            sidebar.viewModel.selectChat(sidebar.chatList.idAt(next));
+            sidebar.viewModel.selectChat(archiveFilter.idAt(next));
             positionViewAtIndex(next, ListView.Contain);
         }
     }
@@ -118,7 +127,7 @@ FocusScope {
 
     ReadableText {
         anchors.centerIn: list
-        visible: list.count === 0
+        visible: list.count === 0 && !archiveFilter.showsArchived
         text: sidebar.viewModel.searchText !== "" ? qsTr("No results") : qsTr("No chats yet")
     }
 }
