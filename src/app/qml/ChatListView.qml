@@ -67,6 +67,8 @@ FocusScope {
         header: ArchiveHeader {
             width: ListView.view.width
             archive: archiveFilter
+            // It appears once the chats are counted: a list at its top shows it.
+            onHeightChanged: if (list.contentY - list.originY <= height) list.positionViewAtBeginning()
         }
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
