@@ -40,7 +40,7 @@ Item {
                 leftMargin: 22
                 verticalCenter: parent.verticalCenter
             }
-            text: "⊟  " + qsTr("Archived chats")
+            text: qsTr("Archived chats")
             color: Appearance.text
             font.pixelSize: 14
         }
