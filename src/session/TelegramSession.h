@@ -136,6 +136,8 @@ public:
     Q_INVOKABLE void requestPrivateChat(qint64 userID, const QString &requestID, bool contactSaved);
     Q_INVOKABLE void deleteChat(const QString &chatID, bool includingContact);
     Q_INVOKABLE void deleteContact(qint64 userID);
+    // Stops waiting for the conversation in progress; a late answer is ignored.
+    Q_INVOKABLE void cancelConversation();
     const QList<ContactChoice> &contacts() const { return m_contacts; }
     const QList<ContactChoice> &contactResults() const { return m_contactResults; }
     std::optional<QString> conversationError() const { return m_conversationError; }
@@ -261,7 +263,6 @@ private:
 
     // Contacts and conversations
     bool routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object);
-    void cancelConversation();
     void failConversation(const QString &text);
     void setConversationError(const std::optional<QString> &error);
     void setCreatingConversation(bool creating);

@@ -27,6 +27,24 @@ class NewChat(VostTestCase):
         vost.absent("panel", "New chat")
         vost.find("panel", "Conversation with Liam Chen")
 
+    def test_telegram_finds_contacts_by_username_and_a_contact_can_be_removed(self):
+        vost = self.open_signed_in()
+        view = self.open_new_chat(vost)
+        contacts = vost.find("list", "Contacts", within=view)
+        vost.fill(vost.find("text", "Search contacts", within=view), "emma_w")
+        vost.absent("list item", "Emma Wilson", contains=True, within=contacts)
+        found = vost.find("list", "Found by Telegram", within=view, timeout=15)
+        vost.find("list item", "Emma Wilson", contains=True, within=found)
+        vost.fill(vost.find("text", "Search contacts", within=view), "")
+        liam = vost.find("list item", "Liam Chen", contains=True, within=contacts)
+        vost.click(liam, button=3)
+        menu = vost.find("popup menu", "Contact actions")
+        self.assertEqual([item.name for item in vost.all("menu item", within=menu)], ["Message", "Delete contact"])
+        vost.find("menu item", "Delete contact", within=menu).press()
+        dialog = vost.find("dialog", "Remove Liam Chen from your contacts?")
+        vost.find("push button", "Delete contact", within=dialog).press()
+        vost.absent("list item", "Liam Chen", contains=True, within=contacts, timeout=15)
+
     def test_adding_a_contact_by_phone_number(self):
         vost = self.open_signed_in()
         view = self.open_new_chat(vost)

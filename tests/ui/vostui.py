@@ -466,9 +466,11 @@ class Vost:
         self.find("list", "Chat list", timeout=20)
 
     def chat_rows(self):
-        return self.all("list item", within=self.find("list", "Chat list"))
+        """The chats shown in the list (the "Archived chats" row is none)."""
+        return [row for row in self.all("list item", within=self.find("list", "Chat list"))
+                if not row.name.startswith("Archived chats")]
 
-    def wait_for_chats(self, minimum=8):
+    def wait_for_chats(self, minimum=6):
         return wait_until(lambda: len(self.chat_rows()) >= minimum and self.chat_rows(), timeout=20,
                           what=f"at least {minimum} chats")
 

@@ -29,6 +29,7 @@ AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<Teleg
     , m_messageList(new MessageListModel(m_viewModel, this))
     , m_stickerList(new StickerListModel(m_viewModel, this))
     , m_contactList(new ContactListModel(m_viewModel, this))
+    , m_contactResultList(new ContactListModel(m_viewModel, ContactListModel::Source::SearchResults, this))
     , m_applyTimer(new QTimer(this))
 {
     m_applyTimer->setSingleShot(true);
@@ -39,6 +40,7 @@ AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<Teleg
 AppRootView::~AppRootView()
 {
     // The models and the view model go before the session they were fed from.
+    delete m_contactResultList;
     delete m_contactList;
     delete m_stickerList;
     delete m_messageList;
@@ -70,6 +72,8 @@ void AppRootView::connectSession()
     connect(session, &TelegramSession::recentStickersLoadedChanged, this,
             [this] { m_viewModel->setRecentStickersLoaded(m_session.recentStickersLoaded()); });
     connect(session, &TelegramSession::currentAccountNameChanged, this, &AppRootView::accountInitialsChanged);
+    connect(session, &TelegramSession::contactResultsChanged, this,
+            [this] { m_viewModel->setContactResults(m_session.contactResults()); });
     connect(session, &TelegramSession::contactsChanged, this, [this] {
         m_contactsPending = true;
         schedule();

@@ -44,6 +44,8 @@ class AppRootView : public QObject
     Q_PROPERTY(MessageListModel *messageList READ messageList CONSTANT)
     Q_PROPERTY(StickerListModel *recentStickerList READ recentStickerList CONSTANT)
     Q_PROPERTY(ContactListModel *contactList READ contactList CONSTANT)
+    // The people the last contact search found on Telegram.
+    Q_PROPERTY(ContactListModel *contactResultList READ contactResultList CONSTANT)
     Q_PROPERTY(bool isPopoverVisible READ isPopoverVisible NOTIFY isPopoverVisibleChanged)
     // The signed-in account's initials, for its avatar.
     Q_PROPERTY(QString accountInitials READ accountInitials NOTIFY accountInitialsChanged)
@@ -64,6 +66,7 @@ public:
     MessageListModel *messageList() const { return m_messageList; }
     StickerListModel *recentStickerList() const { return m_stickerList; }
     ContactListModel *contactList() const { return m_contactList; }
+    ContactListModel *contactResultList() const { return m_contactResultList; }
     bool isPopoverVisible() const { return m_isPopoverVisible; }
     bool hasCredentials() const { return m_credentialStore.hasCredentials(); }
 
@@ -111,6 +114,7 @@ private:
     MessageListModel *m_messageList;
     StickerListModel *m_stickerList;
     ContactListModel *m_contactList;
+    ContactListModel *m_contactResultList;
     bool m_isPopoverVisible = false;
 
     // What the user left typed in each chat, kept on this computer only (never

@@ -64,11 +64,23 @@ QHash<int, QByteArray> StickerListModel::roleNames() const
 }
 
 ContactListModel::ContactListModel(ChatViewModel *viewModel, QObject *parent)
+    : ContactListModel(viewModel, Source::Roster, parent)
+{}
+
+ContactListModel::ContactListModel(ChatViewModel *viewModel, Source source, QObject *parent)
     : RowListModel(parent)
     , m_viewModel(viewModel)
-    , m_rows(viewModel->contacts())
+    , m_source(source)
+    , m_rows(sourceRows())
 {
-    connect(viewModel, &ChatViewModel::contactsChanged, this, &ContactListModel::refresh);
+    connect(viewModel,
+            source == Source::Roster ? &ChatViewModel::contactsChanged : &ChatViewModel::contactResultsChanged, this,
+            &ContactListModel::refresh);
+}
+
+const QList<ContactChoice> &ContactListModel::sourceRows() const
+{
+    return m_source == Source::Roster ? m_viewModel->contacts() : m_viewModel->contactResults();
 }
 
 void ContactListModel::refresh()
@@ -77,7 +89,7 @@ void ContactListModel::refresh()
         return;
     const int before = count();
     updateRows(
-        m_rows, m_viewModel->contacts(), [](const ContactChoice &contact) { return contact.id; },
+        m_rows, sourceRows(), [](const ContactChoice &contact) { return contact.id; },
         [](const ContactChoice &a, const ContactChoice &b) { return a == b; });
     if (count() != before)
         Q_EMIT countChanged();

@@ -50,7 +50,8 @@ private:
     QList<StickerChoice> m_rows;
 };
 
-// The view model's contacts (the roster), for the new-chat form.
+// The view model's contacts (the roster), or the people Telegram found for the
+// last contact search, for the new-chat view.
 // Roles: userID (text; openContact(userID) on the view model opens the chat),
 // name, username, initials, avatarPath ("" when none), isOnline.
 class ContactListModel : public RowListModel
@@ -64,7 +65,10 @@ public:
     enum Role { IdRole = Qt::UserRole + 1, NameRole, UsernameRole, InitialsRole, AvatarPathRole, IsOnlineRole };
     Q_ENUM(Role)
 
+    enum class Source { Roster, SearchResults };
+
     explicit ContactListModel(ChatViewModel *viewModel, QObject *parent = nullptr);
+    ContactListModel(ChatViewModel *viewModel, Source source, QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
@@ -77,6 +81,9 @@ Q_SIGNALS:
 private:
     void refresh();
 
+    const QList<ContactChoice> &sourceRows() const;
+
     QPointer<ChatViewModel> m_viewModel;
+    Source m_source = Source::Roster;
     QList<ContactChoice> m_rows;
 };

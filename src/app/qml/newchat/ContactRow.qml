@@ -14,6 +14,7 @@ Rectangle {
     required property bool isOnline
 
     signal clicked
+    signal menuRequested
 
     readonly property bool onScreen: ListView.view !== null && y + height > ListView.view.contentY
                                      && y < ListView.view.contentY + ListView.view.height
@@ -31,6 +32,11 @@ Rectangle {
 
     TapHandler {
         onTapped: row.clicked()
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: row.menuRequested()
     }
 
     Avatar {

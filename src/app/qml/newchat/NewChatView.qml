@@ -108,8 +108,19 @@ FocusScope {
             }
             focus: true
             placeholderText: qsTr("Search contacts")
-            onTextEdited: filtered.searchText = text
+            onTextEdited: {
+                filtered.searchText = text;
+                telegramSearch.restart();
+            }
             Keys.onDownPressed: contacts.forceActiveFocus()
+        }
+
+        // Telegram is asked once the typing pauses.
+        Timer {
+            id: telegramSearch
+
+            interval: 350
+            onTriggered: view.host.viewModel.searchContacts(search.text)
         }
 
         ListView {
@@ -120,7 +131,7 @@ FocusScope {
                 right: parent.right
                 top: search.bottom
                 topMargin: 8
-                bottom: parent.bottom
+                bottom: found.visible ? found.top : parent.bottom
             }
             clip: true
             activeFocusOnTab: true
@@ -141,6 +152,46 @@ FocusScope {
             delegate: ContactRow {
                 width: ListView.view.width
                 onClicked: view.host.viewModel.openContact(userID)
+                onMenuRequested: contactMenu.openFor(userID, name)
+            }
+        }
+
+        // What Telegram's search found (by name, username or phone number), under the
+        // contacts the name filter keeps.
+        Column {
+            id: found
+
+            anchors {
+                left: parent.left
+                right: parent.right
+                bottom: parent.bottom
+            }
+            visible: search.text !== "" && results.count > 0
+
+            Text {
+                leftPadding: 12
+                topPadding: 6
+                bottomPadding: 4
+                text: qsTr("Found by Telegram")
+                color: Appearance.secondaryText
+                font.pixelSize: 12
+                font.weight: Font.DemiBold
+            }
+            ListView {
+                id: results
+
+                width: parent.width
+                height: Math.min(contentHeight, 160)
+                clip: true
+                model: view.host.contactResultList
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Found by Telegram")
+                Accessible.ignored: !found.visible
+
+                delegate: ContactRow {
+                    width: ListView.view.width
+                    onClicked: view.host.viewModel.openContact(userID)
+                }
             }
         }
 
@@ -163,6 +214,27 @@ FocusScope {
         }
         width: 1
         color: Appearance.separator
+    }
+
+    ContactMenu {
+        id: contactMenu
+
+        onMessageRequested: userID => view.host.viewModel.openContact(userID)
+        onDeleteRequested: (userID, name) => {
+            deletion.userID = userID;
+            deletion.question = qsTr("Remove %1 from your contacts?").arg(name);
+            deletion.open();
+        }
+    }
+
+    ConfirmDialog {
+        id: deletion
+
+        property string userID
+
+        parent: view
+        actionText: qsTr("Delete contact")
+        onConfirmed: view.session.deleteContact(Number(userID))
     }
 
     NewContactForms {

@@ -99,6 +99,11 @@ ColumnLayout {
             Accessible.name: qsTr("Opening the chat")
             Accessible.ignored: !visible
         }
+        PlainButton {
+            visible: forms.session.creatingConversation
+            text: qsTr("Cancel")
+            onClicked: forms.session.cancelConversation()
+        }
         ReadableText {
             Layout.fillWidth: true
             visible: forms.session.conversationError !== ""
