@@ -22,6 +22,15 @@ bool storedFlag(const QString &key)
     return stored.typeId() != QMetaType::QString || stored.toString() != "false"_L1;
 }
 
+// Stores a flag; whether that changed what is stored.
+bool storeFlag(const QString &key, bool value)
+{
+    if (value == storedFlag(key) && UserDefaults::value(key).isValid())
+        return false;
+    UserDefaults::setValue(key, value);
+    return true;
+}
+
 } // namespace
 
 Preferences &Preferences::shared()
@@ -37,10 +46,8 @@ bool Preferences::soundsEnabled() const
 
 void Preferences::setSoundsEnabled(bool enabled)
 {
-    if (enabled == soundsEnabled() && UserDefaults::value(soundsEnabledKey).isValid())
-        return;
-    UserDefaults::setValue(soundsEnabledKey, enabled);
-    Q_EMIT soundsEnabledChanged();
+    if (storeFlag(soundsEnabledKey, enabled))
+        Q_EMIT soundsEnabledChanged();
 }
 
 SoundPack Preferences::soundPack() const
@@ -70,10 +77,8 @@ bool Preferences::showsNotifications() const
 
 void Preferences::setShowsNotifications(bool shown)
 {
-    if (shown == showsNotifications() && UserDefaults::value(showNotificationsKey).isValid())
-        return;
-    UserDefaults::setValue(showNotificationsKey, shown);
-    Q_EMIT showsNotificationsChanged();
+    if (storeFlag(showNotificationsKey, shown))
+        Q_EMIT showsNotificationsChanged();
 }
 
 void Preferences::previewSoundPack(const QString &name)

@@ -71,22 +71,9 @@ QHash<int, QByteArray> EmojiListModel::roleNames() const
     return {{EmojiRole, "emoji"}, {NameRole, "name"}, {CharacterNameRole, "characterName"}, {GroupRole, "group"}};
 }
 
-EmojiSearchModel::EmojiSearchModel(QObject *parent)
-    : QSortFilterProxyModel(parent)
-{}
-
-void EmojiSearchModel::setSearchText(const QString &text)
-{
-    if (text == m_searchText)
-        return;
-    m_searchText = text;
-    invalidateRowsFilter();
-    Q_EMIT searchTextChanged();
-}
-
 bool EmojiSearchModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (m_searchText.trimmed().isEmpty())
+    if (searchText().trimmed().isEmpty())
         return true;
     const QModelIndex index = sourceModel()->index(sourceRow, 0, sourceParent);
     if (index.data(EmojiListModel::GroupRole).toInt() == EmojiGroup::Recent)
@@ -94,7 +81,7 @@ bool EmojiSearchModel::filterAcceptsRow(int sourceRow, const QModelIndex &source
     const EmojiEntry entry{index.data(EmojiListModel::EmojiRole).toString(),
                            index.data(EmojiListModel::NameRole).toString(),
                            index.data(EmojiListModel::CharacterNameRole).toString(), EmojiGroup::Recent};
-    return EmojiCatalog::matches(entry, m_searchText);
+    return EmojiCatalog::matches(entry, searchText());
 }
 
 int EmojiSearchModel::firstRowOf(int group) const

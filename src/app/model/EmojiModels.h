@@ -2,8 +2,8 @@
 
 #include "EmojiCatalog.h"
 #include "RowListModel.h"
+#include "SearchFilterModel.h"
 
-#include <QSortFilterProxyModel>
 #include <QtQml/qqmlregistration.h>
 
 // The emoji picker's emoji: the user's recently used ones first (kept in the
@@ -39,26 +39,17 @@ private:
 // The emoji the search text finds (every word in an emoji's name), or all of them
 // while it is empty; the recent ones are left out of a search, which lists each
 // emoji once.
-class EmojiSearchModel : public QSortFilterProxyModel
+class EmojiSearchModel : public SearchFilterModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
 
 public:
-    explicit EmojiSearchModel(QObject *parent = nullptr);
+    using SearchFilterModel::SearchFilterModel;
 
-    QString searchText() const { return m_searchText; }
-    void setSearchText(const QString &text);
     // The first row of a group, or -1 when none of it is shown.
     Q_INVOKABLE int firstRowOf(int group) const;
 
-Q_SIGNALS:
-    void searchTextChanged();
-
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
-
-private:
-    QString m_searchText;
 };

@@ -6,7 +6,7 @@
 // The rows of a list whose filterRole (by default a chat's title) contains the
 // search text, ignoring case as the sidebar's search does; all of them while it is
 // empty. The "Forward to" chooser lists chats through it, the new-chat view its
-// contacts by name.
+// contacts by name. Subclasses may decide what matches (the emoji search).
 class SearchFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
