@@ -14,6 +14,15 @@ namespace demo {
 
 namespace {
 
+// A page before a given message comes as from a slow server. VOST_DEMO_PAGE_DELAY_MS
+// lengthens it for tests that watch a page on its way.
+int historyPageDelay(int otherwise)
+{
+    bool given = false;
+    const int milliseconds = qEnvironmentVariableIntValue("VOST_DEMO_PAGE_DELAY_MS", &given);
+    return given && milliseconds >= 0 ? milliseconds : otherwise;
+}
+
 bool isArchiveList(const QJsonObject &request)
 {
     return typeOf(request.value("chat_list"_L1)) == "chatListArchive"_L1;
@@ -190,7 +199,7 @@ bool Client::handleChats(const QString &type, const QJsonObject &request)
                                         request.value("only_local"_L1).toBool()));
             else
                 // Pages before a message come as from the server, after a moment.
-                after(delay(1200, 200, 900),
+                after(historyPageDelay(delay(1200, 200, 900)),
                       [request, page = history(*chat, from, offset, std::min(limit, 100),
                                                request.value("only_local"_L1).toBool())](Client &client) {
                           client.answer(request, page);

@@ -24,8 +24,10 @@ NEWEST = "You: Of course! See you at 7 🍕"
 
 
 class Transcript(VostTestCase):
-    def open_emma(self):
-        vost = self.open_signed_in()
+    def open_emma(self, **launch):
+        vost = self.launch(**launch)
+        vost.open_popover()
+        vost.wait_for_chats()
         vost.open_chat("Emma Wilson")
         messages = vost.find("list", "Messages")
         vost.find("list item", NEWEST, contains=True, within=messages)
@@ -61,7 +63,8 @@ class Transcript(VostTestCase):
             self.assertTrue(intersects(item.extents(), messages.extents()), f"{item} is off screen")
 
     def test_a_page_arriving_moves_nothing_on_screen_and_shows_a_spinner_meanwhile(self):
-        vost, messages = self.open_emma()
+        # Pages take 3 s, time enough to look at the screen while one is on its way.
+        vost, messages = self.open_emma(extra_env={"VOST_DEMO_PAGE_DELAY_MS": "3000"})
         pages = 0
         for _ in range(30):
             if pages == 3:
