@@ -6,6 +6,7 @@ stored where the program reads them, and "Change account" back to sign-in."""
 import configparser
 import os
 import subprocess
+import time
 
 from vostui import CODE_FIELD, DEMO_CODE, DEMO_PHONE, PHONE_FIELD, VostTestCase, dishonest_nodes, main, wait_until
 
@@ -101,6 +102,57 @@ class Preferences(VostTestCase):
         vost.fill(vost.find("text", CODE_FIELD, timeout=15), DEMO_CODE)
         vost.key("Return")
         vost.wait_for_chats()
+
+
+class Sounds(VostTestCase):
+    """What comes out of the speakers: the sound server's null sink, recorded."""
+
+    AUDIBLE = 0.01
+
+    def wait_for_quiet(self):
+        """Past the sound of signing in: a second of silence."""
+        for _ in range(10):
+            with self.desktop.listening() as heard:
+                time.sleep(1.0)
+            if heard[0] < self.AUDIBLE:
+                return
+        self.fail("the speakers never went quiet")
+
+    def test_a_new_message_is_heard_until_sounds_are_turned_off(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        self.wait_for_quiet()
+
+        def bot_answers(prompt):
+            vost.fill(vost.find("text", "Message"), prompt)
+            vost.key("Return")
+            vost.find("list item", f"Vost Helper: You said: “{prompt}”", contains=True, timeout=10)
+            # The sound follows the message onto the screen.
+            time.sleep(1.0)
+
+        with self.desktop.listening() as heard:
+            bot_answers("first")
+        self.assertGreater(heard[0], self.AUDIBLE, "the new message was not heard")
+        vost.find("push button", "Preferences").press()
+        vost.find("check box", "Play sounds", within=vost.find("panel", "Preferences")).press()
+        wait_until(lambda: stored(vost, "soundsEnabled") == "false", what="sounds off stored")
+        vost.key("Escape")
+        vost.absent("panel", "Preferences")
+        with self.desktop.listening() as heard:
+            bot_answers("second")
+        self.assertLess(heard[0], self.AUDIBLE, "a sound played with sounds off")
+
+    def test_choosing_a_pack_plays_its_preview_even_with_sounds_off(self):
+        vost = self.open_signed_in()
+        vost.find("push button", "Preferences").press()
+        page = vost.find("panel", "Preferences")
+        vost.find("check box", "Play sounds", within=page).press()
+        wait_until(lambda: stored(vost, "soundsEnabled") == "false", what="sounds off stored")
+        self.wait_for_quiet()
+        with self.desktop.listening() as heard:
+            vost.find("radio button", "Classic", within=page).press()
+            time.sleep(1.5)
+        self.assertGreater(heard[0], self.AUDIBLE, "the pack's preview was not heard")
 
 
 if __name__ == "__main__":

@@ -2,8 +2,9 @@
 
 Each case gets a desktop of its own: an Xvfb screen, a private session bus with
 no service folders (nothing on the machine gets activated), the accessibility
-bus that screen readers use (at-spi-bus-launcher) and, unless a case asks for
-none, trayer as the tray host. Vost runs on the offline demo account in its
+bus that screen readers use (at-spi-bus-launcher), a PulseAudio server whose only
+output is a null sink that cases can record from and, unless a case asks for none,
+trayer as the tray host. Vost runs on the offline demo account in its
 deterministic mode. Controls are found in the accessibility tree by role and
 accessible name and operated through their accessible actions, or with the
 pointer and keyboard (xdotool) at their place on the screen.
@@ -12,6 +13,7 @@ A signed-in demo account is made once per build tree and copied into each
 case's home folder, so a case starts signed in within a second or two.
 """
 
+import array
 import atexit
 import contextlib
 import fcntl
@@ -86,6 +88,7 @@ class Desktop:
         self.new_home()
         self._start_screen()
         self._start_bus()
+        self._start_sound_server()
         if tray:
             self.start_tray()
 
@@ -135,6 +138,37 @@ class Desktop:
             ["dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
              "org.a11y.Bus.GetAddress"], env=self.env, capture_output=True).returncode == 0,
             what="the accessibility bus")
+
+    def _start_sound_server(self):
+        socket = os.path.join(self.env["XDG_RUNTIME_DIR"], "pulse-native")
+        self._spawn(["pulseaudio", "--daemonize=no", "-n", "--exit-idle-time=-1", "--use-pid-file=no",
+                     "--load=module-null-sink sink_name=speakers",
+                     f"--load=module-native-protocol-unix auth-anonymous=1 socket={socket}"])
+        self.env["PULSE_SERVER"] = "unix:" + socket
+        wait_until(lambda: subprocess.run(["pactl", "info"], env=self.env, capture_output=True).returncode == 0,
+                   what="the sound server")
+
+    @contextlib.contextmanager
+    def listening(self):
+        """Records what the speakers play while the block runs; yields a list that
+        afterwards holds the loudest sample's level, from 0 (silence) to 1."""
+        path = os.path.join(self.work, "heard.raw")
+        recorder = subprocess.Popen(["parecord", "--device=speakers.monitor", "--raw", "--format=s16le",
+                                     "--channels=1", "--rate=16000", "--latency-msec=20", path],
+                                    env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(lambda: os.path.exists(path), what="the recorder")
+        loudest = []
+        try:
+            yield loudest
+        finally:
+            time.sleep(0.3)
+            recorder.send_signal(signal.SIGINT)
+            recorder.wait(5)
+            with open(path, "rb") as file:
+                data = file.read()
+            os.remove(path)
+            samples = array.array("h", data[:len(data) - len(data) % 2])
+            loudest.append(max((abs(sample) for sample in samples), default=0) / 32768)
 
     def start_tray(self):
         self.tray_process = self._spawn(["trayer", "--edge", "top", "--align", "right", "--widthtype", "pixel",
