@@ -1,8 +1,11 @@
 #include "SingleInstance.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <unistd.h>
@@ -11,12 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int timeoutMs = 1500;
+// Longer than a closing program takes to close its database.
+constexpr int databaseWaitMs = 6000;
 const QByteArray showMessage = "show\n"_ba;
 } // namespace
 
 SingleInstance::SingleInstance(QObject *parent)
     : QObject(parent)
 {}
+
+SingleInstance::~SingleInstance() = default;
 
 QString SingleInstance::serverName()
 {
@@ -40,6 +47,17 @@ bool SingleInstance::activateRunningInstance()
     return true;
 }
 
+bool SingleInstance::waitForDatabase()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+    m_lock = std::make_unique<QLockFile>(folder + "/vost.lock"_L1);
+    // Held for weeks, so never stale by age; one whose program is gone (a crash) is
+    // taken over at once.
+    m_lock->setStaleLockTime(0);
+    return m_lock->tryLock(databaseWaitMs);
+}
+
 bool SingleInstance::listen()
 {
     m_server = new QLocalServer(this);
@@ -50,6 +68,7 @@ bool SingleInstance::listen()
         if (!m_server->listen(serverName()))
             return false;
     }
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, m_server, &QLocalServer::close);
     connect(m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket *socket = m_server->nextPendingConnection()) {
             connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);

@@ -2,7 +2,10 @@
 
 #include <QObject>
 
+#include <memory>
+
 class QLocalServer;
+class QLockFile;
 
 // One running client per user and data folder (TDLib locks its database): the
 // first launch listens on a local socket; a later one asks it to show itself.
@@ -12,6 +15,7 @@ class SingleInstance : public QObject
 
 public:
     explicit SingleInstance(QObject *parent = nullptr);
+    ~SingleInstance() override;
 
     // Per user and per data folder, so that tests with their own home folders do
     // not meet each other.
@@ -19,7 +23,12 @@ public:
 
     // Asks a running instance to show its popover; true when one answered.
     bool activateRunningInstance();
-    // Becomes the running instance; false if another one holds the name.
+    // Holds the lock of the data folder for as long as this program runs, waiting a
+    // few seconds for one that is closing to let go; false if it does not.
+    bool waitForDatabase();
+    // Becomes the running instance; false if another one holds the name. Stops
+    // answering once the application is about to quit, so that a later launch
+    // waits for the lock instead of asking a program on its way out.
     bool listen();
 
 Q_SIGNALS:
@@ -27,4 +36,5 @@ Q_SIGNALS:
 
 private:
     QLocalServer *m_server = nullptr;
+    std::unique_ptr<QLockFile> m_lock;
 };

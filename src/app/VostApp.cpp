@@ -2,14 +2,15 @@
 
 #include "AppPreferences.h"
 #include "AppRootView.h"
+#include "MediaImageProvider.h"
 #include "PopoverPlacement.h"
 #include "PopoverWindow.h"
-#include "MediaImageProvider.h"
 #include "RoundImageProvider.h"
 #include "SingleInstance.h"
 #include "StatusItemImage.h"
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
+#include "platform/TerminationSignals.h"
 #include "session/CredentialStore.h"
 #include "session/NotificationCenter.h"
 #include "session/NotificationService.h"
@@ -96,6 +97,11 @@ int VostApp::run(QApplication &application)
     SingleInstance instance;
     if (instance.activateRunningInstance())
         return 0;
+    // Nobody answered, but one that is closing may still hold the database.
+    if (!instance.waitForDatabase()) {
+        QTextStream(stderr) << "Another Vost is still closing or not answering. Start Vost again in a moment.\n";
+        return 3;
+    }
     if (!instance.listen())
         QTextStream(stderr) << "Vost could not listen for later launches on " << SingleInstance::serverName() << ".\n";
 
@@ -103,6 +109,11 @@ int VostApp::run(QApplication &application)
     if (!app.launch())
         return 2;
     QObject::connect(&instance, &SingleInstance::activationRequested, &app, &VostApp::bringForward);
+    TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::received, &app, &VostApp::quit);
+    // The desktop session ending: close the database now, the process may not get
+    // another chance.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &app, &VostApp::endWithDesktopSession);
     return QApplication::exec();
 }
 
@@ -398,6 +409,12 @@ void VostApp::releasePopoverMemory()
 #if defined(__GLIBC__)
     malloc_trim(0);
 #endif
+}
+
+void VostApp::endWithDesktopSession()
+{
+    m_session->shutDown();
+    quit();
 }
 
 void VostApp::quit()

@@ -63,6 +63,7 @@ private:
     void suspendPopoverForFilePanel();
     void restorePopoverAfterFilePanel();
     void releasePopoverMemory();
+    void endWithDesktopSession();
     void quit();
 
     Options m_options;
