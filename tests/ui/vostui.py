@@ -170,6 +170,21 @@ class Desktop:
             samples = array.array("h", data[:len(data) - len(data) % 2])
             loudest.append(max((abs(sample) for sample in samples), default=0) / 32768)
 
+    def start_notification_server(self):
+        """dunst on this desktop's session bus, keeping every notification until a
+        case acts on it (dunstctl drives it)."""
+        config = os.path.join(self.work, "dunstrc")
+        with open(config, "w") as file:
+            file.write("[global]\n    timeout = 0\n    idle_threshold = 0\n    sticky_history = yes\n"
+                       "[urgency_normal]\n    timeout = 0\n")
+        process = self._spawn(["dunst", "-config", config])
+        wait_until(lambda: self.dunstctl("is-paused").strip() in ("true", "false"), what="dunst on the bus")
+        return process
+
+    def dunstctl(self, *args):
+        return subprocess.run(["dunstctl", *args], env=self.env, capture_output=True, text=True,
+                              check=False).stdout
+
     def start_tray(self):
         self.tray_process = self._spawn(["trayer", "--edge", "top", "--align", "right", "--widthtype", "pixel",
                                          "--width", "120", "--height", "24", "--transparent", "false",

@@ -149,7 +149,12 @@ void FreedesktopNotificationPoster::onActionInvoked(uint notificationID, const Q
     const auto found = m_shown.constFind(notificationID);
     if (found == m_shown.cend())
         return;
-    Q_EMIT clicked(found->chatID);
+    const QString chatID = found->chatID;
+    // Used: some servers (dunst) would otherwise keep showing it.
+    QDBusMessage close = methodCall(u"CloseNotification"_s);
+    close << notificationID;
+    m_connection.call(close, QDBus::NoBlock);
+    Q_EMIT clicked(chatID);
 }
 
 void FreedesktopNotificationPoster::onNotificationClosed(uint notificationID, uint /*reason*/)
