@@ -195,8 +195,8 @@ bool Client::handleChats(const QString &type, const QJsonObject &request)
             else if (offset <= -limit)
                 answer(request, error(400, u"Parameter offset must be greater than -limit"_s));
             else if (const qint64 from = int64Of(request.value("from_message_id"_L1)); from == 0)
-                answer(request, history(*chat, from, offset, std::min(limit, 100),
-                                        request.value("only_local"_L1).toBool()));
+                answer(request,
+                       history(*chat, from, offset, std::min(limit, 100), request.value("only_local"_L1).toBool()));
             else
                 // Pages before a message come as from the server, after a moment.
                 after(historyPageDelay(delay(1200, 200, 900)),
