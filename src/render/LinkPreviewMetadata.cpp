@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QTextDocumentFragment>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -39,8 +40,12 @@ std::optional<QString> optionalString(const QJsonObject &object, const QString &
 }
 
 // A reply the server answered (with any status) is no transport error.
+const char *const cutOffProperty = "vostCutOff";
+
 bool isTransportError(QNetworkReply *reply)
 {
+    if (reply->property(cutOffProperty).toBool())
+        return true;
     return reply->error() != QNetworkReply::NoError &&
            !reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
 }
@@ -304,11 +309,28 @@ QString LinkPreviewMetadata::decodeHTMLEntities(const QString &text)
     return QTextDocumentFragment::fromHtml(text).toPlainText();
 }
 
-void LinkPreviewMetadata::fetch(const QNetworkRequest &request, std::function<void(QNetworkReply *)> handler)
+void LinkPreviewMetadata::fetch(QNetworkRequest request, std::function<void(QNetworkReply *)> handler)
 {
+    request.setMaximumRedirectsAllowed(maximumRedirects);
     QNetworkReply *reply = networkAccessManager()->get(request);
     m_replies.removeAll(nullptr);
     m_replies.append(reply);
+    // The transfer time-out only notices silence: a server that sends a byte now and
+    // then, or never stops sending, is cut off by a deadline and a size limit. What
+    // was cut off counts as not loaded.
+    auto cutOff = [reply] {
+        reply->setProperty(cutOffProperty, true);
+        reply->abort();
+    };
+    auto *deadline = new QTimer(reply);
+    deadline->setSingleShot(true);
+    connect(deadline, &QTimer::timeout, reply, cutOff);
+    deadline->start(request.transferTimeout() > 0 ? request.transferTimeout() : defaultTimeoutMilliseconds);
+    // Counted after decompression, so a small compressed bomb is stopped as well.
+    connect(reply, &QIODevice::readyRead, reply, [reply, cutOff] {
+        if (reply->bytesAvailable() > maximumResponseBytes)
+            cutOff();
+    });
     connect(reply, &QNetworkReply::finished, this, [this, reply, handler = std::move(handler)] {
         m_replies.removeAll(reply);
         reply->deleteLater();

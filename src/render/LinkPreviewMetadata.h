@@ -86,6 +86,10 @@ public:
     static constexpr int pageTimeoutMilliseconds = 15'000;
     // The usual time-out of a URL loader's default request.
     static constexpr int defaultTimeoutMilliseconds = 60'000;
+    // What one answer (a page, an image) may take, after decompression, and how
+    // many redirects lead to it.
+    static constexpr qint64 maximumResponseBytes = 8 * 1024 * 1024;
+    static constexpr int maximumRedirects = 10;
 
     // The card's start-up: once per object, the app-store lookup, and when that does
     // not apply, the page itself. Emits finished() when everything is done.
@@ -110,7 +114,7 @@ Q_SIGNALS:
     void finished();
 
 private:
-    void fetch(const QNetworkRequest &request, std::function<void(QNetworkReply *)> handler);
+    void fetch(QNetworkRequest request, std::function<void(QNetworkReply *)> handler);
     void setTitle(const QString &title);
     void setSiteName(const QString &siteName);
 

@@ -9,6 +9,8 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <zlib.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,6 +24,30 @@ QByteArray png(int width, int height)
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
     return bytes;
+}
+
+// A page that inflates to `size` bytes of spaces after a title.
+QByteArray gzipBomb(qsizetype size)
+{
+    z_stream stream{};
+    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, 15 + 16, 9, Z_DEFAULT_STRATEGY);
+    QByteArray out(size / 500 + 4096, Qt::Uninitialized);
+    stream.next_out = reinterpret_cast<Bytef *>(out.data());
+    stream.avail_out = uInt(out.size());
+    QByteArray head = "<html><head><title>Bomb</title></head><body>";
+    stream.next_in = reinterpret_cast<Bytef *>(head.data());
+    stream.avail_in = uInt(head.size());
+    deflate(&stream, Z_NO_FLUSH);
+    QByteArray filler(1 << 20, ' ');
+    for (qsizetype written = 0; written < size; written += filler.size()) {
+        stream.next_in = reinterpret_cast<Bytef *>(filler.data());
+        stream.avail_in = uInt(filler.size());
+        deflate(&stream, Z_NO_FLUSH);
+    }
+    deflate(&stream, Z_FINISH);
+    out.truncate(out.size() - qsizetype(stream.avail_out));
+    deflateEnd(&stream);
+    return out;
 }
 
 } // namespace
@@ -212,6 +238,46 @@ private Q_SLOTS:
         metadata->load();
         QCOMPARE(finished.count(), 0);
         QCOMPARE(m_server.requestedPaths().count("/once"), 1);
+    }
+
+    // Hostile servers: each load ends within its bounds and shows nothing.
+    void hostileServers_data()
+    {
+        using Delivery = LoopbackHttpServer::Delivery;
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QList<QByteArray>>("headers");
+        QTest::addColumn<int>("delivery");
+        const QByteArray page = "<html><head><title>Hostile</title></head><body>" + QByteArray(4096, 'x');
+        QTest::newRow("a byte now and then, forever")
+            << "/drip"_ba << 200 << page << QList<QByteArray>{} << int(Delivery::Drip);
+        QTest::newRow("a page without end")
+            << "/endless"_ba << 200 << page << QList<QByteArray>{} << int(Delivery::Endless);
+        QTest::newRow("50 MB") << "/huge"_ba << 200 << QByteArray(page + QByteArray(50 << 20, ' '))
+                               << QList<QByteArray>{} << int(Delivery::Whole);
+        QTest::newRow("gzip bomb") << "/bomb"_ba << 200 << gzipBomb(qsizetype(1) << 30)
+                                   << QList<QByteArray>{"Content-Encoding: gzip"_ba} << int(Delivery::Whole);
+        QTest::newRow("redirect loop") << "/loop"_ba << 302 << QByteArray() << QList<QByteArray>{"Location: /loop"_ba}
+                                       << int(Delivery::Whole);
+    }
+
+    void hostileServers()
+    {
+        QFETCH(QByteArray, path);
+        QFETCH(int, status);
+        QFETCH(QByteArray, body);
+        QFETCH(QList<QByteArray>, headers);
+        QFETCH(int, delivery);
+        m_server.answer(path,
+                        {status, "text/html; charset=utf-8", body, headers, LoopbackHttpServer::Delivery(delivery)});
+        auto metadata = load(m_server.url(QString::fromLatin1(path)));
+        QVERIFY(metadata->hasLoaded());
+        // What a page that did not load shows: its host.
+        QCOMPARE(metadata->title(), u"127.0.0.1"_s);
+        QVERIFY(!metadata->hasImage());
+        if (path == "/loop")
+            QCOMPARE(m_server.requestedPaths().count("/loop"), LinkPreviewMetadata::maximumRedirects + 1);
     }
 
 private:
