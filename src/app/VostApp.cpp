@@ -11,6 +11,7 @@
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "platform/TerminationSignals.h"
+#include "platform/TrayHost.h"
 #include "session/CredentialStore.h"
 #include "session/NotificationCenter.h"
 #include "session/NotificationService.h"
@@ -229,11 +230,16 @@ void VostApp::createTrayIcon()
     quitAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quitAction, &QAction::triggered, this, &VostApp::quit);
 
-    // Not the tray item's own context menu: the popover must close before the
-    // menu opens, or the menu, a popup, closes with the popover's activation.
     m_trayIcon = new QSystemTrayIcon(this);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) { handleTrayActivation(int(reason)); });
+    // A host that draws the item's menu gets it exported. In an XEmbed tray the menu
+    // is our own popup, not the item's context menu: the popover must close before
+    // the menu opens, or the menu closes with the popover's activation.
+    if (TrayHost::drawsItemMenus()) {
+        m_trayIcon->setContextMenu(m_statusMenu.get());
+        connect(m_statusMenu.get(), &QMenu::aboutToShow, this, &VostApp::closePopover);
+    }
     m_popover->setTrayMode(true);
     updateStatusItem(m_unreadCount);
     m_trayIcon->show();
@@ -289,6 +295,8 @@ void VostApp::handleTrayActivation(int reason)
         togglePopover();
         break;
     case QSystemTrayIcon::Context: {
+        if (m_trayIcon->contextMenu())
+            break; // the host shows it
         const QPoint pointer = QCursor::pos();
         closePopover();
         QTimer::singleShot(0, this, [this, pointer] { m_statusMenu->popup(pointer); });

@@ -18,6 +18,7 @@ import atexit
 import contextlib
 import fcntl
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -32,6 +33,7 @@ VOST = os.environ.get("VOST_BINARY", os.path.join(BUILD_DIR, "bin", "vost"))
 FAILURES_DIR = os.path.join(BUILD_DIR, "ui-failures")
 TEMPLATE_DIR = os.path.join(BUILD_DIR, "ui-template")
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
+XFCONFD = "/usr/lib/x86_64-linux-gnu/xfce4/xfconf/xfconfd"
 
 DEMO_PHONE = "+1 555 0100"
 DEMO_CODE = "22222"
@@ -78,6 +80,8 @@ class Desktop:
         self.size = size
         self.processes = []
         self.tray_process = None
+        self.tray_helpers = []
+        self.tray_kind = None
         self.homes = 0
         self.env = {
             "PATH": os.environ.get("PATH", "/usr/bin:/bin"),
@@ -90,7 +94,7 @@ class Desktop:
         self._start_bus()
         self._start_sound_server()
         if tray:
-            self.start_tray()
+            self.start_tray(tray)
 
     def new_home(self):
         """A fresh, empty home folder for the next program started here."""
@@ -185,16 +189,34 @@ class Desktop:
         return subprocess.run(["dunstctl", *args], env=self.env, capture_output=True, text=True,
                               check=False).stdout
 
-    def start_tray(self):
+    def start_tray(self, kind="trayer"):
+        """trayer (an XEmbed tray) or xfce4-panel (a StatusNotifierItem host, with
+        the xfconf daemon it keeps its settings in)."""
+        self.stop_tray()
+        self.tray_kind = kind
+        if kind == "xfce4-panel":
+            self.tray_helpers = [self._spawn([XFCONFD])]
+            self.tray_process = self._spawn(["xfce4-panel", "--disable-wm-check"])
+            wait_until(lambda: "org.kde.StatusNotifierWatcher" in self.bus_names(), what="the panel's tray")
+            return
         self.tray_process = self._spawn(["trayer", "--edge", "top", "--align", "right", "--widthtype", "pixel",
                                          "--width", "120", "--height", "24", "--transparent", "false",
                                          "--tint", "0xdcdcdc"])
         time.sleep(0.8)
 
     def stop_tray(self):
-        if self.tray_process:
-            self._end(self.tray_process)
-            self.tray_process = None
+        for process in [self.tray_process, *self.tray_helpers]:
+            if process:
+                self._end(process)
+        self.tray_process = None
+        self.tray_helpers = []
+        self.tray_kind = None
+
+    def bus_names(self):
+        out = subprocess.run(["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus",
+                              "/org/freedesktop/DBus", "org.freedesktop.DBus.ListNames"],
+                             env=self.env, capture_output=True, text=True).stdout
+        return re.findall(r'string "([^"]+)"', out)
 
     def xdotool(self, *args):
         return subprocess.run(["xdotool", *map(str, args)], env=self.env, capture_output=True, text=True,
@@ -627,8 +649,9 @@ class VostTestCase(unittest.TestCase):
     def setUp(self):
         self.desktop = shared_desktop()
         self.desktop.new_home()
-        if self.tray and not self.desktop.tray_process:
-            self.desktop.start_tray()
+        kind = self.tray if isinstance(self.tray, str) else "trayer"
+        if self.tray and self.desktop.tray_kind != kind:
+            self.desktop.start_tray(kind)
         elif not self.tray:
             self.desktop.stop_tray()
         self.vost = None

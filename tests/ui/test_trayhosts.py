@@ -1,0 +1,128 @@
+#!/usr/bin/python3
+"""Vost in a StatusNotifierItem host, as every major desktop now has: Xfce's panel.
+The item shows with its badge, the badge follows the unread total, a click opens
+the popover fully on screen next to the pointer (the host does not say where the
+item is), and a right click offers "Open Vost" and "Quit Vost"."""
+
+import os
+import re
+import subprocess
+
+from vostui import VostTestCase, main, wait_until
+
+UNREAD = re.compile(r"Vost, (\d+) unread messages")
+PANEL_HEIGHT = 26
+
+
+def registered_items(desktop):
+    out = subprocess.run(["dbus-send", "--session", "--print-reply", "--dest=org.kde.StatusNotifierWatcher",
+                          "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties.Get",
+                          "string:org.kde.StatusNotifierWatcher", "string:RegisteredStatusNotifierItems"],
+                         env=desktop.env, capture_output=True, text=True).stdout
+    return re.findall(r'string "([^"]+)"', out)
+
+
+def item_tooltip(desktop, item):
+    """The tool tip the host shows for the item: its title and text."""
+    return " ".join(re.findall(r'string "([^"]*)"', item_property(desktop, item, "ToolTip")))
+
+
+def item_property(desktop, item, name):
+    service, path = item.split("/", 1)
+    return subprocess.run(["dbus-send", "--session", "--print-reply", f"--dest={service}", "/" + path,
+                           "org.freedesktop.DBus.Properties.Get", "string:org.kde.StatusNotifierItem",
+                           f"string:{name}"], env=desktop.env, capture_output=True, text=True).stdout
+
+
+def exported_menu_labels(desktop, item):
+    """The labels of the menu the item exports for the host to draw (dbusmenu)."""
+    menu = re.search(r'object path "([^"]+)"', item_property(desktop, item, "Menu")).group(1)
+    out = subprocess.run(["dbus-send", "--session", "--print-reply", f"--dest={item.split('/', 1)[0]}", menu,
+                          "com.canonical.dbusmenu.GetLayout", "int32:0", "int32:-1", "array:string:label"],
+                         env=desktop.env, capture_output=True, text=True).stdout
+    labels = re.findall(r'string "label"\s+variant\s+string "([^"]*)"', out)
+    return [label.replace("&", "") for label in labels if label]
+
+
+def badge_box(desktop):
+    """Where the red unread badge is drawn in the panel, from what a person sees."""
+    path = desktop.screenshot(os.path.join(desktop.work, "panel.png"), crop=(0, 0, 1280, PANEL_HEIGHT))
+    data = subprocess.run(["convert", path, "-depth", "8", "ppm:-"], capture_output=True, check=True).stdout
+    # Binary PPM: "P6\nW H\n255\n" then RGB bytes.
+    header = data.split(b"\n", 3)
+    width = int(header[1].split()[0])
+    pixels = header[3]
+    red = [(i // 3 % width, i // 3 // width) for i in range(0, len(pixels) - 2, 3)
+           if pixels[i] > 190 and pixels[i + 1] < 90 and pixels[i + 2] < 90]
+    if len(red) < 12:
+        return None
+    xs, ys = [x for x, _ in red], [y for _, y in red]
+    return min(xs), min(ys), max(xs) - min(xs) + 1, max(ys) - min(ys) + 1
+
+
+class StatusNotifierHost(VostTestCase):
+    tray = "xfce4-panel"
+
+    def item(self, vost):
+        def ours():
+            for item in registered_items(self.desktop):
+                if UNREAD.search(item_tooltip(self.desktop, item)):
+                    return item
+            return None
+        return wait_until(ours, timeout=20, what="Vost's item registered with the host")
+
+    def click_item(self, vost, button=1):
+        x, y, w, h = wait_until(lambda: badge_box(self.desktop), what="the badge in the panel")
+        vost.click((x + w // 2, y + h // 2), button)
+
+    def test_the_item_shows_its_badge_and_follows_the_unread_total(self):
+        vost = self.launch()
+        item = self.item(vost)
+        wait_until(lambda: badge_box(self.desktop), what="the badge drawn by the panel")
+        total = int(UNREAD.search(item_tooltip(self.desktop, item)).group(1))
+        self.assertGreater(total, 3)
+        self.click_item(vost)
+        wait_until(vost.popover_shown, what="the popover opened from the panel")
+        vost.wait_for_chats()
+        vost.find("list item", "Family, pinned, 3 unread", contains=True).press()
+        vost.find("panel", "Conversation with Family")
+        wait_until(lambda: UNREAD.search(item_tooltip(self.desktop, item)).group(1) == str(total - 3),
+                   timeout=15, what="the host's tool tip less Family's 3")
+
+    def test_a_click_opens_the_popover_on_screen_next_to_the_pointer(self):
+        vost = self.launch()
+        self.item(vost)
+        x, y, w, h = wait_until(lambda: badge_box(self.desktop), what="the badge in the panel")
+        vost.click((x + w // 2, y + h // 2))
+        wait_until(vost.popover_shown, what="the popover")
+        px, py, pw, ph = wait_until(lambda: vost.window().extents()[2] > 100 and vost.window().extents(),
+                                    what="the popover's place")
+        self.assertGreaterEqual(px, 0)
+        self.assertGreaterEqual(py, 0)
+        self.assertLessEqual(px + pw, 1280)
+        self.assertLessEqual(py + ph, 800)
+        # Right under the panel, reaching to the pointer's column.
+        self.assertLessEqual(py, PANEL_HEIGHT + 40)
+        self.assertTrue(px - 40 <= x + w // 2 <= px + pw + 40, f"popover at {px}..{px + pw}, pointer at {x}")
+        vost.click((x + w // 2, y + h // 2))
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by a second click")
+
+    def test_the_right_click_menu_opens_vost_and_quits(self):
+        # The panel draws the menu Vost exports (its labels are read from there)
+        # and, as GTK menus are not in the accessibility tree, is driven by keyboard.
+        vost = self.launch()
+        item = self.item(vost)
+        self.assertEqual(exported_menu_labels(self.desktop, item), ["Open Vost", "Quit Vost"])
+        self.click_item(vost)
+        wait_until(vost.popover_shown, what="the popover")
+        self.click_item(vost, button=3)
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the menu")
+        vost.key("Down", "Return")
+        wait_until(vost.popover_shown, what="the popover opened by Open Vost")
+        self.click_item(vost, button=3)
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the menu")
+        vost.key("Up", "Return")
+        self.assertEqual(vost.process.wait(10), 0)
+
+if __name__ == "__main__":
+    main()
