@@ -4,9 +4,6 @@
 
 #include <optional>
 
-class QMediaRecorder;
-class QTimer;
-
 // Holds the state a voice-note recorder would show. Nothing records, times or
 // sends voice notes yet; the composer binds to these values.
 class VoiceRecorder : public QObject
@@ -27,6 +24,4 @@ private:
     bool m_isRecording = false;
     int m_elapsedSeconds = 0;
     std::optional<QString> m_errorMessage;
-    QMediaRecorder *m_recorder = nullptr;
-    QTimer *m_timer = nullptr;
 };

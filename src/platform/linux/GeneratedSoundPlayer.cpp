@@ -20,8 +20,9 @@ thread_local bool startingAudio = false;
 void quietWhileStartingAudio(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     // Other threads' messages go on as before.
-    if (!startingAudio && forwardedHandler)
-        forwardedHandler(type, context, message);
+    const QtMessageHandler forward = forwardedHandler.load();
+    if (!startingAudio && forward)
+        forward(type, context, message);
 }
 
 // Whether there is a device to play on. The first question starts Qt's audio system,
