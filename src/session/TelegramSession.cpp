@@ -12,6 +12,9 @@
 #include <QStringDecoder>
 #include <QTimer>
 
+#include <algorithm>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -166,7 +169,12 @@ void TelegramSession::shutDown()
     }
     m_receiveLoop.reset();
     // TDLib registers exit handlers inside its own code: unloading it before the
-    // process ends would leave them pointing nowhere. Keep it mapped until then.
-    if (m_runtime)
-        new std::shared_ptr<const TDLibRuntime>(std::move(m_runtime));
+    // process ends would leave them pointing nowhere. Keep it mapped until then,
+    // in a list that is never destroyed (and that leak checkers can still see).
+    if (m_runtime) {
+        static auto *keptLoaded = new std::vector<std::shared_ptr<const TDLibRuntime>>;
+        if (std::find(keptLoaded->cbegin(), keptLoaded->cend(), m_runtime) == keptLoaded->cend())
+            keptLoaded->push_back(m_runtime);
+        m_runtime.reset();
+    }
 }
