@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Vost's two entry points on a fresh Debian 12 machine:
 #   ./run.sh app   set up, build and start the client
-#   ./run.sh test  set up, build and run every test
+#   ./run.sh test  set up, build and run every test (but the slow soak: -L slow)
+#   ./run.sh test --sanitize  the same tests but the UI cases under ASan and UBSan,
+#                             then each fuzz target for VOST_FUZZ_SECONDS (60)
 # Set-up installs the missing Debian packages, then CMake installs TDLib and the
 # Lottie player from npm into the build tree. VOST_TELEGRAM_API_ID and
 # VOST_TELEGRAM_API_HASH, when set, are built into the client.
@@ -9,6 +11,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 BUILD_DIR=${VOST_BUILD_DIR:-build}
+BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
 DEBIAN_PACKAGES=(
@@ -19,7 +22,7 @@ DEBIAN_PACKAGES=(
     qml6-module-qtmultimedia qt6-image-formats-plugins
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-libav
     fonts-noto-color-emoji xvfb xauth dbus trayer xdotool
-    at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip pulseaudio pulseaudio-utils dunst
+    at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip pulseaudio pulseaudio-utils dunst xfce4-panel xfconf
 )
 
 install_packages() {
@@ -39,10 +42,33 @@ install_packages() {
 
 build() {
     install_packages
-    cmake -S . -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    cmake -S . -B "$BUILD_DIR" -G Ninja "${BUILD_TYPE[@]}" -DVOST_SANITIZE="${SANITIZE:-OFF}" \
         -DVOST_TELEGRAM_API_ID="${VOST_TELEGRAM_API_ID:-}" \
         -DVOST_TELEGRAM_API_HASH="${VOST_TELEGRAM_API_HASH:-}" >/dev/null
     cmake --build "$BUILD_DIR"
+}
+
+# Every test but the UI cases in a tree built with AddressSanitizer and
+# UndefinedBehaviorSanitizer (GCC), then a bounded run of each fuzz target in a
+# tree built with clang's libFuzzer and the same sanitizers.
+sanitized_tests() {
+    BUILD_DIR=${VOST_SANITIZE_BUILD_DIR:-build-sanitize}
+    SANITIZE=ON
+    # Lightly optimised, line tables only, Qt's assertions on: quick to build.
+    BUILD_TYPE=(-DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1" "-DCMAKE_C_FLAGS_DEBUG=-O1 -g1")
+    DEBIAN_PACKAGES+=(clang libclang-rt-14-dev)
+    build
+    export ASAN_OPTIONS=detect_leaks=1:abort_on_error=1
+    export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+    export LSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0
+    xvfb-run -a -s "-screen 0 1280x800x24" \
+        ctest --test-dir "$BUILD_DIR" --output-on-failure --timeout 600 -LE ui "$@"
+
+    local fuzz_dir=${VOST_FUZZ_BUILD_DIR:-build-fuzz}
+    CC=clang CXX=clang++ cmake -S . -B "$fuzz_dir" -G Ninja "${BUILD_TYPE[@]}" -DVOST_FUZZ=ON \
+        -DVOST_BUILD_TESTS=OFF -DVOST_FUZZ_SECONDS="${VOST_FUZZ_SECONDS:-60}" >/dev/null
+    cmake --build "$fuzz_dir" --target vost-fuzzers
+    ctest --test-dir "$fuzz_dir" --output-on-failure -L fuzz
 }
 
 case "${1:-}" in
@@ -53,7 +79,14 @@ app)
     ;;
 test)
     shift
+    if [ "${1:-}" = --sanitize ]; then
+        shift
+        sanitized_tests "$@"
+        exit
+    fi
     build
+    # Without a selection of its own, the run leaves out the slow soak cases.
+    [ $# -eq 0 ] && set -- -LE slow
     # Tests that show windows or web pages get a virtual screen of their own.
     exec xvfb-run -a -s "-screen 0 1280x800x24" \
         ctest --test-dir "$BUILD_DIR" --output-on-failure --timeout 300 "$@"
