@@ -24,6 +24,7 @@
 #include <QCommandLineParser>
 #include <QCursor>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QMenu>
 #include <QPixmapCache>
 #include <QQmlEngine>
@@ -37,6 +38,10 @@
 #endif
 
 using namespace Qt::StringLiterals;
+
+// How long a click on the tray item takes to reach the screen; bench/popover.py
+// turns it on (QT_LOGGING_RULES="vost.popover.timing.debug=true").
+Q_LOGGING_CATEGORY(lcPopoverTiming, "vost.popover.timing", QtWarningMsg)
 
 namespace {
 
@@ -186,6 +191,22 @@ bool VostApp::launch()
             releasePopoverMemory();
     });
     connect(m_popover.get(), &QWindow::activeChanged, this, &VostApp::popoverActiveChanged);
+    if (lcPopoverTiming().isDebugEnabled()) {
+        // Swaps happen on the render thread: the moment is taken there.
+        connect(
+            m_popover.get(), &QQuickWindow::frameSwapped, this,
+            [this] {
+                const auto swapped = std::chrono::steady_clock::now();
+                QMetaObject::invokeMethod(this, [this, swapped] {
+                    if (!m_presentedAt)
+                        return;
+                    const std::chrono::duration<double, std::milli> elapsed = swapped - *m_presentedAt;
+                    qCDebug(lcPopoverTiming, "first frame %.1f ms after the popover was asked for", elapsed.count());
+                    m_presentedAt.reset();
+                });
+            },
+            Qt::DirectConnection);
+    }
     connect(m_popover.get(), &PopoverWindow::escapeNotHandled, this, [this] {
         if (m_popover->isInTrayMode())
             closePopover();
@@ -355,6 +376,7 @@ void VostApp::presentPopover()
         }
         m_placedOnce = true;
     }
+    m_presentedAt = std::chrono::steady_clock::now();
     m_popover->show();
     m_popover->raise();
     m_popover->requestActivate();

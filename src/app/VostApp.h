@@ -5,7 +5,9 @@
 #include <QPoint>
 #include <QPointer>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 class AppRootView;
 class CredentialStore;
@@ -82,5 +84,7 @@ private:
     bool m_hasClickPoint = false;
     bool m_placedOnce = false;
     QElapsedTimer m_sinceDeactivationClose;
+    // When the popover was last asked for, until its first frame is on screen.
+    std::optional<std::chrono::steady_clock::time_point> m_presentedAt;
     int m_unreadCount = 0;
 };
