@@ -26,6 +26,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPixmapCache>
 #include <QQmlEngine>
 #include <QScreen>
@@ -105,7 +106,10 @@ int VostApp::run(QApplication &application)
         return 0;
     // Nobody answered, but one that is closing may still hold the database.
     if (!instance.waitForDatabase()) {
-        QTextStream(stderr) << "Another Vost is still closing or not answering. Start Vost again in a moment.\n";
+        const QString text =
+            QObject::tr("Another Vost is still closing or not answering. Start Vost again in a moment.");
+        QTextStream(stderr) << text << '\n';
+        QMessageBox::warning(nullptr, u"Vost"_s, text);
         return 3;
     }
     if (!instance.listen())
