@@ -23,8 +23,7 @@ class Notifications(VostTestCase):
     def test_a_new_message_is_shown_with_its_chat_and_opens_it(self):
         vost = self.open_signed_in()
         vost.open_chat("Vost Helper")
-        vost.fill(vost.find("text", "Message"), "Ring the bell")
-        vost.key("Return")
+        vost.send("Ring the bell")
         vost.find("list item", "Vost Helper: You said: “Ring the bell”", contains=True, timeout=10)
         wait_until(lambda: self.desktop.dunstctl("count", "displayed").strip() == "1",
                    what="the notification on screen")
@@ -44,8 +43,7 @@ class Notifications(VostTestCase):
     def test_own_messages_and_opening_chats_show_nothing(self):
         vost = self.open_signed_in()
         vost.open_chat("Emma Wilson")
-        vost.fill(vost.find("text", "Message"), "Nothing to announce")
-        vost.key("Return")
+        vost.send("Nothing to announce")
         vost.find("list item", "You: Nothing to announce", contains=True, timeout=10)
         self.assertEqual(self.desktop.dunstctl("count", "displayed").strip(), "0")
         self.assertEqual(self.desktop.dunstctl("count", "history").strip(), "0")

@@ -124,8 +124,7 @@ class Sounds(VostTestCase):
         self.wait_for_quiet()
 
         def bot_answers(prompt):
-            vost.fill(vost.find("text", "Message"), prompt)
-            vost.key("Return")
+            vost.send(prompt)
             vost.find("list item", f"Vost Helper: You said: “{prompt}”", contains=True, timeout=10)
             # The sound follows the message onto the screen.
             time.sleep(1.0)

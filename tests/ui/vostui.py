@@ -553,6 +553,11 @@ class Vost:
     def messages(self):
         return self.all("list item", within=self.find("list", "Messages"))
 
+    def send(self, text):
+        """Types text into the open chat's composer and sends it with Return."""
+        self.fill(self.find("text", "Message"), text)
+        self.key("Return")
+
     def quit(self):
         """Ctrl+Q in the popover, or the end of the process."""
         if self.running():
