@@ -160,7 +160,9 @@ class Desktop:
         recorder = subprocess.Popen(["parecord", "--device=speakers.monitor", "--raw", "--format=s16le",
                                      "--channels=1", "--rate=16000", "--latency-msec=20", path],
                                     env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(lambda: os.path.exists(path), what="the recorder")
+        # The file appears at once, but the samples only once the recording stream
+        # runs (a second or two): until then nothing played would be heard.
+        wait_until(lambda: os.path.exists(path) and os.path.getsize(path) > 0, what="the recorder running")
         loudest = []
         try:
             yield loudest
