@@ -75,8 +75,7 @@ double cpuSeconds()
 int runOne(const QString &player, int count)
 {
     const bool web = player == u"web"_s;
-    if (web)
-        VostRender::initializeStickerEngine();
+    VostRender::chooseSceneGraph();
     int argc = 1;
     char name[] = "bench-stickerplayers";
     char *argv[] = {name, nullptr};

@@ -38,7 +38,11 @@ def pss_kb(pid):
 
 
 def frame_times(log):
-    """Per frame: the GUI thread's polish and the render thread's frame, in ms."""
+    """Per frame: the GUI thread's polish and the render thread's frame (OpenGL's
+    threaded loop), or the whole frame (the software renderer's loop), in ms."""
+    software = [int(m) for m in re.findall(r"Frame rendered with 'software' renderloop in (\d+)ms", log)]
+    if software:
+        return software
     polish = [int(m) for m in re.findall(r"Frame prepared, polish=(\d+) ms", log)]
     rendered = [int(m) for m in re.findall(r"frame rendered in (\d+)ms", log)]
     count = min(len(polish), len(rendered))

@@ -8,6 +8,7 @@
 #include "RoundImageProvider.h"
 #include "SingleInstance.h"
 #include "StatusItemImage.h"
+#include "StickerEngine.h"
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "platform/TerminationSignals.h"
@@ -175,7 +176,7 @@ bool VostApp::launch()
     NotificationService::shared().setActivator([this] { bringForward(); });
 
     m_engine = new QQmlEngine(this);
-    m_engine->addImportPath(u"qrc:/qt/qml"_s);
+    VostRender::addImportPath(*m_engine);
     m_engine->addImageProvider(QString::fromLatin1(RoundImageProvider::name), new RoundImageProvider);
     m_engine->addImageProvider(QString::fromLatin1(MediaImageProvider::name), new MediaImageProvider);
     // The pictures of a chat nobody looks at need not stay decoded.

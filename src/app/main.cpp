@@ -10,7 +10,7 @@ Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
 
 int main(int argc, char *argv[])
 {
-    VostRender::initializeStickerEngine();
+    VostRender::chooseSceneGraph();
     QApplication application(argc, argv);
     return VostApp::run(application);
 }

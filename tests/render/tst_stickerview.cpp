@@ -5,9 +5,9 @@
 #include "LoopbackHttpServer.h"
 
 #include "StickerEngine.h"
-#include "StickerWebProfile.h"
 #include "render/StickerPage.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -18,6 +18,7 @@
 #include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -90,7 +91,7 @@ Item {
 
 const QByteArray bareViewHarness = R"(
 import QtQuick
-import Vost.Render
+import Vost.Render.Web
 Item {
     width: 160; height: 160
     property bool loaded: false
@@ -104,6 +105,13 @@ Item {
     }
 }
 )";
+
+// Whether QtWebEngine has been loaded into this process at all.
+bool webEngineLoaded()
+{
+    QFile maps(u"/proc/self/maps"_s);
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQt6WebEngineCore");
+}
 
 } // namespace
 
@@ -129,12 +137,12 @@ private Q_SLOTS:
 
     void engineStartsOnlyForAPage()
     {
-        QVERIFY(!VostRender::isStickerEngineStarted());
+        QVERIFY(!webEngineLoaded());
         QVERIFY(make(harness));
         m_root->setProperty("probeResult", 0);
         sticker()->setProperty("path", m_folder.filePath(u"missing.tgs"_s));
         QTest::qWait(300); // the update runs from the event loop
-        QVERIFY(!VostRender::isStickerEngineStarted());
+        QVERIFY(!webEngineLoaded());
         QCOMPARE(sticker()->property("pageKey").toString(), QString());
     }
 
@@ -145,8 +153,12 @@ private Q_SLOTS:
         sticker()->setProperty("format", 1);
         sticker()->setProperty("path", path);
         QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
-        QVERIFY(VostRender::isStickerEngineStarted());
-        QVERIFY(StickerWebProfile::sharedProfile()->isOffTheRecord());
+        QVERIFY(webEngineLoaded());
+        QObject *view = webView();
+        QVERIFY(view);
+        QObject *profile = view->property("profile").value<QObject *>();
+        QVERIFY(profile);
+        QVERIFY(profile->property("offTheRecord").toBool());
         QTRY_COMPARE_WITH_TIMEOUT(
             probe(u"document.querySelectorAll('#sticker svg').length + ':' + document.body.innerText"_s),
             QVariant(u"1:"_s), waitMs);
@@ -238,6 +250,14 @@ private:
 
     QObject *sticker() const { return m_root->property("sticker").value<QObject *>(); }
 
+    QObject *webView() const
+    {
+        const QList<QObject *> objects = m_root->findChildren<QObject *>();
+        const auto found = std::find_if(objects.begin(), objects.end(),
+                                        [](QObject *object) { return object->inherits("QQuickWebEngineView"); });
+        return found == objects.end() ? nullptr : *found;
+    }
+
     QVariant probe(const QString &script)
     {
         QMetaObject::invokeMethod(m_root, "probe", Q_ARG(QVariant, script));
@@ -267,7 +287,7 @@ int main(int argc, char *argv[])
         std::fputs("No display: run this test under xvfb-run.\n", stderr);
         return 77; // reported as skipped
     }
-    VostRender::initializeStickerEngine();
+    VostRender::chooseSceneGraph();
     QGuiApplication application(argc, argv);
     StickerViewTest test;
     return QTest::qExec(&test, argc, argv);

@@ -1,6 +1,8 @@
 #!/usr/bin/python3
 """A closed popover does nothing: no frame is drawn and the program sleeps, on the
-sign-in screen as with the chats, animations in view included."""
+sign-in screen as with the chats, animations in view included. And what the
+program maps stays small: neither the web engine nor an OpenGL driver is loaded
+for a chat with photos, a GIF and animated stickers."""
 
 import glob
 import os
@@ -28,8 +30,8 @@ class ClosedPopover(VostTestCase):
 
     def assert_quiet_while_closed(self, vost):
         # Once what was under way (downloads, read receipts) has ended, the main
-        # thread and the render thread sleep; TDLib's receive loop wakes once a
-        # second on a thread of its own.
+        # thread (which draws, with the software renderer) and any render thread
+        # sleep; TDLib's receive loop wakes once a second on a thread of its own.
         pid = vost.process.pid
 
         def quiet_for_three_seconds():
@@ -50,23 +52,38 @@ class ClosedPopover(VostTestCase):
         vost.open_popover()
         self.assertEqual(vost.find("text", PHONE_FIELD).text(), "+1 555")
 
-    def test_the_chats_are_quiet_while_closed(self):
-        vost = self.launch(signed_in=True)
+    def open_chat_with_animations(self, vost):
         vost.open_popover()
         vost.wait_for_chats()
         vost.open_chat("Emma Wilson")
-        # With a looping GIF and animated stickers in view.
+        # Up to a looping GIF, past animated stickers.
         messages = vost.find("list", "Messages")
-        for _ in range(40):
-            if any(m.name.startswith("Emma Wilson: GIF") for m in vost.messages()):
+        stickers_seen = False
+        for _ in range(60):
+            stickers_seen = stickers_seen or bool(vost.all("image", "Sticker", contains=True, within=messages))
+            if stickers_seen and any(m.name.startswith("Emma Wilson: GIF") for m in vost.messages()):
                 break
             vost.wheel(messages, 1)
             time.sleep(0.1)
+        self.assertTrue(stickers_seen, "no sticker on the way")
         vost.find("image", "GIF", within=messages)
+
+    def test_the_chats_are_quiet_while_closed(self):
+        vost = self.launch(signed_in=True)
+        self.open_chat_with_animations(vost)
         vost.focus(vost.find("text", "Message"))
         vost.click_tray()
         wait_until(lambda: not vost.popover_shown(), what="the popover closed")
         self.assert_quiet_while_closed(vost)
+
+    def test_no_web_engine_or_opengl_driver_without_video_stickers(self):
+        vost = self.launch(signed_in=True)
+        self.open_chat_with_animations(vost)
+        with open(f"/proc/{vost.process.pid}/maps") as maps:
+            mapped = {line.split()[-1].rsplit("/", 1)[-1] for line in maps if "/" in line}
+        self.assertFalse({name for name in mapped if "WebEngine" in name}, "QtWebEngine is loaded")
+        drivers = {name for name in mapped if name.startswith(("libGLX_", "libEGL_", "libLLVM")) or "_dri" in name}
+        self.assertFalse(drivers, "an OpenGL driver is loaded")
 
 
 if __name__ == "__main__":

@@ -382,6 +382,9 @@ class Vost:
             "VOST_DEMO_DETERMINISTIC": "1",
             "VOST_DEMO_NOW": "1760000000",
         })
+        # A benchmark may compare Qt Quick's renderers.
+        if "QT_QUICK_BACKEND" in os.environ:
+            env["QT_QUICK_BACKEND"] = os.environ["QT_QUICK_BACKEND"]
         env.update(extra_env or {})
         self.env = env
         self.args = list(args)

@@ -36,7 +36,7 @@ Item {
 
         anchors.fill: parent
         active: controller.hasPage
-        source: "StickerWebView.qml"
+        source: "StickerWebFrame.qml"
         onLoaded: {
             item.pageLoaded.connect(root.pageLoaded)
             item.show(controller.page)

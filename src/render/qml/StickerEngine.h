@@ -4,15 +4,14 @@ class QQmlEngine;
 
 namespace VostRender {
 
-// Prepares QtWebEngine for the sticker views. Call it in main() before the
-// QGuiApplication is created; it starts nothing, the engine's processes start when
-// the first animated sticker is about to be shown.
-void initializeStickerEngine();
+// Picks Qt Quick's renderer; call it before the QGuiApplication is made. The
+// software renderer draws unless QT_QUICK_BACKEND asks for another: it needs no
+// OpenGL driver in the process and gives everything back when a window closes.
+// With OpenGL, the contexts are shared, as the web view of video stickers needs.
+void chooseSceneGraph();
 
-// Lets the engine find the Vost.Render module (compiled into the program).
+// Lets the engine find the Vost.Render module (compiled into the program) and the
+// Vost.Render.Web plugin, which it loads when the first video sticker is shown.
 void addImportPath(QQmlEngine &engine);
-
-// Whether the shared sticker profile, and with it the web engine, has been made.
-bool isStickerEngineStarted();
 
 } // namespace VostRender

@@ -22,7 +22,6 @@ public:
     {}
 
     static QQuickWebEngineProfile *sharedProfile();
-    static bool hasSharedProfile();
 
     QQuickWebEngineProfile *profile() const { return sharedProfile(); }
 };

@@ -1,6 +1,6 @@
 import QtQuick
 import QtWebEngine
-import Vost.Render
+import Vost.Render.Web
 
 // The web view of one sticker, on the shared off-the-record profile: transparent,
 // autoplay allowed, no input (clicks reach the message underneath).

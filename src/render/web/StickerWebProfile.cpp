@@ -24,8 +24,3 @@ QQuickWebEngineProfile *StickerWebProfile::sharedProfile()
     }
     return profile;
 }
-
-bool StickerWebProfile::hasSharedProfile()
-{
-    return !instance().isNull();
-}
