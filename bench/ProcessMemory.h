@@ -45,4 +45,13 @@ inline qint64 treePss(qint64 pid)
     return total;
 }
 
+// How many processes run below pid.
+inline int descendantCount(qint64 pid)
+{
+    int count = 0;
+    for (const qint64 child : children(pid))
+        count += 1 + descendantCount(child);
+    return count;
+}
+
 } // namespace ProcessMemory

@@ -135,6 +135,14 @@ int runOne(const QString &player, int count)
                         << playing / 1024 << " MB (+" << (playing - before) / 1024 << " MB), CPU "
                         << QString::number(cpu / (double(clock.elapsed()) / 1000.0) * 100.0, 'f', 1)
                         << " % of one core\n";
+    // What stays once the last sticker has left the screen, a minute later.
+    engine.rootContext()->setContextProperty(u"stickerPaths"_s, QStringList());
+    QEventLoop gone;
+    QTimer::singleShot(60'000, &gone, &QEventLoop::quit);
+    gone.exec();
+    QTextStream(stdout) << player << ' ' << count << " stickers: a minute after they left, PSS "
+                        << ProcessMemory::treePss(getpid()) / 1024 << " MB, "
+                        << ProcessMemory::descendantCount(getpid()) << " child processes\n";
     return 0;
 }
 
@@ -155,7 +163,7 @@ int main(int argc, char *argv[])
         QProcess child;
         child.setProcessChannelMode(QProcess::ForwardedChannels);
         child.start(QString::fromLocal8Bit(argv[0]), {player, count});
-        child.waitForFinished(120'000);
+        child.waitForFinished(180'000);
     }
     return 0;
 }
