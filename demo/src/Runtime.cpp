@@ -37,9 +37,9 @@ int Runtime::now()
 int Runtime::createClient()
 {
     std::lock_guard lock(m_mutex);
-    if (!m_timerThread.joinable()) {
-        m_timerThread = std::thread([this] { runTimers(); });
-        m_timerThread.detach();
+    if (!m_threadStarted) {
+        std::thread([this] { runTimers(); }).detach();
+        m_threadStarted = true;
     }
     const int id = ++m_lastClientID;
     auto client = std::make_unique<Client>(*this, id);
@@ -58,16 +58,27 @@ void Runtime::send(int clientID, const char *request)
         post(clientID, error(400, u"Failed to parse JSON object as TDLib request: "_s + parseError.errorString()));
         return;
     }
-    const QJsonObject object = document.object();
+    if (!m_threadStarted) {
+        handleRequest(clientID, document.object());
+        return;
+    }
+    // Handled on the library's own thread, as TDLib does: the caller never waits
+    // for the work a request makes (thousands of chats, say).
+    m_requests.emplace_back(clientID, document.object());
+    m_timersChanged.notify_all();
+}
+
+void Runtime::handleRequest(int clientID, const QJsonObject &request)
+{
     const auto it = m_clients.find(clientID);
     if (it == m_clients.end() || it->second->isClosed()) {
         QJsonObject answer = error(500, u"Request aborted"_s);
-        if (object.contains("@extra"_L1))
-            answer.insert("@extra"_L1, object.value("@extra"_L1));
+        if (request.contains("@extra"_L1))
+            answer.insert("@extra"_L1, request.value("@extra"_L1));
         post(clientID, answer);
         return;
     }
-    it->second->handle(object);
+    it->second->handle(request);
 }
 
 const char *Runtime::receive(double timeout)
@@ -121,6 +132,12 @@ void Runtime::runTimers()
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
+        if (!m_requests.empty()) {
+            const auto [clientID, request] = std::move(m_requests.front());
+            m_requests.pop_front();
+            handleRequest(clientID, request);
+            continue;
+        }
         if (m_timers.empty()) {
             m_timersChanged.wait(lock);
             continue;

@@ -42,6 +42,8 @@ public:
 private:
     Runtime() = default;
     void runTimers();
+    // With the mutex held.
+    void handleRequest(int clientID, const QJsonObject &request);
 
     using Clock = std::chrono::steady_clock;
     struct Timer {
@@ -56,9 +58,13 @@ private:
     std::string m_current;
     std::map<int, std::unique_ptr<Client>> m_clients;
     std::map<std::pair<Clock::time_point, quint64>, Timer> m_timers;
+    // Requests wait for the library's thread, in the order they were sent.
+    std::deque<std::pair<int, QJsonObject>> m_requests;
     quint64 m_timerSequence = 0;
     int m_lastClientID = 0;
-    std::thread m_timerThread;
+    // The library's one thread, which handles requests and timers; started with
+    // the first client and never stopped.
+    bool m_threadStarted = false;
 };
 
 } // namespace demo
