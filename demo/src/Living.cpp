@@ -129,7 +129,10 @@ void Client::scheduleLife()
 {
     if (Runtime::deterministic())
         return;
-    after(delay(0, 20000, 60000), [](Client &client) {
+    // VOST_DEMO_MESSAGE_EVERY_MS: a busy account, for soak benchmarks.
+    bool busy = false;
+    const int every = qEnvironmentVariableIntValue("VOST_DEMO_MESSAGE_EVERY_MS", &busy);
+    after(busy && every > 0 ? every : delay(0, 20000, 60000), [](Client &client) {
         client.lifeTick();
         client.scheduleLife();
     });

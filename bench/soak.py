@@ -1,0 +1,57 @@
+#!/usr/bin/python3
+"""A day in the tray, shortened: the real program under Xvfb with a tray host,
+signed in on the demo account, which receives a message every 2 s across its
+chats (VOST_DEMO_MESSAGE_EVERY_MS), while the popover is opened on the chat list
+and closed again once a minute. Prints the process tree's PSS with the popover
+closed, each minute, and how far it moved after the first five minutes.
+
+    xvfb-run -a /usr/bin/python3 bench/soak.py [MINUTES]      (default 30)
+
+VOST_BUILD_DIR or VOST_BINARY pick the build, as for the UI cases: a build with
+AddressSanitizer (./run.sh test --sanitize makes build-sanitize) reports leaks
+when the program quits, in the program's output."""
+
+import os
+import sys
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "ui"))
+from transcript import pss_kb  # noqa: E402
+from vostui import Desktop, Vost, signed_in_template, wait_until  # noqa: E402
+
+SETTLE_MINUTES = 5
+
+
+def main():
+    minutes = int(sys.argv[1]) if len(sys.argv) > 1 else 30
+    desktop = Desktop()
+    try:
+        vost = Vost(desktop, home_template=signed_in_template(),
+                    extra_env={"VOST_DEMO_DETERMINISTIC": "0", "VOST_DEMO_MESSAGE_EVERY_MS": "2000"}).start()
+        pid = vost.process.pid
+        started = time.monotonic()
+        samples = []
+        for minute in range(1, minutes + 1):
+            vost.click_tray()
+            wait_until(vost.popover_shown, what="the popover")
+            vost.wait_for_chats()
+            time.sleep(2)
+            vost.key("Escape")
+            wait_until(lambda: not vost.popover_shown(), what="the popover closed")
+            time.sleep(max(0.0, started + minute * 60 - time.monotonic()))
+            samples.append(pss_kb(pid) / 1024)
+            print(f"minute {minute}: PSS {samples[-1]:.1f} MB", flush=True)
+        if len(samples) > SETTLE_MINUTES:
+            settled = samples[SETTLE_MINUTES - 1:]
+            low, high = min(settled), max(settled)
+            print(f"after minute {SETTLE_MINUTES}: PSS from {low:.1f} to {high:.1f} MB "
+                  f"({(high - low) / low * 100:.1f} % apart), last {settled[-1]:.1f} MB")
+        vost.quit()
+        leaks = [line for line in vost.output().splitlines() if "LeakSanitizer" in line or "SUMMARY:" in line]
+        print("\n".join(leaks) if leaks else "no leak report in the program's output")
+    finally:
+        desktop.close()
+
+
+if __name__ == "__main__":
+    main()
