@@ -1,7 +1,10 @@
 #include "session/DateTexts.h"
 
-#include <QHash>
 #include <QLocale>
+#include <QTimeZone>
+
+#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -13,21 +16,54 @@ const QLocale &userLocale()
     return locale;
 }
 // The local time of a moment. Converting through the system's time zone is slow
-// and runs for every chat of a sync, but the offset from UTC only changes at
-// transitions, which fall on quarter hours: remember it per quarter hour.
-QDateTime localTime(qint64 secondsSinceEpoch)
+// (the C library looks at the zone file each time) and runs for every chat of a
+// sync, but the offset from UTC only changes at the zone's transitions: remember
+// the spans between them. A span is trusted only when the system gives the same
+// offset at both of its ends; otherwise it is cut down to the quarter hour,
+// since transitions fall on quarter hours.
+struct OffsetSpan {
+    qint64 from = 0; // seconds since the epoch, inclusive
+    qint64 to = 0;   // exclusive
+    int offset = 0;
+};
+
+int systemOffset(qint64 secondsSinceEpoch)
+{
+    return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch).offsetFromUtc();
+}
+
+OffsetSpan spanAround(qint64 secondsSinceEpoch)
 {
     constexpr qint64 quarterHour = 15 * 60;
-    thread_local QHash<qint64, int> offsets;
-    const qint64 quarter =
-        secondsSinceEpoch >= 0 ? secondsSinceEpoch / quarterHour : (secondsSinceEpoch - quarterHour + 1) / quarterHour;
-    auto offset = offsets.constFind(quarter);
-    if (offset == offsets.cend()) {
-        if (offsets.size() > 100000)
-            offsets.clear();
-        offset = offsets.insert(quarter, QDateTime::fromSecsSinceEpoch(quarter * quarterHour).offsetFromUtc());
+    const int offset = systemOffset(secondsSinceEpoch);
+    const QTimeZone zone = QTimeZone::systemTimeZone();
+    const QDateTime moment = QDateTime::fromSecsSinceEpoch(secondsSinceEpoch, QTimeZone::utc());
+    const QTimeZone::OffsetData before = zone.previousTransition(moment);
+    const QTimeZone::OffsetData after = zone.nextTransition(moment);
+    OffsetSpan span{before.atUtc.isValid() ? before.atUtc.toSecsSinceEpoch() : secondsSinceEpoch,
+                    after.atUtc.isValid() ? after.atUtc.toSecsSinceEpoch() : secondsSinceEpoch + 366 * 86400, offset};
+    if (span.from > secondsSinceEpoch || span.to <= secondsSinceEpoch || systemOffset(span.from) != offset ||
+        systemOffset(span.to - 1) != offset) {
+        const qint64 quarter = secondsSinceEpoch >= 0 ? secondsSinceEpoch / quarterHour
+                                                      : (secondsSinceEpoch - quarterHour + 1) / quarterHour;
+        span = {quarter * quarterHour, (quarter + 1) * quarterHour, offset};
     }
-    return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch, Qt::OffsetFromUTC, *offset);
+    return span;
+}
+
+QDateTime localTime(qint64 secondsSinceEpoch)
+{
+    thread_local std::vector<OffsetSpan> spans;
+    auto known = std::find_if(spans.cbegin(), spans.cend(), [secondsSinceEpoch](const OffsetSpan &span) {
+        return span.from <= secondsSinceEpoch && secondsSinceEpoch < span.to;
+    });
+    if (known == spans.cend()) {
+        if (spans.size() >= 256)
+            spans.clear();
+        spans.push_back(spanAround(secondsSinceEpoch));
+        known = spans.cend() - 1;
+    }
+    return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch, Qt::OffsetFromUTC, known->offset);
 }
 
 } // namespace

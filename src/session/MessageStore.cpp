@@ -96,13 +96,13 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
         if (found == m_telegramUsers.cend() && senderUserID)
             found = m_telegramUsers.constFind(*senderUserID);
         const bool known = found != m_telegramUsers.cend();
-        message.sender = User{QUuid::createUuid(), u"You"_s, known ? found->initials : u"YO"_s, AvatarColor::Blue,
+        message.sender = User{newViewID(), u"You"_s, known ? found->initials : u"YO"_s, AvatarColor::Blue,
                               known ? found->avatarPath : std::nullopt};
     } else if (const auto sender = senderUserID ? m_telegramUsers.constFind(*senderUserID) : m_telegramUsers.cend();
                sender != m_telegramUsers.cend()) {
         message.sender = *sender;
     } else {
-        message.sender = User{QUuid::createUuid(), u"Telegram"_s, u"TG"_s, AvatarColor::Teal, std::nullopt};
+        message.sender = User{newViewID(), u"Telegram"_s, u"TG"_s, AvatarColor::Teal, std::nullopt};
     }
 
     if (message.isOutgoing) {

@@ -6,7 +6,7 @@ Message EmptyTelegramService::makeOutgoingMessage(const QString &text) const
 {
     Message message;
     message.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    message.sender = User{QUuid::createUuid(), u"You"_s, u"YO"_s, AvatarColor::Blue, std::nullopt};
+    message.sender = User{newViewID(), u"You"_s, u"YO"_s, AvatarColor::Blue, std::nullopt};
     message.text = text;
     message.isOutgoing = true;
     message.deliveryState = MessageDeliveryState::Sent;

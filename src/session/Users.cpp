@@ -28,7 +28,7 @@ void TelegramSession::storeUser(const TdObject &object)
         if (const auto stored = m_telegramUsers.constFind(*id); stored != m_telegramUsers.cend())
             avatarPath = stored->avatarPath;
     }
-    m_telegramUsers.insert(*id, User{QUuid::createUuid(), name, initials(name), AvatarColor::Teal, avatarPath});
+    m_telegramUsers.insert(*id, User{newViewID(), name, initials(name), AvatarColor::Teal, avatarPath});
     if (m_contactUsers.contains(*id))
         m_contactUsers.insert(*id, object);
     setUserOnline(*id, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);

@@ -12,6 +12,12 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+// POSIX notation, so that no zone files are needed: one hour east of UTC, two in
+// summer, from the last Sunday of March to the last Sunday of October.
+constexpr QByteArrayView centralEurope = "CET-1CEST,M3.5.0,M10.5.0/3";
+} // namespace
+
+namespace {
 
 TdObject json(const char *text)
 {
@@ -105,6 +111,28 @@ private Q_SLOTS:
         QCOMPARE(messageTime(std::nullopt), QString());
     }
 
+    // Run a second time by ctest with a zone that has daylight saving (see
+    // CMakeLists.txt): conversions that remember the zone's offsets must still
+    // change them at the transitions, in whichever order moments are asked for.
+    void localTimesAcrossDaylightSaving()
+    {
+        if (qgetenv("TZ") != centralEurope)
+            QSKIP("runs with TZ set to the Central European zone");
+        const auto utc = [](int year, int month, int day, int hour, int minute, int second = 0) {
+            return QDateTime(QDate(year, month, day), QTime(hour, minute, second), QTimeZone::utc()).toSecsSinceEpoch();
+        };
+        QCOMPARE(messageTime(utc(2024, 1, 15, 12, 0)), u"13:00"_s);
+        QCOMPARE(messageTime(utc(2024, 7, 1, 12, 0)), u"14:00"_s);
+        QCOMPARE(messageTime(utc(2024, 3, 31, 0, 59, 59)), u"1:59"_s);
+        QCOMPARE(messageTime(utc(2024, 3, 31, 1, 0)), u"3:00"_s);
+        QCOMPARE(messageTime(utc(2024, 10, 27, 0, 59, 59)), u"2:59"_s);
+        QCOMPARE(messageTime(utc(2024, 10, 27, 1, 0)), u"2:00"_s);
+        QCOMPARE(messageTime(utc(2024, 12, 31, 23, 30)), u"0:30"_s);
+        QCOMPARE(messageTime(utc(2024, 6, 30, 22, 30)), u"0:30"_s);
+        QCOMPARE(messageTime(utc(1999, 8, 1, 10, 15)), u"12:15"_s);
+        QCOMPARE(messageTime(utc(2024, 3, 31, 0, 59, 59)), u"1:59"_s);
+    }
+
     void files()
     {
         QVERIFY(isImageDocument(json(R"({"mime_type":"IMAGE/PNG"})")));
@@ -145,7 +173,8 @@ private Q_SLOTS:
 
 int main(int argc, char *argv[])
 {
-    qputenv("TZ", "UTC-2"); // POSIX notation: two hours east of UTC
+    if (qgetenv("TZ") != centralEurope)
+        qputenv("TZ", "UTC-2"); // POSIX notation: two hours east of UTC
     QCoreApplication application(argc, argv);
     TextsTest test;
     return QTest::qExec(&test, argc, argv);
