@@ -12,9 +12,11 @@ namespace StickerPage {
 namespace {
 
 // The content security policy forbids every fetch; only inline script and style
-// and data or blob media may be used.
+// and data or blob media may be used. The title changes with every new page, so a
+// view sees the state of each.
 constexpr auto head =
-    "<!doctype html><html><head><meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
+    "<!doctype html><html><head><title>loading</title><meta http-equiv=\"Content-Security-Policy\" "
+    "content=\"default-src 'none'; "
     "script-src 'unsafe-inline'; style-src 'unsafe-inline'; img-src data:; media-src data: blob:; "
     "connect-src 'none'\">\n"
     "<style>html,body,#sticker{margin:0;width:100%;height:100%;overflow:hidden;background:transparent}"
@@ -24,7 +26,7 @@ constexpr auto head =
 
 // Inflates the gzip bytes with a running total (a guard against decompression
 // bombs), parses the JSON and plays it looping in the container; any failure shows
-// a short note instead.
+// a short note instead. Either way the page's title says how it went.
 constexpr auto lottieLoaderStart = "</script><script>(async()=>{const box=document.getElementById('sticker');try{"
                                    "const bytes=Uint8Array.from(atob('"_L1;
 constexpr auto lottieLoaderEnd =
@@ -36,7 +38,8 @@ constexpr auto lottieLoaderEnd =
     "const all=new Uint8Array(total);let offset=0;for(const c of chunks){all.set(c,offset);offset+=c.length;}"
     "const animationData=JSON.parse(new TextDecoder().decode(all));"
     "lottie.loadAnimation({container:box,renderer:'svg',loop:true,autoplay:true,animationData});"
-    "}catch(e){box.textContent='Sticker unavailable';}})();</script>"_L1;
+    "document.title='playing';"
+    "}catch(e){box.textContent='Sticker unavailable';document.title='unavailable';}})();</script>"_L1;
 
 std::optional<QString> readPlayerScript(const QString &path)
 {
@@ -54,6 +57,15 @@ std::optional<QString> readPlayerScript(const QString &path)
 }
 
 } // namespace
+
+PlayState playStateFromTitle(const QString &title)
+{
+    if (title == "playing"_L1)
+        return PlayState::Playing;
+    if (title == "unavailable"_L1)
+        return PlayState::Unavailable;
+    return PlayState::Loading;
+}
 
 QString playerScriptPath()
 {
@@ -88,7 +100,10 @@ std::optional<QString> html(const QByteArray &data, StickerFormat format, const 
             return std::nullopt;
         body = "<script>"_L1 + *script + lottieLoaderStart + base64 + lottieLoaderEnd;
     } else {
-        body = "<video autoplay loop muted playsinline src='data:video/webm;base64,"_L1 + base64 + "'></video>"_L1;
+        // A file that is no video fires "error" instead of "loadeddata".
+        body = "<video autoplay loop muted playsinline onloadeddata=\"document.title='playing'\" "
+               "onerror=\"document.title='unavailable'\" src='data:video/webm;base64,"_L1 +
+               base64 + "'></video>"_L1;
     }
     QString page = head;
     if (format == StickerFormat::Video)

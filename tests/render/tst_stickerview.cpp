@@ -1,6 +1,7 @@
 // The sticker page in the real web engine: a Lottie animation of our own plays, a
-// decompression bomb is refused, the page can reach no network, and a view loads a
-// new page only when the sticker's key changes. Needs a display (Xvfb in CI).
+// decompression bomb is refused, a video sticker plays or, when it is no video,
+// keeps its emoji, the page can reach no network, and a view loads a new page only
+// when the sticker's key changes. Needs a display (Xvfb in CI).
 
 #include "LoopbackHttpServer.h"
 
@@ -106,6 +107,36 @@ Item {
 }
 )";
 
+// One sticker as a message shows it, with its emoji standing in.
+const QByteArray stickerHarness = R"(
+import QtQuick
+import Vost.Render
+Item {
+    width: 160; height: 160
+    property alias sticker: sticker
+    StickerView { id: sticker; anchors.fill: parent; format: "video"; emoji: "🐱" }
+}
+)";
+
+// A page that records a second of a changing canvas with the browser's own
+// encoder: a real WebM, made where it will be played.
+const QString recorderPage = uR"(<!doctype html><html><body><canvas id="c" width="64" height="64"></canvas>
+<script>
+const c = document.getElementById('c'), g = c.getContext('2d');
+let t = 0;
+setInterval(() => { g.fillStyle = t++ % 2 ? 'red' : 'blue'; g.fillRect(0, 0, 64, 64); }, 30);
+const recorder = new MediaRecorder(c.captureStream(30), {mimeType: 'video/webm;codecs=vp8'});
+const parts = [];
+recorder.ondataavailable = e => parts.push(e.data);
+recorder.onstop = () => {
+    const reader = new FileReader();
+    reader.onload = () => { window.recorded = reader.result.split(',')[1]; };
+    reader.readAsDataURL(new Blob(parts, {type: 'video/webm'}));
+};
+recorder.start();
+setTimeout(() => recorder.stop(), 1000);
+</script></body></html>)"_s;
+
 // Whether QtWebEngine has been loaded into this process at all.
 bool webEngineLoaded()
 {
@@ -196,6 +227,42 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 2, waitMs);
         QCOMPARE(sticker()->property("pageKey").toString(), StickerPage::key(path, StickerFormat::Video));
         QCOMPARE(probe(u"document.querySelectorAll('video').length"_s).toInt(), 1);
+    }
+
+    // A "video sticker" that is no video keeps its emoji and says it cannot play;
+    // a real one replaces the emoji once its first frame is there.
+    void videoStickerPlaysOrKeepsItsEmoji()
+    {
+        QVERIFY(make(bareViewHarness));
+        QMetaObject::invokeMethod(m_root, "show", Q_ARG(QVariant, recorderPage));
+        QTRY_VERIFY_WITH_TIMEOUT(m_root->property("loaded").toBool(), waitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(probe(u"window.recorded ? window.recorded.length : 0"_s).toInt() > 0, waitMs);
+        const QByteArray video = QByteArray::fromBase64(probe(u"window.recorded"_s).toString().toLatin1());
+        QVERIFY(video.startsWith("\x1A\x45\xDF\xA3")); // the EBML header of a WebM file
+        const QString real = write(u"real.webm"_s, video);
+        QByteArray scrambled = video;
+        for (qsizetype at = 0; at < scrambled.size(); at += 7)
+            scrambled[at] = char(~scrambled[at]);
+        const QString hostile = write(u"hostile.webm"_s, scrambled);
+        delete m_root;
+
+        const auto stateOf = [this] {
+            QObject *page = sticker()->findChild<QObject *>(u"stickerPage"_s);
+            return page ? page->property("playState").toInt() : -1;
+        };
+        for (const QString &path : {hostile, real, hostile}) {
+            QVERIFY(make(stickerHarness));
+            const auto *emoji = sticker()->findChild<QQuickItem *>(u"emoji"_s);
+            QVERIFY(emoji);
+            QVERIFY(emoji->isVisible());
+            sticker()->setProperty("path", path);
+            const bool plays = path == real;
+            QTRY_COMPARE_WITH_TIMEOUT(stateOf(), plays ? 1 : 2, waitMs);
+            QCOMPARE(sticker()->property("ready").toBool(), plays);
+            QCOMPARE(emoji->isVisible(), !plays);
+            delete m_root;
+            m_root = nullptr;
+        }
     }
 
     void pageCanReachNoNetwork()

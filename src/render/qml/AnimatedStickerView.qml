@@ -14,6 +14,9 @@ Item {
     property alias format: controller.format
     // The key of the page last handed to the web view.
     readonly property alias pageKey: controller.key
+    // StickerPageController.Loading, .Playing or .Unavailable (the file is no
+    // sticker the page can play).
+    readonly property alias playState: controller.playState
 
     // A page has finished loading.
     signal pageLoaded
@@ -41,6 +44,13 @@ Item {
             item.pageLoaded.connect(root.pageLoaded)
             item.show(controller.page)
         }
+    }
+
+    Binding {
+        target: controller
+        property: "pageTitle"
+        value: web.item ? web.item.title : ""
+        when: web.item !== null
     }
 
     Connections {

@@ -2,6 +2,9 @@
 
 #include <QMetaObject>
 
+static_assert(StickerPageController::Playing == int(StickerPage::PlayState::Playing) &&
+              StickerPageController::Unavailable == int(StickerPage::PlayState::Unavailable));
+
 StickerPageController::StickerPageController(QObject *parent)
     : QObject(parent)
 {}
@@ -42,5 +45,16 @@ void StickerPageController::update()
         return;
     m_page = std::move(*page);
     ++m_pagesMade;
+    m_playState = Loading;
     Q_EMIT pageChanged();
+    Q_EMIT playStateChanged();
+}
+
+void StickerPageController::setPageTitle(const QString &title)
+{
+    if (title == m_pageTitle)
+        return;
+    m_pageTitle = title;
+    m_playState = static_cast<PlayState>(StickerPage::playStateFromTitle(title));
+    Q_EMIT playStateChanged();
 }

@@ -18,11 +18,17 @@ class StickerPageController : public QObject
     Q_PROPERTY(QString page READ page NOTIFY pageChanged)
     Q_PROPERTY(bool hasPage READ hasPage NOTIFY pageChanged)
     Q_PROPERTY(QString key READ key NOTIFY pageChanged)
+    // The title of the page in the web view, written by the view; tells playState.
+    Q_PROPERTY(QString pageTitle READ pageTitle WRITE setPageTitle NOTIFY playStateChanged)
+    Q_PROPERTY(PlayState playState READ playState NOTIFY playStateChanged)
 
 public:
     // The order of StickerFormat.
     enum Format { Webp, Animated, Video };
     Q_ENUM(Format)
+    // The order of StickerPage::PlayState.
+    enum PlayState { Loading, Playing, Unavailable };
+    Q_ENUM(PlayState)
 
     explicit StickerPageController(QObject *parent = nullptr);
 
@@ -37,6 +43,10 @@ public:
     QString page() const { return m_page; }
     bool hasPage() const { return !m_page.isEmpty(); }
     QString key() const { return m_coordinator.key(); }
+    QString pageTitle() const { return m_pageTitle; }
+    void setPageTitle(const QString &title);
+    // Loading again whenever a new page is handed out.
+    PlayState playState() const { return m_playState; }
     // How many pages have been handed to the view.
     int pagesMade() const { return m_pagesMade; }
 
@@ -44,6 +54,7 @@ Q_SIGNALS:
     void pathChanged();
     void formatChanged();
     void pageChanged();
+    void playStateChanged();
 
 private:
     void scheduleUpdate();
@@ -54,5 +65,7 @@ private:
     QString m_page;
     bool m_updateScheduled = false;
     int m_pagesMade = 0;
+    QString m_pageTitle;
+    PlayState m_playState = Loading;
     StickerPage::Coordinator m_coordinator;
 };

@@ -4,7 +4,7 @@ import Vost.Render
 // One sticker, wherever stickers show: a WebP as an image, an animated (.tgs)
 // sticker by the native player, a video (WebM) sticker in the isolated web page,
 // which starts the web engine only while such a sticker is shown. Until the file
-// is there, or when it cannot be shown, its emoji stands in.
+// is there, until its first frame, or when it cannot be shown, its emoji stands in.
 Item {
     id: view
 
@@ -20,7 +20,8 @@ Item {
 
     readonly property bool ready: (format === "webp" && image.status === Image.Ready)
                                   || (format === "animated" && player.status === StickerPlayer.Ready)
-                                  || (format === "video" && video.status === Loader.Ready)
+                                  || (format === "video" && video.status === Loader.Ready
+                                      && video.item.playState === StickerPageController.Playing)
 
     implicitWidth: 160
     implicitHeight: 160
@@ -54,12 +55,14 @@ Item {
         anchors.fill: parent
         active: view.format === "video" && view.path !== "" && view.visible && view.playing
         sourceComponent: AnimatedStickerView {
+            objectName: "stickerPage"
             path: view.path
             format: StickerPageController.Video
         }
     }
 
     Text {
+        objectName: "emoji"
         anchors.centerIn: parent
         visible: !view.ready
         text: view.emoji
