@@ -88,8 +88,11 @@ std::optional<QString> TelegramSession::resolvedMediaPath(const TdObject &file, 
 
 void TelegramSession::downloadFile(qint64 fileID)
 {
-    send(u"downloadFile"_s,
-         {{"file_id"_L1, fileID}, {"priority"_L1, 1}, {"offset"_L1, 0}, {"limit"_L1, 0}, {"synchronous"_L1, false}});
+    // A sync asks for thousands of avatars: the fixed fields are made once.
+    static const TdObject fixed{{"priority"_L1, 1}, {"offset"_L1, 0}, {"limit"_L1, 0}, {"synchronous"_L1, false}};
+    TdObject request = fixed;
+    request.insert("file_id"_L1, fileID);
+    send(u"downloadFile"_s, request);
 }
 
 void TelegramSession::trackDownload(const TdObject &file)

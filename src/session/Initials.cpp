@@ -4,12 +4,15 @@
 
 QString initials(const QString &name)
 {
-    const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
+    // The first character of the first two words; a whole character, so that
+    // letters outside the basic plane stay intact.
     QString letters;
-    for (qsizetype i = 0; i < words.size() && i < 2; ++i) {
-        // A whole character, so that letters outside the basic plane stay intact.
-        const QString &word = words.at(i);
-        letters += word.left(word.at(0).isHighSurrogate() && word.size() > 1 ? 2 : 1);
+    int words = 0;
+    for (qsizetype i = 0; i < name.size() && words < 2; ++i) {
+        if (name.at(i) == u' ' || (i > 0 && name.at(i - 1) != u' '))
+            continue;
+        letters += name.mid(i, name.at(i).isHighSurrogate() && i + 1 < name.size() ? 2 : 1);
+        ++words;
     }
     return letters.toUpper();
 }
