@@ -34,7 +34,7 @@ public:
 
 private:
     void run();
-    void deliver(const QByteArray &event);
+    Q_INVOKABLE void deliver(const QByteArray &event);
 
     std::shared_ptr<const TDLibRuntime> m_runtime;
     QPointer<QObject> m_receiver;
