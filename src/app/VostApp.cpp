@@ -299,6 +299,9 @@ void VostApp::updateStatusItem(int unreadCount)
         for (const qreal ratio : ratios)
             icon.addPixmap(QPixmap::fromImage(StatusItem::image(m_unreadCount, ratio, glyphColor)));
         m_trayIcon->setIcon(icon);
+        // Painting an icon caches a copy under that icon's key; every unread count
+        // makes a new icon, so the copies of the old ones would pile up.
+        QPixmapCache::clear();
         m_trayIcon->setToolTip(StatusItem::accessibleLabel(m_unreadCount));
     }
 }
