@@ -66,6 +66,7 @@ private:
     void afterOutgoingSent(DemoChat &chat, const DemoMessage &sent);
     void botAnswer(qint64 chatID, const QString &prompt);
     void scheduleLife();
+    void scheduleChatter();
     void lifeTick();
     void presenceTick();
 

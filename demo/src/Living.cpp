@@ -129,14 +129,20 @@ void Client::scheduleLife()
 {
     if (Runtime::deterministic())
         return;
+    scheduleChatter();
+    // One chain of presence changes: each tick schedules the next.
+    after(delay(0, 15000, 40000), [](Client &client) { client.presenceTick(); });
+}
+
+void Client::scheduleChatter()
+{
     // VOST_DEMO_MESSAGE_EVERY_MS: a busy account, for soak benchmarks.
     bool busy = false;
     const int every = qEnvironmentVariableIntValue("VOST_DEMO_MESSAGE_EVERY_MS", &busy);
     after(busy && every > 0 ? every : delay(0, 20000, 60000), [](Client &client) {
         client.lifeTick();
-        client.scheduleLife();
+        client.scheduleChatter();
     });
-    after(delay(0, 15000, 40000), [](Client &client) { client.presenceTick(); });
 }
 
 void Client::lifeTick()
