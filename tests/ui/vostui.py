@@ -382,9 +382,11 @@ class Vost:
             "VOST_DEMO_DETERMINISTIC": "1",
             "VOST_DEMO_NOW": "1760000000",
         })
-        # A benchmark may compare Qt Quick's renderers.
-        if "QT_QUICK_BACKEND" in os.environ:
-            env["QT_QUICK_BACKEND"] = os.environ["QT_QUICK_BACKEND"]
+        # A benchmark may compare Qt Quick's renderers; a sanitized build takes
+        # the sanitizers' options (the leak suppressions) from the caller.
+        for name in ("QT_QUICK_BACKEND", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"):
+            if name in os.environ:
+                env[name] = os.environ[name]
         env.update(extra_env or {})
         self.env = env
         self.args = list(args)
