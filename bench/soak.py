@@ -3,7 +3,10 @@
 signed in on the demo account, which receives a message every 2 s across its
 chats (VOST_DEMO_MESSAGE_EVERY_MS), while the popover is opened on the chat list
 and closed again once a minute. Prints the process tree's PSS with the popover
-closed, each minute, and how far it moved after the first five minutes.
+closed, each minute, and how far it moved after the first five minutes; beside
+it the anonymous memory (heap and other memory not backed by a file), where a
+leak would show: unlike PSS it does not move when other programs start or stop
+sharing the program's libraries.
 
     xvfb-run -a /usr/bin/python3 bench/soak.py [MINUTES]      (default 30)
 
@@ -22,6 +25,17 @@ from vostui import Desktop, Vost, signed_in_template, wait_until  # noqa: E402
 SETTLE_MINUTES = 5
 
 
+def anonymous_kb(pid):
+    """The anonymous memory of pid, in kB."""
+    with open(f"/proc/{pid}/smaps_rollup") as rollup:
+        return next(int(line.split()[1]) for line in rollup if line.startswith("Anonymous:"))
+
+
+def spread(label, samples):
+    low, high = min(samples), max(samples)
+    return f"{label} from {low:.1f} to {high:.1f} MB ({(high - low) / low * 100:.1f} % apart), last {samples[-1]:.1f} MB"
+
+
 def main():
     minutes = int(sys.argv[1]) if len(sys.argv) > 1 else 30
     desktop = Desktop()
@@ -31,6 +45,7 @@ def main():
         pid = vost.process.pid
         started = time.monotonic()
         samples = []
+        anonymous = []
         for minute in range(1, minutes + 1):
             vost.click_tray()
             wait_until(vost.popover_shown, what="the popover")
@@ -40,14 +55,17 @@ def main():
             wait_until(lambda: not vost.popover_shown(), what="the popover closed")
             time.sleep(max(0.0, started + minute * 60 - time.monotonic()))
             samples.append(pss_kb(pid) / 1024)
-            print(f"minute {minute}: PSS {samples[-1]:.1f} MB", flush=True)
+            anonymous.append(anonymous_kb(pid) / 1024)
+            print(f"minute {minute}: PSS {samples[-1]:.1f} MB, anonymous {anonymous[-1]:.1f} MB", flush=True)
         if len(samples) > SETTLE_MINUTES:
-            settled = samples[SETTLE_MINUTES - 1:]
-            low, high = min(settled), max(settled)
-            print(f"after minute {SETTLE_MINUTES}: PSS from {low:.1f} to {high:.1f} MB "
-                  f"({(high - low) / low * 100:.1f} % apart), last {settled[-1]:.1f} MB")
+            print(f"after minute {SETTLE_MINUTES}: " + spread("PSS", samples[SETTLE_MINUTES - 1:]) + "; "
+                  + spread("anonymous", anonymous[SETTLE_MINUTES - 1:]))
         vost.quit()
-        leaks = [line for line in vost.output().splitlines() if "LeakSanitizer" in line or "SUMMARY:" in line]
+        # Each leak with the frame that allocated it, so that runs can be compared.
+        lines = vost.output().splitlines()
+        leaks = [line if "leak of" not in line else line + " " + (lines[i + 2].strip() if i + 2 < len(lines) else "")
+                 for i, line in enumerate(lines)
+                 if "LeakSanitizer" in line or "SUMMARY:" in line or "leak of" in line]
         print("\n".join(leaks) if leaks else "no leak report in the program's output")
     finally:
         desktop.close()
