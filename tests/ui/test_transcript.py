@@ -106,12 +106,13 @@ class Transcript(VostTestCase):
             vost.wheel(messages, 2)
         vost.find("image", "Sticker 😀", within=messages)
         # Media without a caption shows no line of text; a caption does.
+        def uncaptioned_photos():
+            return [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)]
         for _ in range(40):
-            photos = [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)]
-            if photos and vost.all("image", "Photo", within=photos[0]):
+            if uncaptioned_photos():
                 break
             vost.wheel(messages, 2)
-        photo = [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)][0]
+        photo = uncaptioned_photos()[0]
         vost.find("image", "Photo", within=photo)
         self.assertEqual(vost.all("paragraph", within=photo), [])
         for _ in range(20):
