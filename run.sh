@@ -23,7 +23,7 @@ DEBIAN_PACKAGES=(
     qml6-module-qtmultimedia qt6-image-formats-plugins
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-libav
     fonts-noto-color-emoji xvfb xauth dbus trayer xdotool
-    at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip pulseaudio pulseaudio-utils dunst xfce4-panel xfconf
+    at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel
 )
 
 install_packages() {

@@ -192,13 +192,23 @@ class Desktop:
                               check=False).stdout
 
     def start_tray(self, kind="trayer"):
-        """trayer (an XEmbed tray) or xfce4-panel (a StatusNotifierItem host, with
-        the xfconf daemon it keeps its settings in)."""
+        """trayer (an XEmbed tray), or a StatusNotifierItem host: xfce4-panel (with
+        the xfconf daemon it keeps its settings in) or lxqt-panel (with only its
+        status notifier plugin, along the top edge)."""
         self.stop_tray()
         self.tray_kind = kind
         if kind == "xfce4-panel":
             self.tray_helpers = [self._spawn([XFCONFD])]
             self.tray_process = self._spawn(["xfce4-panel", "--disable-wm-check"])
+            wait_until(lambda: "org.kde.StatusNotifierWatcher" in self.bus_names(), what="the panel's tray")
+            return
+        if kind == "lxqt-panel":
+            config = os.path.join(self.work, "lxqt-panel.conf")
+            with open(config, "w") as out:
+                out.write("[General]\n__userfile__=true\n\n[panel1]\nplugins=statusnotifier\nposition=Top\n"
+                          "panelSize=26\niconSize=22\nalignment=1\nbackground-color=#dcdcdc\nopacity=100\n\n"
+                          "[statusnotifier]\nalignment=Right\ntype=statusnotifier\n")
+            self.tray_process = self._spawn(["lxqt-panel", "--config", config])
             wait_until(lambda: "org.kde.StatusNotifierWatcher" in self.bus_names(), what="the panel's tray")
             return
         self.tray_process = self._spawn(["trayer", "--edge", "top", "--align", "right", "--widthtype", "pixel",
