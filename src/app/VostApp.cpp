@@ -89,6 +89,12 @@ int unreadCountFrom(const QVariant &object)
 
 int VostApp::run(QApplication &application)
 {
+#if defined(__GLIBC__)
+    // Large blocks (decoded pictures, animation frames) always get pages of their
+    // own, which go back to the system when freed. By default glibc raises this
+    // threshold after the first such block is freed, and later ones stay in its heaps.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+#endif
     QApplication::setApplicationName(u"Vost"_s);
     QApplication::setOrganizationName(u"Corvella"_s);
     QApplication::setDesktopFileName(u"vost"_s);
