@@ -175,10 +175,25 @@ private Q_SLOTS:
         QVERIFY(!m_server.requestedPaths().contains("/dir/s.css"));
     }
 
-    void latin1Page()
+    // Pages often declare a charset they are not written in: the bytes decide.
+    void titlesReadWhateverCharsetIsDeclared_data()
     {
-        m_server.answer("/latin1", {200, "text/html; charset=iso-8859-1", "<title>Caf\xe9 cr\xe8me</title>"});
-        auto metadata = load(m_server.url(u"/latin1"_s));
+        QTest::addColumn<QByteArray>("contentType");
+        QTest::addColumn<QByteArray>("body");
+        const QByteArray latin1 = "<title>Caf\xe9 cr\xe8me</title>";
+        const QByteArray utf8 = "<title>Caf\xc3\xa9 cr\xc3\xa8me</title>";
+        QTest::newRow("Latin-1 as declared") << "text/html; charset=iso-8859-1"_ba << latin1;
+        QTest::newRow("Latin-1 declared as UTF-8") << "text/html; charset=utf-8"_ba << latin1;
+        QTest::newRow("UTF-8 declared as Latin-1") << "text/html; charset=iso-8859-1"_ba << utf8;
+        QTest::newRow("UTF-8 in a charset nobody knows") << "text/html; charset=x-no-such-charset"_ba << utf8;
+    }
+
+    void titlesReadWhateverCharsetIsDeclared()
+    {
+        QFETCH(QByteArray, contentType);
+        QFETCH(QByteArray, body);
+        m_server.answer("/charset", {200, contentType, body});
+        auto metadata = load(m_server.url(u"/charset"_s));
         QCOMPARE(metadata->title(), u"Caf\u00e9 cr\u00e8me"_s);
     }
 
