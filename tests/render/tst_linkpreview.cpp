@@ -273,8 +273,8 @@ private Q_SLOTS:
                                << QList<QByteArray>{} << int(Delivery::Whole);
         QTest::newRow("gzip bomb") << "/bomb"_ba << 200 << gzipBomb(qsizetype(1) << 30)
                                    << QList<QByteArray>{"Content-Encoding: gzip"_ba} << int(Delivery::Whole);
-        QTest::newRow("redirect loop") << "/loop"_ba << 302 << QByteArray() << QList<QByteArray>{"Location: /loop"_ba}
-                                       << int(Delivery::Whole);
+        QTest::newRow("redirects without end")
+            << "/hop0"_ba << 302 << QByteArray() << QList<QByteArray>{"Location: /hop1"_ba} << int(Delivery::Whole);
     }
 
     void hostileServers()
@@ -286,23 +286,28 @@ private Q_SLOTS:
         QFETCH(int, delivery);
         m_server.answer(path,
                         {status, "text/html; charset=utf-8", body, headers, LoopbackHttpServer::Delivery(delivery)});
+        // Each hop of the redirect chain has a path of its own, so that a request
+        // Qt's network access sends again (when the server's close overtakes the
+        // answer on a busy machine) does not count as one more redirect.
+        constexpr int hops = LinkPreviewMetadata::maximumRedirects + 5;
+        for (int hop = 1; path == "/hop0" && hop <= hops; ++hop)
+            m_server.answer(hopPath(hop), {302, "text/html", {}, {"Location: " + hopPath(hop + 1)}});
         auto metadata = load(m_server.url(QString::fromLatin1(path)));
         QVERIFY(metadata->hasLoaded());
         // What a page that did not load shows: its host.
         QCOMPARE(metadata->title(), u"127.0.0.1"_s);
         QVERIFY(!metadata->hasImage());
-        if (path == "/loop") {
-            // Every redirect is followed up to the limit, and no further. Qt's
-            // network access may send one request again when the server's close
-            // overtakes the answer on a busy machine.
-            const qsizetype requests = m_server.requestedPaths().count("/loop");
-            QVERIFY2(requests >= LinkPreviewMetadata::maximumRedirects + 1 &&
-                         requests <= LinkPreviewMetadata::maximumRedirects + 2,
-                     QByteArray::number(requests));
+        if (path == "/hop0") {
+            // Every redirect is followed up to the limit, and no further.
+            const QList<QByteArray> requested = m_server.requestedPaths();
+            QVERIFY(requested.contains(hopPath(LinkPreviewMetadata::maximumRedirects)));
+            QVERIFY(!requested.contains(hopPath(LinkPreviewMetadata::maximumRedirects + 1)));
         }
     }
 
 private:
+    static QByteArray hopPath(int hop) { return "/hop" + QByteArray::number(hop); }
+
     std::unique_ptr<LinkPreviewMetadata> load(const QUrl &url)
     {
         auto metadata = std::make_unique<LinkPreviewMetadata>(url);
