@@ -231,7 +231,7 @@ void TelegramSession::resetAccountState()
     m_pendingRecentStickers.clear();
     m_rosterOrder.clear();
     m_rosterRank.clear();
-    m_contactUsers.clear();
+    m_contactNames.clear();
     m_currentUserID.reset();
     m_requestedTrendingStickers = false;
     // Late answers to the old account's sticker requests no longer match.

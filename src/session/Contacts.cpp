@@ -323,17 +323,21 @@ void TelegramSession::forgetChat(const QString &chatID)
     sortChats();
 }
 
-ContactChoice TelegramSession::makeContactChoice(qint64 userID, const TdObject &user) const
+TelegramSession::ContactName TelegramSession::contactName(const TdObject &user)
 {
     const QString joined = fullName(user);
-    const QString name = joined.isEmpty() ? u"Telegram contact"_s : joined;
     const QJsonArray active = user.value("usernames"_L1).toObject().value("active_usernames"_L1).toArray();
-    const QString username = active.isEmpty() ? QString() : u"@"_s + active.first().toString();
+    return {joined.isEmpty() ? u"Telegram contact"_s : joined,
+            active.isEmpty() ? QString() : u"@"_s + active.first().toString()};
+}
+
+ContactChoice TelegramSession::makeContactChoice(qint64 userID, const ContactName &name) const
+{
     const auto stored = m_telegramUsers.constFind(userID);
     return {userID,
-            name,
-            username,
-            initials(name),
+            name.name,
+            name.username,
+            initials(name.name),
             stored != m_telegramUsers.cend() ? stored->avatarPath : std::nullopt,
             m_onlineUsers.contains(userID)};
 }
@@ -344,13 +348,14 @@ void TelegramSession::publishRosterContact(const TdObject &user)
     const auto rank = userID ? m_rosterRank.constFind(*userID) : m_rosterRank.cend();
     if (rank == m_rosterRank.cend())
         return;
-    m_contactUsers.insert(*userID, user);
+    const ContactName name = contactName(user);
+    m_contactNames.insert(*userID, name);
     // The list keeps the roster's order: its place is found by rank, not by a scan.
-    const auto place = std::lower_bound(m_contacts.begin(), m_contacts.end(), *rank,
-                                        [this](const ContactChoice &c, qsizetype wanted) {
-                                            return m_rosterRank.value(c.id, -1) < wanted;
-                                        });
-    ContactChoice choice = makeContactChoice(*userID, user);
+    const auto place =
+        std::lower_bound(m_contacts.begin(), m_contacts.end(), *rank, [this](const ContactChoice &c, qsizetype wanted) {
+            return m_rosterRank.value(c.id, -1) < wanted;
+        });
+    ContactChoice choice = makeContactChoice(*userID, name);
     if (place != m_contacts.end() && place->id == choice.id)
         *place = std::move(choice);
     else
@@ -371,8 +376,9 @@ void TelegramSession::publishContactResult(const TdObject &user, const QString &
     const std::optional<qint64> userID = int64From(user.value("id"_L1));
     if (!userID || query != m_contactQuery)
         return; // a result of an earlier search
-    m_contactUsers.insert(*userID, user);
-    const ContactChoice choice = makeContactChoice(*userID, user);
+    const ContactName name = contactName(user);
+    m_contactNames.insert(*userID, name);
+    const ContactChoice choice = makeContactChoice(*userID, name);
     const auto same = std::find_if(m_contactResults.begin(), m_contactResults.end(),
                                    [&choice](const ContactChoice &c) { return c.id == choice.id; });
     if (same != m_contactResults.end())
@@ -389,12 +395,9 @@ void TelegramSession::refreshContactEntries(qint64 userID)
         for (ContactChoice &contact : list) {
             if (contact.id != userID)
                 continue;
-            ContactChoice updated = makeContactChoice(userID, m_contactUsers.value(userID));
-            if (!m_contactUsers.contains(userID)) {
-                updated.name = contact.name;
-                updated.username = contact.username;
-                updated.initials = contact.initials;
-            }
+            const auto name = m_contactNames.constFind(userID);
+            ContactChoice updated = makeContactChoice(
+                userID, name != m_contactNames.cend() ? *name : ContactName{contact.name, contact.username});
             changed |= updated != contact;
             contact = updated;
         }

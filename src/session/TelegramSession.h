@@ -268,7 +268,13 @@ private:
     void setCreatingConversation(bool creating);
     void openConversationChat(const TdObject &chat);
     void forgetChat(const QString &chatID);
-    ContactChoice makeContactChoice(qint64 userID, const TdObject &user) const;
+    // A contact's name and username, read once from its user object.
+    struct ContactName {
+        QString name;
+        QString username;
+    };
+    static ContactName contactName(const TdObject &user);
+    ContactChoice makeContactChoice(qint64 userID, const ContactName &name) const;
     void publishRosterContact(const TdObject &user);
     void rankRoster();
     void publishContactResult(const TdObject &user, const QString &query);
@@ -396,7 +402,9 @@ private:
     QList<ContactChoice> m_contacts;
     QList<qint64> m_rosterOrder;
     QHash<qint64, qsizetype> m_rosterRank; // each contact's place in m_rosterOrder
-    QHash<qint64, TdObject> m_contactUsers; // the user objects behind contact entries
+    // The names behind contact entries; kept as texts, as a parsed user object
+    // holds far more than the entry shows.
+    QHash<qint64, ContactName> m_contactNames;
     QList<ContactChoice> m_contactResults;
     QString m_contactQuery;
     std::optional<QString> m_conversationError;

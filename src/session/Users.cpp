@@ -29,8 +29,8 @@ void TelegramSession::storeUser(const TdObject &object)
             avatarPath = stored->avatarPath;
     }
     m_telegramUsers.insert(*id, User{newViewID(), name, initials(name), AvatarColor::Teal, avatarPath});
-    if (m_contactUsers.contains(*id))
-        m_contactUsers.insert(*id, object);
+    if (const auto contact = m_contactNames.find(*id); contact != m_contactNames.end())
+        *contact = contactName(object);
     setUserOnline(*id, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
     republishChatsWithMessages();
 }
