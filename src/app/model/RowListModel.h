@@ -105,6 +105,10 @@ protected:
             rows.move(from, i);
             endMoveRows();
         }
+        // The rows now match incoming row by row: sharing its storage keeps one copy
+        // of a long list instead of one per model, and drops what insertions grew.
+        Q_ASSERT(rows.size() == incoming.size());
+        rows = incoming;
     }
 
 private:
