@@ -36,7 +36,7 @@ int Runtime::now()
 
 int Runtime::createClient()
 {
-    std::lock_guard lock(m_mutex);
+    std::lock_guard world(m_mutex);
     if (!m_threadStarted) {
         std::thread([this] { runTimers(); }).detach();
         m_threadStarted = true;
@@ -53,19 +53,20 @@ void Runtime::send(int clientID, const char *request)
 {
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(QByteArray(request ? request : ""), &parseError);
-    std::lock_guard lock(m_mutex);
     if (!document.isObject()) {
         post(clientID, error(400, u"Failed to parse JSON object as TDLib request: "_s + parseError.errorString()));
         return;
     }
     if (!m_threadStarted) {
+        std::lock_guard world(m_mutex);
         handleRequest(clientID, document.object());
         return;
     }
     // Handled on the library's own thread, as TDLib does: the caller never waits
     // for the work a request makes (thousands of chats, say).
+    std::lock_guard queue(m_queueMutex);
     m_requests.emplace_back(clientID, document.object());
-    m_timersChanged.notify_all();
+    m_workReady.notify_all();
 }
 
 void Runtime::handleRequest(int clientID, const QJsonObject &request)
@@ -83,9 +84,9 @@ void Runtime::handleRequest(int clientID, const QJsonObject &request)
 
 const char *Runtime::receive(double timeout)
 {
-    std::unique_lock lock(m_mutex);
+    std::unique_lock queue(m_queueMutex);
     const auto deadline = Clock::now() + std::chrono::microseconds(qint64(std::max(0.0, timeout) * 1e6));
-    if (!m_outputReady.wait_until(lock, deadline, [this] { return !m_output.empty(); }))
+    if (!m_outputReady.wait_until(queue, deadline, [this] { return !m_output.empty(); }))
         return nullptr;
     m_current = std::move(m_output.front());
     m_output.pop_front();
@@ -117,38 +118,45 @@ const char *Runtime::execute(const char *request)
 void Runtime::post(int clientID, QJsonObject object)
 {
     object.insert("@client_id"_L1, clientID);
-    m_output.push_back(QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString());
+    std::string text = QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+    std::lock_guard queue(m_queueMutex);
+    m_output.push_back(std::move(text));
     m_outputReady.notify_all();
 }
 
 void Runtime::schedule(int clientID, int delayMilliseconds, std::function<void(Client &)> task)
 {
     const auto due = Clock::now() + std::chrono::milliseconds(delayMilliseconds);
+    std::lock_guard queue(m_queueMutex);
     m_timers.emplace(std::make_pair(due, ++m_timerSequence), Timer{clientID, std::move(task)});
-    m_timersChanged.notify_all();
+    m_workReady.notify_all();
 }
 
 void Runtime::runTimers()
 {
-    std::unique_lock lock(m_mutex);
     for (;;) {
+        std::unique_lock queue(m_queueMutex);
         if (!m_requests.empty()) {
             const auto [clientID, request] = std::move(m_requests.front());
             m_requests.pop_front();
+            queue.unlock();
+            std::lock_guard world(m_mutex);
             handleRequest(clientID, request);
             continue;
         }
         if (m_timers.empty()) {
-            m_timersChanged.wait(lock);
+            m_workReady.wait(queue);
             continue;
         }
         const auto due = m_timers.begin()->first.first;
         if (Clock::now() < due) {
-            m_timersChanged.wait_until(lock, due);
+            m_workReady.wait_until(queue, due);
             continue;
         }
         Timer timer = std::move(m_timers.begin()->second);
         m_timers.erase(m_timers.begin());
+        queue.unlock();
+        std::lock_guard world(m_mutex);
         const auto it = m_clients.find(timer.clientID);
         if (it != m_clients.end() && !it->second->isClosed())
             timer.task(*it->second);

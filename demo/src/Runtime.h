@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -19,7 +20,9 @@ class Client;
 // The process-wide state behind TDLib's four JSON entry points: the clients, the
 // queue of answers and updates that td_receive hands out, and the timers of the
 // simulated world, which run on one internal thread. Every client is touched only
-// with the mutex held.
+// with the world's mutex held; the queues have a mutex of their own, so that, as
+// with TDLib, td_send and td_receive never wait for the work of a request or a
+// timer (drawing a thousand avatars, say).
 class Runtime
 {
 public:
@@ -30,7 +33,7 @@ public:
     const char *receive(double timeout);
     static const char *execute(const char *request);
 
-    // With the mutex held (from a client):
+    // From a client, with the world's mutex held:
     void post(int clientID, QJsonObject object);
     void schedule(int clientID, int delayMilliseconds, std::function<void(Client &)> task);
 
@@ -42,7 +45,7 @@ public:
 private:
     Runtime() = default;
     void runTimers();
-    // With the mutex held.
+    // With the world's mutex held.
     void handleRequest(int clientID, const QJsonObject &request);
 
     using Clock = std::chrono::steady_clock;
@@ -51,20 +54,25 @@ private:
         std::function<void(Client &)> task;
     };
 
+    // The world: the clients. Taken before the queues' mutex, never after it.
     std::mutex m_mutex;
+    std::map<int, std::unique_ptr<Client>> m_clients;
+    int m_lastClientID = 0;
+
+    // The queues between the callers and the library's thread.
+    std::mutex m_queueMutex;
     std::condition_variable m_outputReady;
-    std::condition_variable m_timersChanged;
+    std::condition_variable m_workReady;
     std::deque<std::string> m_output;
     std::string m_current;
-    std::map<int, std::unique_ptr<Client>> m_clients;
     std::map<std::pair<Clock::time_point, quint64>, Timer> m_timers;
     // Requests wait for the library's thread, in the order they were sent.
     std::deque<std::pair<int, QJsonObject>> m_requests;
     quint64 m_timerSequence = 0;
-    int m_lastClientID = 0;
+
     // The library's one thread, which handles requests and timers; started with
     // the first client and never stopped.
-    bool m_threadStarted = false;
+    std::atomic<bool> m_threadStarted = false;
 };
 
 } // namespace demo
