@@ -33,7 +33,7 @@ public:
     const char *receive(double timeout);
     static const char *execute(const char *request);
 
-    // From a client, with the world's mutex held:
+    // They take the queues' mutex, so a client calls them with the world's held.
     void post(int clientID, QJsonObject object);
     void schedule(int clientID, int delayMilliseconds, std::function<void(Client &)> task);
 
