@@ -100,26 +100,29 @@ class Transcript(VostTestCase):
         vost, messages = self.open_emma()
         # The WebP sticker renders as an image, not as its fallback text. The wheel
         # stops at its message: its picture may still be on its way.
-        for _ in range(40):
-            if any("Sticker 😀" in message.name for message in vost.messages()):
-                break
-            vost.wheel(messages, 2)
+        vost.wheel_until(messages, lambda: any("Sticker 😀" in m.name for m in vost.messages()))
         vost.find("image", "Sticker 😀", within=messages)
         # Media without a caption shows no line of text; a caption does.
         def uncaptioned_photos():
             return [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)]
-        for _ in range(40):
-            if uncaptioned_photos():
+        photos = vost.wheel_until(messages, uncaptioned_photos)
+        self.assertTrue(photos, "no photo without a caption on the way up")
+        vost.find("image", "Photo", within=photos[0])
+        self.assertEqual(vost.all("paragraph", within=photos[0]), [])
+        def captioned_photos():
+            return [m for m in vost.messages() if m.name.startswith("Emma Wilson: Photo, Sunset at the lake")]
+        captioned = vost.wheel_until(messages, captioned_photos, turns=20)
+        self.assertTrue(captioned, "no captioned photo on the way up")
+        # Its caption is the bubble's last line: a bubble cut off by the bottom
+        # edge comes up into view first.
+        _, top, _, height = messages.extents()
+        for _ in range(10):
+            x, y, w, h = captioned[0].extents()
+            if y + h <= top + height:
                 break
-            vost.wheel(messages, 2)
-        photo = uncaptioned_photos()[0]
-        vost.find("image", "Photo", within=photo)
-        self.assertEqual(vost.all("paragraph", within=photo), [])
-        for _ in range(20):
-            captioned = [m for m in vost.messages() if m.name.startswith("Emma Wilson: Photo, Sunset at the lake")]
-            if captioned:
-                break
-            vost.wheel(messages, 2)
+            vost.wheel(messages, 1, down=True)
+            time.sleep(0.3)
+            captioned = captioned_photos() or captioned
         vost.find("paragraph", "Sunset at the lake 🌅", within=captioned[0], timeout=5)
 
 

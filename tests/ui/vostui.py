@@ -507,6 +507,25 @@ class Vost:
         self.desktop.xdotool("click", "--repeat", clicks, "--delay", 10, 5 if down else 4)
         time.sleep(0.05)
 
+    def wheel_until(self, node, found, clicks=2, turns=40):
+        """Turns the wheel over node (up) a few clicks at a time until found()
+        answers something true, and returns that answer (or the last one). Each
+        turn comes to rest before found() is asked: a flick still moving could
+        carry what is looked for past the view between two looks."""
+        for _ in range(turns):
+            result = found()
+            if result:
+                return result
+            self.wheel(node, clicks)
+            last = None
+            for _ in range(20):
+                now = [(m.name, tuple(m.extents())) for m in self.messages()]
+                if now == last:
+                    break
+                last = now
+                time.sleep(0.05)
+        return found()
+
     # The tray item: Qt gives it no accessible object, so it is found as the
     # program's small window inside the tray host.
     def tray_icon_geometry(self):
