@@ -68,7 +68,9 @@ FocusScope {
             width: ListView.view.width
             archive: archiveFilter
             // It appears once the chats are counted: a list at its top shows it.
-            onHeightChanged: if (list.contentY - list.originY <= height) list.positionViewAtBeginning()
+            // While the list is still making it (headerItem not set yet), moving
+            // the list would make it a second time.
+            onHeightChanged: if (list.headerItem === this && list.contentY - list.originY <= height) list.positionViewAtBeginning()
         }
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
