@@ -212,7 +212,6 @@ void TelegramSession::resetAccountState()
     m_privateChatUsers.clear();
     m_privateChatsByUser.clear();
     m_contactUserIDs.clear();
-    m_chatOrders.clear();
     m_chatPositions.clear();
     m_explicitlyOpenedChats.clear();
     m_chatTimestamps.clear();

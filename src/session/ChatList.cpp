@@ -106,26 +106,14 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     chat.subtitle = presenceSubtitle(id, baseSubtitle);
     chat.avatarText = initials(chat.title);
 
-    m_knownChats.insert(id, chat);
     if (chat.isMuted)
         m_mutedChatIDs.insert(id);
     else
         m_mutedChatIDs.remove(id);
-    m_chatsToSort.append(id);
+    m_knownChats.insert(id, std::move(chat));
+    // Placing the chat queues it for sorting.
     updatePositions(id, object.contains("positions"_L1) ? QJsonValue(positions) : QJsonValue(QJsonArray()), true);
     sortChats();
-}
-
-void TelegramSession::updateChat(const QString &chatID, const std::function<void(Chat &)> &change)
-{
-    const auto known = m_knownChats.find(chatID);
-    if (known == m_knownChats.end())
-        return;
-    change(*known);
-    if (m_chatIndexKeys.contains(chatID)) {
-        m_publishedChatsValid = false;
-        Q_EMIT chatsChanged();
-    }
 }
 
 void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonValue &message,
@@ -169,9 +157,7 @@ void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &p
     }
     if (!stored.isEmpty())
         m_explicitlyOpenedChats.remove(chatID);
-    // The archive decides the order and the pin of a chat that is in both lists.
-    const std::optional<ChatPosition> &sortEntry = stored.archive ? stored.archive : stored.main;
-    m_chatOrders.insert(chatID, sortEntry ? sortEntry->order : 0);
+    const std::optional<ChatPosition> &sortEntry = stored.sortEntry();
     const bool pinned = sortEntry && sortEntry->isPinned;
     const bool archived = stored.archive.has_value();
     m_chatPositions.insert(chatID, stored);
@@ -192,9 +178,12 @@ void TelegramSession::sortChats()
 {
     // Only the chats touched since the last sort can have moved.
     for (const QString &chatID : std::as_const(m_chatsToSort)) {
+        const auto positions = m_chatPositions.constFind(chatID);
+        const bool placed = positions != m_chatPositions.cend() && !positions->isEmpty();
         const bool visible = m_knownChats.contains(chatID) && !m_removedChatIDs.contains(chatID) &&
-                             (hasListPosition(chatID) || m_explicitlyOpenedChats.contains(chatID));
-        const ChatSortKey key{m_chatOrders.value(chatID, 0), parseInt64(chatID).value_or(0)};
+                             (placed || m_explicitlyOpenedChats.contains(chatID));
+        const std::optional<ChatPosition> sortEntry = placed ? positions->sortEntry() : std::nullopt;
+        const ChatSortKey key{sortEntry ? sortEntry->order : 0, parseInt64(chatID).value_or(0)};
         const auto indexed = m_chatIndexKeys.find(chatID);
         if (indexed != m_chatIndexKeys.end()) {
             if (visible && !(*indexed < key) && !(key < *indexed))

@@ -307,7 +307,6 @@ void TelegramSession::forgetChat(const QString &chatID)
     Q_EMIT deletingChatsChanged();
     m_knownChats.remove(chatID);
     m_chatPositions.remove(chatID);
-    m_chatOrders.remove(chatID);
     m_chatTimestamps.remove(chatID);
     m_explicitlyOpenedChats.remove(chatID);
     m_rawMessagesByChat.remove(chatID);

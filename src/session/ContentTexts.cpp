@@ -108,13 +108,11 @@ QString chatSubtitle(const QJsonValue &chatType)
 
 QString fullName(const TdObject &user)
 {
-    QStringList names;
-    for (const auto key : {"first_name"_L1, "last_name"_L1}) {
-        const QString name = user.value(key).toString();
-        if (!name.isEmpty())
-            names.append(name);
-    }
-    return names.join(u' ');
+    const QString first = user.value("first_name"_L1).toString();
+    const QString last = user.value("last_name"_L1).toString();
+    if (first.isEmpty() || last.isEmpty())
+        return first.isEmpty() ? last : first;
+    return first + u' ' + last;
 }
 
 StickerFormat stickerFormat(const QJsonValue &format)

@@ -202,7 +202,18 @@ private:
 
     // Chat list
     void addOrUpdateChat(const TdObject &chat);
-    void updateChat(const QString &chatID, const std::function<void(Chat &)> &change);
+    // Applies change to a known chat; the list is republished when the chat is in it.
+    template<typename Change> void updateChat(const QString &chatID, Change &&change)
+    {
+        const auto known = m_knownChats.find(chatID);
+        if (known == m_knownChats.end())
+            return;
+        change(*known);
+        if (m_chatIndexKeys.contains(chatID)) {
+            m_publishedChatsValid = false;
+            Q_EMIT chatsChanged();
+        }
+    }
     void updateChatLastMessage(const QString &chatID, const QJsonValue &message, const QJsonValue &positions);
     void updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing);
     bool hasListPosition(const QString &chatID) const;
@@ -342,10 +353,11 @@ private:
         std::optional<ChatPosition> main;
         std::optional<ChatPosition> archive;
         bool isEmpty() const { return !main && !archive; }
+        // The archive decides the order and the pin of a chat that is in both lists.
+        const std::optional<ChatPosition> &sortEntry() const { return archive ? archive : main; }
     };
     QHash<QString, Chat> m_knownChats;
     QHash<QString, ChatPositions> m_chatPositions;
-    QHash<QString, qint64> m_chatOrders;
     QHash<QString, qint64> m_chatTimestamps;
     QHash<QString, qint64> m_lastReadInbox;
     QSet<QString> m_mutedChatIDs;
