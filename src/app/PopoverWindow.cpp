@@ -4,11 +4,22 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QQmlEngine>
+#include <QQmlIncubationController>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Long enough for a quick look back to find everything as it was.
+constexpr int contentReleaseDelayMs = 5000;
+
+} // namespace
+
 PopoverWindow::PopoverWindow(QQmlEngine *engine, QWindow *parent)
     : QQuickView(engine, parent)
+    , m_releaseTimer(new QTimer(this))
 {
     setTitle(u"Vost"_s);
     setResizeMode(QQuickView::SizeRootObjectToView);
@@ -16,6 +27,39 @@ PopoverWindow::PopoverWindow(QQmlEngine *engine, QWindow *parent)
     setMinimumSize(contentSize);
     setMaximumSize(contentSize);
     setTrayMode(false);
+    m_releaseTimer->setSingleShot(true);
+    m_releaseTimer->setInterval(contentReleaseDelayMs);
+    connect(m_releaseTimer, &QTimer::timeout, this, &PopoverWindow::releaseContent);
+    // The views are made before the first frame, so the window opens complete.
+    connect(this, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (visible) {
+            m_releaseTimer->stop();
+            setHoldsContent(true);
+        } else {
+            m_releaseTimer->start();
+        }
+    });
+}
+
+void PopoverWindow::setHoldsContent(bool holds)
+{
+    if (holds == m_holdsContent)
+        return;
+    m_holdsContent = holds;
+    Q_EMIT holdsContentChanged();
+}
+
+void PopoverWindow::releaseContent()
+{
+    if (isVisible())
+        return;
+    // A hidden window makes no frames, so delegates being made in the background
+    // would wait half-built; destroying their component then is fatal in Qt.
+    if (QQmlIncubationController *incubation = engine()->incubationController()) {
+        while (incubation->incubatingObjectCount() > 0)
+            incubation->incubateFor(50);
+    }
+    setHoldsContent(false);
 }
 
 void PopoverWindow::setTrayMode(bool inTray)

@@ -2,14 +2,25 @@
 
 #include <QQuickItem>
 #include <QQuickView>
+#include <QtQml/qqmlregistration.h>
+
+class QTimer;
 
 // The window that holds the whole client. In the tray it is a frameless panel
 // without a taskbar entry; without a tray it is an ordinary window. It reports
 // what the application decides on: an Esc that no view took, the quit shortcut,
 // and Ctrl-clicks ("VostCommandClick", posted here before the click is delivered).
+//
+// Vost spends most of its life in the tray, so the views inside the window are
+// let go a few seconds after it hides and made again when it shows (holdsContent);
+// the models behind them stay.
 class PopoverWindow : public QQuickView
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application makes the one popover.")
+    // Whether the views should exist: from showing until a few seconds after hiding.
+    Q_PROPERTY(bool holdsContent READ holdsContent NOTIFY holdsContentChanged)
 
 public:
     static constexpr QSize contentSize{860, 560};
@@ -20,9 +31,12 @@ public:
     void setTrayMode(bool inTray);
     bool isInTrayMode() const { return m_inTray; }
 
+    bool holdsContent() const { return m_holdsContent; }
+
 Q_SIGNALS:
     void escapeNotHandled();
     void quitRequested();
+    void holdsContentChanged();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -31,6 +45,10 @@ protected:
 private:
     // Whether a popup (a menu, a picker, a dialog) is open.
     bool hasOpenPopup() const;
+    void setHoldsContent(bool holds);
+    void releaseContent();
 
     bool m_inTray = false;
+    bool m_holdsContent = true; // made with the window, ready for the first opening
+    QTimer *m_releaseTimer;
 };

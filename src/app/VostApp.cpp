@@ -56,6 +56,8 @@ constexpr int deactivationCloseDelayMs = 150;
 // closed it already; the same click must not open it again.
 constexpr int reopenGuardMs = 400;
 constexpr int trayWatchIntervalMs = 2000;
+// From letting the popover's views go to handing their memory back.
+constexpr int contentSettleMs = 1000;
 
 // The demo account's fixed credentials: the demo library accepts any.
 constexpr qint64 demoAPIID = 12345;
@@ -188,7 +190,8 @@ bool VostApp::launch()
     // The pictures of a chat nobody looks at need not stay decoded.
     connect(m_root->viewModel(), &ChatViewModel::selectedChatIDChanged, this, &MediaImageProvider::release);
     m_popover = std::make_unique<PopoverWindow>(m_engine);
-    m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_root)}});
+    m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_root)},
+                                     {u"popover"_s, QVariant::fromValue<QObject *>(m_popover.get())}});
     m_popover->setSource(QUrl(u"qrc:/qt/qml/Vost/App/qml/PopoverRoot.qml"_s));
     if (m_popover->status() != QQuickView::Ready) {
         for (const QQmlError &error : m_popover->errors())
@@ -200,6 +203,19 @@ bool VostApp::launch()
                                                  visible);
         if (!visible)
             releasePopoverMemory();
+    });
+    connect(m_popover.get(), &PopoverWindow::holdsContentChanged, this, [this] {
+        if (m_popover->holdsContent())
+            return;
+        // The views go by deleteLater, and what they held in turn; their memory is
+        // handed back once all of that has run.
+        m_engine->collectGarbage();
+        QTimer::singleShot(contentSettleMs, this, [this] {
+            if (m_popover->holdsContent())
+                return;
+            m_popover->grabWindow();
+            releasePopoverMemory();
+        });
     });
     connect(m_popover.get(), &QWindow::activeChanged, this, &VostApp::popoverActiveChanged);
     if (lcPopoverTiming().isDebugEnabled()) {

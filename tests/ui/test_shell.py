@@ -6,7 +6,7 @@ import re
 import shutil
 import subprocess
 
-from vostui import VOST, VostTestCase, main, wait_until
+from vostui import VOST, VostTestCase, main, wait_until, walk
 
 UNREAD = re.compile(r"Vost, (\d+) unread messages")
 
@@ -43,6 +43,26 @@ class Tray(VostTestCase):
         wait_until(vost.popover_shown, what="the popover a third time")
         vost.key("ctrl+q")
         self.assertEqual(vost.process.wait(10), 0)
+
+    def test_views_let_go_while_closed_come_back_as_they_were(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        vost.fill(vost.find("text", "Message"), "Half a thought")
+        vost.key("Escape")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed")
+
+        def chat_lists():
+            # Hidden nodes too: a closed popover shows nothing either way.
+            return [node for node in walk(vost.window(), showing_only=False)
+                    if node.role == "list" and node.name == "Chat list"]
+        wait_until(lambda: not chat_lists(), timeout=20, what="the closed popover's views let go")
+
+        vost.click_tray()
+        wait_until(vost.popover_shown, what="the popover again")
+        vost.find("panel", "Conversation with Emma Wilson")
+        self.assertEqual(vost.find("text", "Message").text(), "Half a thought")
+        vost.find("list item", "Of course! See you at 7", contains=True, within=vost.find("list", "Messages"))
+        vost.wait_for_chats()
 
     def test_the_tray_menu_opens_the_popover_and_quits(self):
         # The menu is a popup: screen readers follow it by its focus, not in the

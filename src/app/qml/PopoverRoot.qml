@@ -4,10 +4,13 @@ import Vost.Model
 
 // The whole client inside the popover: the configuration error without
 // credentials, the sign-in screen until the session is ready, then the chats.
+// The chats are let go while the popover stays closed; the sign-in screen keeps
+// what is typed into it, and a file dialog still open answers to the composer.
 Rectangle {
     id: root
 
     required property AppRootView host
+    required property PopoverWindow popover
 
     color: Appearance.background
     Accessible.role: Accessible.Pane
@@ -18,6 +21,7 @@ Rectangle {
 
         anchors.fill: parent
         focus: true
+        active: root.popover.holdsContent || sourceComponent !== chats || FilePanel.isOpen
         sourceComponent: !root.host.hasCredentials ? configurationError
                                                    : (root.host.session.isReady ? chats : login)
     }

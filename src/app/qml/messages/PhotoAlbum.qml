@@ -76,6 +76,9 @@ Item {
 
                     anchors.fill: parent
                     source: photo.modelData.mediaPath !== "" ? "image://media/" + encodeURIComponent(photo.modelData.mediaPath) : ""
+                    // The media provider keeps its own cache, emptied when the chat changes
+                    // or the popover closes; a second one in Qt Quick would keep them longer.
+                    cache: false
                     sourceSize: Qt.size(width * 2, height * 2)
                     fillMode: Image.PreserveAspectCrop
                     asynchronous: true

@@ -54,6 +54,7 @@ Popup {
             anchors.margins: 56
             visible: !viewer.isVideo
             source: viewer.current && !viewer.isVideo ? "image://media/" + encodeURIComponent(viewer.current.path) : ""
+            cache: false // the media provider has its own
             sourceSize: Qt.size(width * 2, height * 2)
             fillMode: Image.PreserveAspectFit
             asynchronous: true
