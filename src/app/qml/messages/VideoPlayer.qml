@@ -29,6 +29,20 @@ Item {
     property bool started: false
     readonly property bool playing: path !== "" && onScreen && (isAnimation || started)
                                     && Window.window !== null && Window.window.visible
+    // A reused delegate gets its new path and details one after the other: the
+    // media player (which brings in GStreamer and its decoders) is made only for
+    // what is still wanted once both have arrived, never for a GIF in between.
+    readonly property bool needsPlayer: path !== "" && !isGif && (playing || !started)
+    property bool playerWanted: false
+    onNeedsPlayerChanged: settling.restart()
+    Component.onCompleted: playerWanted = needsPlayer
+
+    Timer {
+        id: settling
+
+        interval: 0
+        onTriggered: media.playerWanted = media.needsPlayer
+    }
 
     implicitWidth: details.width > 0 ? Math.min(maximumWidth, details.width) : maximumWidth
     implicitHeight: implicitWidth * (details.width > 0 && details.height > 0 ? Math.min(details.height / details.width, 1.4) : 0.75)
@@ -73,7 +87,7 @@ Item {
 
         Loader {
             anchors.fill: parent
-            active: media.path !== "" && !media.isGif && (media.playing || !media.started)
+            active: media.playerWanted
             sourceComponent: Item {
                 VideoOutput {
                     id: output
