@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQmlIncubationController>
+#include <QSGRendererInterface>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +48,16 @@ void PopoverWindow::setHoldsContent(bool holds)
         return;
     m_holdsContent = holds;
     Q_EMIT holdsContentChanged();
+}
+
+void PopoverWindow::dropReleasedScene()
+{
+    // A hidden window makes no frames, and only the next frame's sync frees the
+    // scene nodes (and their textures) of items deleted since. The software
+    // renderer can make one without a window on screen.
+    if (isVisible() || rendererInterface()->graphicsApi() != QSGRendererInterface::Software)
+        return;
+    grabWindow();
 }
 
 void PopoverWindow::releaseContent()

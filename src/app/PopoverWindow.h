@@ -32,6 +32,8 @@ public:
     bool isInTrayMode() const { return m_inTray; }
 
     bool holdsContent() const { return m_holdsContent; }
+    // Frees what the scene graph still keeps of views let go while hidden.
+    void dropReleasedScene();
 
 Q_SIGNALS:
     void escapeNotHandled();

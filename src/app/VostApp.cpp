@@ -213,7 +213,7 @@ bool VostApp::launch()
         QTimer::singleShot(contentSettleMs, this, [this] {
             if (m_popover->holdsContent())
                 return;
-            m_popover->grabWindow();
+            m_popover->dropReleasedScene();
             releasePopoverMemory();
         });
     });
