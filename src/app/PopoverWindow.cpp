@@ -60,15 +60,24 @@ void PopoverWindow::dropReleasedScene()
     grabWindow();
 }
 
+void PopoverWindow::holdContentWhileHidden()
+{
+    m_releaseTimer->stop();
+}
+
 void PopoverWindow::releaseContent()
 {
     if (isVisible())
         return;
     // A hidden window makes no frames, so delegates being made in the background
     // would wait half-built; destroying their component then is fatal in Qt.
-    if (QQmlIncubationController *incubation = engine()->incubationController()) {
-        while (incubation->incubatingObjectCount() > 0)
-            incubation->incubateFor(50);
+    QQmlIncubationController *incubation = engine()->incubationController();
+    for (int round = 0; incubation && incubation->incubatingObjectCount() > 0; ++round) {
+        if (round == 40) {
+            m_releaseTimer->start(); // still busy after 2 s: another time
+            return;
+        }
+        incubation->incubateFor(50);
     }
     setHoldsContent(false);
 }

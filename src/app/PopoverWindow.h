@@ -34,6 +34,9 @@ public:
     bool holdsContent() const { return m_holdsContent; }
     // Frees what the scene graph still keeps of views let go while hidden.
     void dropReleasedScene();
+    // Keeps the views until the window shows again: a file dialog in front of the
+    // hidden popover answers to them.
+    void holdContentWhileHidden();
 
 Q_SIGNALS:
     void escapeNotHandled();

@@ -449,6 +449,7 @@ void VostApp::openChatFromNotification()
 void VostApp::suspendPopoverForFilePanel()
 {
     closePopover();
+    m_popover->holdContentWhileHidden();
 }
 
 void VostApp::restorePopoverAfterFilePanel()

@@ -33,6 +33,9 @@ class Files(VostTestCase):
         # The popover steps aside for the desktop's file dialog.
         wait_until(lambda: not vost.popover_shown(), what="the popover out of the dialog's way")
         dialog = vost.find("dialog", "Attach files", timeout=15)
+        # Longer than a closed popover keeps its views: the composer the dialog
+        # answers to must still be there.
+        time.sleep(6)
         name = vost.find("text", within=dialog)
         vost.fill(name, '"red.png" "green.jpg" "blue.png" "itinerary.pdf" "empty.txt"')
         vost.key("Return")

@@ -5,7 +5,7 @@ import Vost.Model
 // The whole client inside the popover: the configuration error without
 // credentials, the sign-in screen until the session is ready, then the chats.
 // The chats are let go while the popover stays closed; the sign-in screen keeps
-// what is typed into it, and a file dialog still open answers to the composer.
+// what is typed into it.
 Rectangle {
     id: root
 
@@ -21,7 +21,7 @@ Rectangle {
 
         anchors.fill: parent
         focus: true
-        active: root.popover.holdsContent || sourceComponent !== chats || FilePanel.isOpen
+        active: root.popover.holdsContent || sourceComponent !== chats
         sourceComponent: !root.host.hasCredentials ? configurationError
                                                    : (root.host.session.isReady ? chats : login)
     }
