@@ -63,6 +63,8 @@ class Tray(VostTestCase):
         self.assertEqual(vost.find("text", "Message").text(), "Half a thought")
         vost.find("list item", "Of course! See you at 7", contains=True, within=vost.find("list", "Messages"))
         vost.wait_for_chats()
+        # Made at its full height this time: the list still opens at its top.
+        vost.find("list item", "Archived chats", contains=True, within=vost.find("list", "Chat list"))
 
     def test_the_tray_menu_opens_the_popover_and_quits(self):
         # The menu is a popup: screen readers follow it by its focus, not in the
