@@ -77,16 +77,10 @@ class Transcript(VostTestCase):
             # space above it that starts a sender's group, but its bubble stays.
             def bottoms():
                 return {m.name: sum(m.extents()[1::2]) for m in vost.messages()}
-            # The wheel's flick comes to rest first.
-            settled = [bottoms()]
-            for _ in range(10):
-                time.sleep(0.05)
-                settled.append(bottoms())
-                if settled[-1] == settled[-2]:
-                    break
+            vost.wait_for_rest()
             if not vost.all("progress bar", "Loading older messages", within=messages):
                 continue
-            before = settled[-1]
+            before = bottoms()
             vost.absent("progress bar", "Loading older messages", within=messages)
             after = bottoms()
             common = set(before) & set(after)
@@ -121,7 +115,7 @@ class Transcript(VostTestCase):
             if y + h <= top + height:
                 break
             vost.wheel(messages, 1, down=True)
-            time.sleep(0.3)
+            vost.wait_for_rest()
             captioned = captioned_photos() or captioned
         vost.find("paragraph", "Sunset at the lake 🌅", within=captioned[0], timeout=5)
 

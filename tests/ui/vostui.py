@@ -517,14 +517,19 @@ class Vost:
             if result:
                 return result
             self.wheel(node, clicks)
-            last = None
-            for _ in range(20):
-                now = [(m.name, tuple(m.extents())) for m in self.messages()]
-                if now == last:
-                    break
-                last = now
-                time.sleep(0.05)
+            self.wait_for_rest()
         return found()
+
+    def wait_for_rest(self, looks=20):
+        """Waits (a second at most) until the transcript's messages stop moving:
+        the wheel's flick carries them on after the last click."""
+        last = None
+        for _ in range(looks):
+            now = [(m.name, tuple(m.extents())) for m in self.messages()]
+            if now == last:
+                return
+            last = now
+            time.sleep(0.05)
 
     # The tray item: Qt gives it no accessible object, so it is found as the
     # program's small window inside the tray host.
