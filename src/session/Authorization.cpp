@@ -182,9 +182,15 @@ void TelegramSession::resetAccountState()
     // The user cache, read markers, avatar owners, base subtitles and muted chats
     // are kept on purpose: they describe Telegram, not the account that left.
     cancelConversation();
-    m_knownChats.clear();
+    for (ChatRecord &record : m_chatRecords) {
+        record.chat.reset();
+        record.listKey.reset();
+        record.positions = {};
+        record.privateChatUser.reset();
+    }
     m_chatIndex.clear();
-    m_chatIndexKeys.clear();
+    m_chatIndexChanges.clear();
+    m_chatIndexNeedsRebuild = false;
     m_chatsToSort.clear();
     m_publishedChatsValid = false;
     Q_EMIT chatsChanged();
@@ -209,12 +215,9 @@ void TelegramSession::resetAccountState()
     setStickerError(std::nullopt);
 
     m_removedChatIDs.clear();
-    m_privateChatUsers.clear();
     m_privateChatsByUser.clear();
     m_contactUserIDs.clear();
-    m_chatPositions.clear();
     m_explicitlyOpenedChats.clear();
-    m_chatTimestamps.clear();
     m_rawMessagesByChat.clear();
     m_messageMediaOwners.clear();
     m_downloadedMediaPaths.clear();

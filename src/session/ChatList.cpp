@@ -13,6 +13,10 @@ namespace {
 const QString mainList = u"chatListMain"_s;
 const QString archiveList = u"chatListArchive"_s;
 
+// Past this many changes since the list was last read, sorting the whole index
+// again is cheaper than moving entries one by one.
+constexpr qsizetype maximumChatIndexChanges = 64;
+
 bool isMuted(const QJsonValue &notificationSettings)
 {
     return integerFrom(notificationSettings.toObject().value("mute_for"_L1)).value_or(0) >= 1;
@@ -61,13 +65,8 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
         lastMessage.isObject() ? integerFrom(lastMessage.toObject().value("date"_L1)) : std::nullopt;
     chat.preview = previewText(lastMessage.isObject() ? std::optional(lastMessage.toObject()) : std::nullopt);
     chat.timestamp = timestampText(date, localToday());
-    m_chatTimestamps.insert(id, date.value_or(0));
     chat.unreadCount = integerFrom(object.value("unread_count"_L1)).value_or(0);
     chat.isMuted = isMuted(object.value("notification_settings"_L1));
-    if (const auto lastRead = int64From(object.value("last_read_inbox_message_id"_L1)))
-        m_lastReadInbox.insert(id, *lastRead);
-    else if (!m_lastReadInbox.contains(id))
-        m_lastReadInbox.insert(id, 0);
 
     // Provisional: the positions below decide these again.
     const QJsonArray positions = object.value("positions"_L1).toArray();
@@ -88,29 +87,27 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     chat.isMarkedUnread = object.value("is_marked_as_unread"_L1).toBool();
     chat.draftText = draftText(object.value("draft_message"_L1));
     chat.avatarPath = prepareChatAvatar(object.value("photo"_L1), id);
-    if (!chat.avatarPath) {
-        if (const auto known = m_knownChats.constFind(id); known != m_knownChats.cend())
-            chat.avatarPath = known->avatarPath;
-    }
+
+    ChatRecord &record = m_chatRecords[*numericID];
+    if (!chat.avatarPath && record.chat)
+        chat.avatarPath = record.chat->avatarPath;
+    if (const auto lastRead = int64From(object.value("last_read_inbox_message_id"_L1)))
+        record.lastReadInbox = *lastRead;
     const TdObject type = object.value("type"_L1).toObject();
     if (typeOf(type) == "chatTypePrivate"_L1) {
         if (const auto userID = int64From(type.value("user_id"_L1))) {
-            if (const auto previous = m_privateChatUsers.constFind(id); previous != m_privateChatUsers.cend())
-                m_privateChatsByUser.remove(*previous, id);
-            m_privateChatUsers.insert(id, *userID);
+            if (record.privateChatUser)
+                m_privateChatsByUser.remove(*record.privateChatUser, id);
+            record.privateChatUser = *userID;
             m_privateChatsByUser.insert(*userID, id);
         }
     }
-    const QString baseSubtitle = chatSubtitle(type);
-    m_baseChatSubtitles.insert(id, baseSubtitle);
-    chat.subtitle = presenceSubtitle(id, baseSubtitle);
+    QString baseSubtitle = chatSubtitle(type);
+    chat.subtitle = presenceSubtitle(record.privateChatUser, baseSubtitle);
+    record.baseSubtitle = std::move(baseSubtitle);
     chat.avatarText = initials(chat.title);
-
-    if (chat.isMuted)
-        m_mutedChatIDs.insert(id);
-    else
-        m_mutedChatIDs.remove(id);
-    m_knownChats.insert(id, std::move(chat));
+    record.isMuted = chat.isMuted;
+    record.chat = std::move(chat);
     // Placing the chat queues it for sorting.
     updatePositions(id, object.contains("positions"_L1) ? QJsonValue(positions) : QJsonValue(QJsonArray()), true);
     sortChats();
@@ -121,7 +118,6 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
 {
     const std::optional<qint64> date =
         message.isObject() ? integerFrom(message.toObject().value("date"_L1)) : std::nullopt;
-    m_chatTimestamps.insert(chatID, date.value_or(0));
     const QString preview = previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
     const QString timestamp = timestampText(date, localToday());
     updateChat(chatID, [&](Chat &chat) {
@@ -129,7 +125,7 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
         chat.timestamp = timestamp;
     });
     updatePositions(chatID, positions, true);
-    if (!m_knownChats.contains(chatID) && hasListPosition(chatID))
+    if (!knownChat(chatID) && hasListPosition(chatID))
         requestChat(chatID.toLongLong());
     sortChats();
 }
@@ -138,7 +134,10 @@ void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &p
 {
     if (!positions.isArray())
         return;
-    ChatPositions stored = replacing ? ChatPositions() : m_chatPositions.value(chatID);
+    ChatRecord *record = chatRecord(chatID);
+    if (!record)
+        return;
+    ChatPositions stored = replacing ? ChatPositions() : record->positions;
     for (const QJsonValue &value : positions.toArray()) {
         const TdObject position = value.toObject();
         const QString listType = typeOf(position.value("list"_L1));
@@ -160,41 +159,95 @@ void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &p
     const std::optional<ChatPosition> &sortEntry = stored.sortEntry();
     const bool pinned = sortEntry && sortEntry->isPinned;
     const bool archived = stored.archive.has_value();
-    m_chatPositions.insert(chatID, stored);
+    record->positions = stored;
     m_chatsToSort.append(chatID);
-    updateChat(chatID, [&](Chat &chat) {
-        chat.isArchived = archived;
-        chat.isPinned = pinned;
-    });
+    if (record->chat) {
+        record->chat->isArchived = archived;
+        record->chat->isPinned = pinned;
+        if (record->listKey)
+            m_publishedChatsValid = false; // sortChats, which always follows, announces the change
+    }
+}
+
+TelegramSession::ChatRecord *TelegramSession::findChatRecord(const QString &chatID)
+{
+    const std::optional<qint64> id = parseInt64(chatID);
+    const auto record = id ? m_chatRecords.find(*id) : m_chatRecords.end();
+    return record != m_chatRecords.end() ? &*record : nullptr;
+}
+
+const TelegramSession::ChatRecord *TelegramSession::findChatRecord(const QString &chatID) const
+{
+    const std::optional<qint64> id = parseInt64(chatID);
+    const auto record = id ? m_chatRecords.constFind(*id) : m_chatRecords.cend();
+    return record != m_chatRecords.cend() ? &*record : nullptr;
+}
+
+TelegramSession::ChatRecord *TelegramSession::chatRecord(const QString &chatID)
+{
+    const std::optional<qint64> id = parseInt64(chatID);
+    return id ? &m_chatRecords[*id] : nullptr;
 }
 
 bool TelegramSession::hasListPosition(const QString &chatID) const
 {
-    const auto positions = m_chatPositions.constFind(chatID);
-    return positions != m_chatPositions.cend() && !positions->isEmpty();
+    const ChatRecord *record = findChatRecord(chatID);
+    return record && !record->positions.isEmpty();
+}
+
+const Chat *TelegramSession::knownChat(const QString &chatID) const
+{
+    const ChatRecord *record = findChatRecord(chatID);
+    return record && record->chat ? &*record->chat : nullptr;
+}
+
+bool TelegramSession::isListed(const QString &chatID) const
+{
+    const ChatRecord *record = findChatRecord(chatID);
+    return record && record->listKey;
+}
+
+std::optional<qint64> TelegramSession::privateChatUser(const QString &chatID) const
+{
+    const ChatRecord *record = findChatRecord(chatID);
+    return record ? record->privateChatUser : std::nullopt;
+}
+
+qint64 TelegramSession::lastReadInbox(const QString &chatID) const
+{
+    const ChatRecord *record = findChatRecord(chatID);
+    return record ? record->lastReadInbox : 0;
+}
+
+std::optional<QString> TelegramSession::baseSubtitle(const QString &chatID) const
+{
+    const ChatRecord *record = findChatRecord(chatID);
+    return record ? record->baseSubtitle : std::nullopt;
 }
 
 void TelegramSession::sortChats()
 {
     // Only the chats touched since the last sort can have moved.
     for (const QString &chatID : std::as_const(m_chatsToSort)) {
-        const auto positions = m_chatPositions.constFind(chatID);
-        const bool placed = positions != m_chatPositions.cend() && !positions->isEmpty();
-        const bool visible = m_knownChats.contains(chatID) && !m_removedChatIDs.contains(chatID) &&
-                             (placed || m_explicitlyOpenedChats.contains(chatID));
-        const std::optional<ChatPosition> sortEntry = placed ? positions->sortEntry() : std::nullopt;
-        const ChatSortKey key{sortEntry ? sortEntry->order : 0, parseInt64(chatID).value_or(0)};
-        const auto indexed = m_chatIndexKeys.find(chatID);
-        if (indexed != m_chatIndexKeys.end()) {
-            if (visible && !(*indexed < key) && !(key < *indexed))
-                continue; // already in place
-            m_chatIndex.erase(*indexed);
-            m_chatIndexKeys.erase(indexed);
-        }
-        if (!visible)
+        ChatRecord *record = findChatRecord(chatID);
+        if (!record)
+            continue; // never described nor placed, so never listed
+        const bool placed = !record->positions.isEmpty();
+        const bool visible =
+            record->chat && !m_removedChatIDs.contains(chatID) && (placed || m_explicitlyOpenedChats.contains(chatID));
+        const std::optional<ChatPosition> sortEntry = placed ? record->positions.sortEntry() : std::nullopt;
+        const ChatSortKey key{sortEntry ? sortEntry->order : 0, chatID.toLongLong()};
+        const std::optional<ChatSortKey> from = record->listKey;
+        const std::optional<ChatSortKey> to = visible ? std::optional(key) : std::nullopt;
+        if (from.has_value() == to.has_value() && (!from || (!(*from < *to) && !(*to < *from))))
+            continue; // already in place
+        record->listKey = to;
+        if (m_chatIndexNeedsRebuild)
             continue;
-        m_chatIndex.emplace(key, chatID);
-        m_chatIndexKeys.insert(chatID, key);
+        if (m_chatIndexChanges.size() < maximumChatIndexChanges)
+            m_chatIndexChanges.append({from, to});
+        else
+            m_chatIndexNeedsRebuild = true;
     }
     m_chatsToSort.clear();
     m_publishedChatsValid = false;
@@ -204,21 +257,48 @@ void TelegramSession::sortChats()
 const QList<Chat> &TelegramSession::chats() const
 {
     if (!m_publishedChatsValid) {
+        bringChatIndexUpToDate();
         m_publishedChats.clear();
         m_publishedChats.reserve(qsizetype(m_chatIndex.size()));
-        for (const auto &[key, chatID] : m_chatIndex)
-            m_publishedChats.append(m_knownChats.value(chatID));
+        for (const ChatSortKey &key : m_chatIndex) {
+            // A chat being forgotten may still be indexed until the next sort.
+            if (const auto record = m_chatRecords.constFind(key.id); record->chat)
+                m_publishedChats.append(*record->chat);
+        }
         m_publishedChatsValid = true;
     }
     return m_publishedChats;
 }
 
+void TelegramSession::bringChatIndexUpToDate() const
+{
+    if (std::exchange(m_chatIndexNeedsRebuild, false)) {
+        m_chatIndexChanges.clear();
+        m_chatIndex.clear();
+        for (auto record = m_chatRecords.cbegin(); record != m_chatRecords.cend(); ++record) {
+            if (record->listKey)
+                m_chatIndex.push_back(*record->listKey);
+        }
+        std::sort(m_chatIndex.begin(), m_chatIndex.end());
+        return;
+    }
+    // In the order they happened, so each change starts where the one before ended.
+    for (const ChatIndexChange &change : std::as_const(m_chatIndexChanges)) {
+        if (change.from) {
+            const auto at = std::lower_bound(m_chatIndex.begin(), m_chatIndex.end(), *change.from);
+            if (at != m_chatIndex.end() && !(*change.from < *at))
+                m_chatIndex.erase(at);
+        }
+        if (change.to)
+            m_chatIndex.insert(std::lower_bound(m_chatIndex.begin(), m_chatIndex.end(), *change.to), *change.to);
+    }
+    m_chatIndexChanges.clear();
+}
+
 void TelegramSession::applyNotificationSettings(const TdObject &settings, const QString &chatID)
 {
     const bool muted = isMuted(settings);
-    if (muted)
-        m_mutedChatIDs.insert(chatID);
-    else
-        m_mutedChatIDs.remove(chatID);
+    if (ChatRecord *record = chatRecord(chatID))
+        record->isMuted = muted;
     updateChat(chatID, [muted](Chat &chat) { chat.isMuted = muted; });
 }

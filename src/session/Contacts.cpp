@@ -154,7 +154,7 @@ void TelegramSession::deleteChat(const QString &chatID, bool includingContact)
     Q_EMIT deletingChatsChanged();
     TdObject extra = tagged(u"delete_chat"_s, {{"chat_id"_L1, chatID}});
     if (includingContact)
-        extra.insert("contact_id"_L1, m_privateChatUsers.value(chatID, 0));
+        extra.insert("contact_id"_L1, privateChatUser(chatID).value_or(0));
     send(u"deleteChatHistory"_s,
          {{"chat_id"_L1, *chat}, {"remove_from_chat_list"_L1, true}, {"revoke"_L1, false}, {"@extra"_L1, extra}});
 }
@@ -305,9 +305,12 @@ void TelegramSession::forgetChat(const QString &chatID)
     m_removedChatIDs.insert(chatID);
     m_deletingChats.remove(chatID);
     Q_EMIT deletingChatsChanged();
-    m_knownChats.remove(chatID);
-    m_chatPositions.remove(chatID);
-    m_chatTimestamps.remove(chatID);
+    // What describes Telegram rather than the list (read markers, the other
+    // person, the base subtitle, muting) is kept, as after signing out.
+    if (ChatRecord *record = findChatRecord(chatID)) {
+        record->chat.reset();
+        record->positions = {};
+    }
     m_explicitlyOpenedChats.remove(chatID);
     m_rawMessagesByChat.remove(chatID);
     m_loadingInitialHistory.remove(chatID);

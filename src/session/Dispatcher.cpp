@@ -31,9 +31,11 @@ void TelegramSession::handle(const TdObject &object, const QString &type)
         }
         return;
     }
-    if (routeStickerAnswer(type, object))
+    // Read once: every event passes here, and updates carry no tag at all.
+    const TdObject extra = object.value("@extra"_L1).toObject();
+    if (routeStickerAnswer(type, extra, object))
         return;
-    const QJsonValue purpose = object.value("@extra"_L1).toObject().value("purpose"_L1);
+    const QJsonValue purpose = extra.value("purpose"_L1);
     if (purpose.isString() && routeByPurpose(purpose.toString(), type, object))
         return;
     if (routeByType(type, object))
@@ -90,7 +92,7 @@ bool TelegramSession::routeByType(const QString &type, const TdObject &object)
         if (!chatID)
             return true;
         updatePositions(*chatID, QJsonArray{object.value("position"_L1)}, false);
-        if (!m_knownChats.contains(*chatID) && hasListPosition(*chatID))
+        if (!knownChat(*chatID) && hasListPosition(*chatID))
             requestChat(chatID->toLongLong());
         sortChats();
     } else if (type == "updateChatLastMessage"_L1) {

@@ -62,13 +62,16 @@ void TelegramSession::publishMessages(const QString &chatID)
     byID.reserve(messages.size());
     for (const TdObject &raw : std::as_const(messages))
         byID.insert(idOf(raw), &raw);
-    const MessageDetailsContext context{
-        [this](qint64 userID) {
-            const auto user = m_telegramUsers.constFind(userID);
-            return user == m_telegramUsers.cend() ? QString() : user->name;
-        },
-        [this](qint64 chat) { return m_knownChats.value(QString::number(chat)).title; },
-        [&byID](qint64 messageID) { return byID.value(messageID); }};
+    const auto chatTitle = [this](qint64 chat) {
+        const auto record = m_chatRecords.constFind(chat);
+        return record != m_chatRecords.cend() && record->chat ? record->chat->title : QString();
+    };
+    const auto userName = [this](qint64 userID) {
+        const auto user = m_telegramUsers.constFind(userID);
+        return user == m_telegramUsers.cend() ? QString() : user->name;
+    };
+    const MessageDetailsContext context{userName, chatTitle,
+                                        [&byID](qint64 messageID) { return byID.value(messageID); }};
     for (const TdObject &raw : std::as_const(messages)) {
         if (std::optional<Message> message = makeMessage(raw)) {
             published.append(std::move(*message));
@@ -114,7 +117,7 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
         message.isUnread = false;
     } else {
         message.deliveryState = MessageDeliveryState::None;
-        message.isUnread = m_lastReadInbox.value(chatID, 0) < *id;
+        message.isUnread = lastReadInbox(chatID) < *id;
     }
 
     const TdObject content = raw.value("content"_L1).toObject();
@@ -279,7 +282,8 @@ void TelegramSession::markMessagesRead(const QList<Message> &messages, const QSt
     if (viewed != m_lastViewedMessage.cend() ? *viewed >= *newest : *newest <= 0)
         return;
     m_lastViewedMessage.insert(chatID, *newest);
-    m_lastReadInbox.insert(chatID, std::max(*newest, m_lastReadInbox.value(chatID, 0)));
+    ChatRecord &record = m_chatRecords[*chat];
+    record.lastReadInbox = std::max(*newest, record.lastReadInbox);
     updateChat(chatID, [](Chat &c) { c.unreadCount = 0; });
     publishMessages(chatID);
     send(u"viewMessages"_s, {{"chat_id"_L1, *chat},
@@ -348,7 +352,7 @@ void TelegramSession::handleNewMessage(const TdObject &message)
         // A new message brings a deleted chat back.
         m_removedChatIDs.remove(chatID);
         m_chatsToSort.append(chatID);
-        if (!m_chatIndexKeys.contains(chatID))
+        if (!isListed(chatID))
             requestChat(*chat);
     }
     storeNewMessage(message);
@@ -362,7 +366,7 @@ void TelegramSession::handleReadInbox(const TdObject &update)
         return;
     const QString chatID = QString::number(*chat);
     if (const auto lastRead = int64From(update.value("last_read_inbox_message_id"_L1)))
-        m_lastReadInbox.insert(chatID, *lastRead);
+        m_chatRecords[*chat].lastReadInbox = *lastRead;
     const qint64 unread = integerFrom(update.value("unread_count"_L1)).value_or(0);
     updateChat(chatID, [unread](Chat &c) { c.unreadCount = unread; });
     publishMessages(chatID);

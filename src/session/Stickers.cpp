@@ -83,9 +83,9 @@ void TelegramSession::requestTrendingStickers()
                                        {"@extra"_L1, TdObject{{"sticker_request"_L1, m_stickerRequestID}}}});
 }
 
-bool TelegramSession::routeStickerAnswer(const QString &type, const TdObject &object)
+bool TelegramSession::routeStickerAnswer(const QString &type, const TdObject &extra, const TdObject &object)
 {
-    const QJsonValue requestID = object.value("@extra"_L1).toObject().value("sticker_request"_L1);
+    const QJsonValue requestID = extra.value("sticker_request"_L1);
     if (requestID.isUndefined())
         return false;
     const bool current = requestID.toString() == m_stickerRequestID;

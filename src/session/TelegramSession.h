@@ -146,7 +146,7 @@ public:
     const QSet<QString> &deletingChats() const { return m_deletingChats; }
     // For the views: the chats being deleted, and whether a chat is with one person.
     QStringList deletingChatIDs() const { return m_deletingChats.values(); }
-    Q_INVOKABLE bool isPrivateChat(const QString &chatID) const { return m_privateChatUsers.contains(chatID); }
+    Q_INVOKABLE bool isPrivateChat(const QString &chatID) const { return privateChatUser(chatID).has_value(); }
     std::optional<QString> newlyOpenedChatID() const { return m_newlyOpenedChatID; }
 
     // One raw answer or update as TDLib delivered it.
@@ -205,11 +205,11 @@ private:
     // Applies change to a known chat; the list is republished when the chat is in it.
     template<typename Change> void updateChat(const QString &chatID, Change &&change)
     {
-        const auto known = m_knownChats.find(chatID);
-        if (known == m_knownChats.end())
+        ChatRecord *record = findChatRecord(chatID);
+        if (!record || !record->chat)
             return;
-        change(*known);
-        if (m_chatIndexKeys.contains(chatID)) {
+        change(*record->chat);
+        if (record->listKey) {
             m_publishedChatsValid = false;
             Q_EMIT chatsChanged();
         }
@@ -217,6 +217,11 @@ private:
     void updateChatLastMessage(const QString &chatID, const QJsonValue &message, const QJsonValue &positions);
     void updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing);
     bool hasListPosition(const QString &chatID) const;
+    const Chat *knownChat(const QString &chatID) const;
+    bool isListed(const QString &chatID) const;
+    std::optional<qint64> privateChatUser(const QString &chatID) const;
+    qint64 lastReadInbox(const QString &chatID) const;
+    std::optional<QString> baseSubtitle(const QString &chatID) const;
     void sortChats();
     void applyNotificationSettings(const TdObject &settings, const QString &chatID);
     void requestChat(qint64 chatID);
@@ -247,7 +252,7 @@ private:
     void storeUser(const TdObject &user);
     void requestMissingUsers(const QList<TdObject> &messages);
     void refreshPresence(qint64 userID);
-    QString presenceSubtitle(const QString &chatID, const QString &fallback) const;
+    QString presenceSubtitle(std::optional<qint64> privateChatUser, const QString &fallback) const;
     void updateTypingStatus(const TdObject &update);
     void setUserOnline(qint64 userID, bool online);
     std::optional<QString> prepareAvatar(const QJsonValue &photo, const std::function<void(qint64)> &recordOwner);
@@ -263,7 +268,7 @@ private:
     void sendFile(const QString &path, const QString &caption, const QString &chatID, PendingAttachmentKind kind);
 
     // Stickers
-    bool routeStickerAnswer(const QString &type, const TdObject &object);
+    bool routeStickerAnswer(const QString &type, const TdObject &extra, const TdObject &object);
     void requestTrendingStickers();
     void requestStickerSets(const QJsonArray &sets);
     void prepareStickerChoices(const QJsonArray &stickers, bool reset);
@@ -333,9 +338,9 @@ private:
     bool m_restartingAfterLogout = false;
     QEventLoop *m_closeWait = nullptr; // set while quitting waits for the client to close
 
-    // Chat list. The displayed list is kept as an ordered index of the visible
-    // chats and materialised when read, so that a sync of thousands of chats does
-    // not re-sort or copy the whole list for every update.
+    // Chat list. Each listed chat has a sort key; the ordered index of those keys is
+    // brought up to date, and the list materialised, only when the list is read, so
+    // that a sync of thousands of chats neither re-sorts nor copies it per update.
     struct ChatSortKey {
         qint64 order;
         qint64 id;
@@ -356,20 +361,36 @@ private:
         // The archive decides the order and the pin of a chat that is in both lists.
         const std::optional<ChatPosition> &sortEntry() const { return archive ? archive : main; }
     };
-    QHash<QString, Chat> m_knownChats;
-    QHash<QString, ChatPositions> m_chatPositions;
-    QHash<QString, qint64> m_chatTimestamps;
-    QHash<QString, qint64> m_lastReadInbox;
-    QSet<QString> m_mutedChatIDs;
-    QHash<QString, qint64> m_privateChatUsers;
+    // Everything the session keeps about one chat, in one entry: a sync of thousands
+    // of chats then finds or adds one entry per update rather than one per table.
+    struct ChatRecord {
+        std::optional<Chat> chat; // once TDLib has described the chat
+        ChatPositions positions;
+        std::optional<ChatSortKey> listKey;    // while the chat is listed
+        std::optional<qint64> privateChatUser; // the other person in a private chat
+        std::optional<QString> baseSubtitle;   // the subtitle when nobody is online or typing
+        qint64 lastReadInbox = 0;
+        bool isMuted = false;
+    };
+    // Keyed by the number: hashing and comparing chat ID texts cost more than the
+    // rest of a record's lookup.
+    QHash<qint64, ChatRecord> m_chatRecords;
+    ChatRecord *findChatRecord(const QString &chatID);
+    const ChatRecord *findChatRecord(const QString &chatID) const;
+    ChatRecord *chatRecord(const QString &chatID); // found or added; null for a text that is no chat ID
     QMultiHash<qint64, QString> m_privateChatsByUser;
-    QHash<QString, QString> m_baseChatSubtitles;
     QSet<QString> m_explicitlyOpenedChats;
     QSet<QString> m_removedChatIDs;
     QSet<QString> m_loadingChatLists;
-    std::map<ChatSortKey, QString> m_chatIndex;
-    QHash<QString, ChatSortKey> m_chatIndexKeys;
-    QList<QString> m_chatsToSort; // may repeat; sorting is idempotent
+    struct ChatIndexChange {
+        std::optional<ChatSortKey> from;
+        std::optional<ChatSortKey> to;
+    };
+    void bringChatIndexUpToDate() const;
+    mutable std::vector<ChatSortKey> m_chatIndex; // sorted once the changes below are applied
+    mutable QList<ChatIndexChange> m_chatIndexChanges;
+    mutable bool m_chatIndexNeedsRebuild = false; // after more changes than are worth applying one by one
+    QList<QString> m_chatsToSort;                 // may repeat; sorting is idempotent
     mutable QList<Chat> m_publishedChats;
     mutable bool m_publishedChatsValid = true;
 

@@ -64,10 +64,9 @@ void TelegramSession::requestMissingUsers(const QList<TdObject> &messages)
     }
 }
 
-QString TelegramSession::presenceSubtitle(const QString &chatID, const QString &fallback) const
+QString TelegramSession::presenceSubtitle(std::optional<qint64> privateChatUser, const QString &fallback) const
 {
-    const auto userID = m_privateChatUsers.constFind(chatID);
-    if (userID != m_privateChatUsers.cend() && m_onlineUsers.contains(*userID))
+    if (privateChatUser && m_onlineUsers.contains(*privateChatUser))
         return u"Online"_s;
     return fallback;
 }
@@ -78,7 +77,7 @@ void TelegramSession::refreshPresence(qint64 userID)
     for (auto it = m_privateChatsByUser.constFind(userID); it != m_privateChatsByUser.cend() && it.key() == userID;
          ++it) {
         const QString &chatID = it.value();
-        const QString subtitle = online ? u"Online"_s : m_baseChatSubtitles.value(chatID, u"Private conversation"_s);
+        const QString subtitle = online ? u"Online"_s : baseSubtitle(chatID).value_or(u"Private conversation"_s);
         updateChat(chatID, [&subtitle](Chat &chat) { chat.subtitle = subtitle; });
     }
     refreshContactEntries(userID);
@@ -93,7 +92,7 @@ void TelegramSession::updateTypingStatus(const TdObject &update)
     const QString action = typeOf(update.value("action"_L1));
     QString subtitle;
     if (action == "chatActionTyping"_L1) {
-        if (m_privateChatUsers.contains(chatID)) {
+        if (privateChatUser(chatID)) {
             subtitle = u"Typing…"_s;
         } else {
             const auto typist = int64From(update.value("sender_id"_L1).toObject().value("user_id"_L1));
@@ -101,7 +100,7 @@ void TelegramSession::updateTypingStatus(const TdObject &update)
             subtitle = (user != m_telegramUsers.cend() ? user->name : u"Someone"_s) + u" is typing…"_s;
         }
     } else if (action == "chatActionCancel"_L1) {
-        subtitle = presenceSubtitle(chatID, m_baseChatSubtitles.value(chatID, u"Telegram"_s));
+        subtitle = presenceSubtitle(privateChatUser(chatID), baseSubtitle(chatID).value_or(u"Telegram"_s));
     } else {
         return;
     }
