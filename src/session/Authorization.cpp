@@ -182,7 +182,7 @@ void TelegramSession::resetAccountState()
     // The user cache, read markers, avatar owners, base subtitles and muted chats
     // are kept on purpose: they describe Telegram, not the account that left.
     cancelConversation();
-    for (ChatRecord &record : m_chatRecords) {
+    for (auto &[id, record] : m_chatRecords) {
         record.chat.reset();
         record.listKey.reset();
         record.positions = {};

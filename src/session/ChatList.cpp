@@ -68,22 +68,6 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     chat.unreadCount = integerFrom(object.value("unread_count"_L1)).value_or(0);
     chat.isMuted = isMuted(object.value("notification_settings"_L1));
 
-    // Provisional: the positions below decide these again.
-    const QJsonArray positions = object.value("positions"_L1).toArray();
-    for (const QJsonValue &position : positions) {
-        const TdObject p = position.toObject();
-        if (typeOf(p.value("list"_L1)) == archiveList && p.value("order"_L1).isDouble() &&
-            integerFrom(p.value("order"_L1)).value_or(0) > 0)
-            chat.isArchived = true;
-    }
-    const QString pinnedList = chat.isArchived ? archiveList : mainList;
-    for (const QJsonValue &position : positions) {
-        if (typeOf(position.toObject().value("list"_L1)) == pinnedList) {
-            chat.isPinned = position.toObject().value("is_pinned"_L1).toBool();
-            break;
-        }
-    }
-
     chat.isMarkedUnread = object.value("is_marked_as_unread"_L1).toBool();
     chat.draftText = draftText(object.value("draft_message"_L1));
     chat.avatarPath = prepareChatAvatar(object.value("photo"_L1), id);
@@ -108,8 +92,9 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     chat.avatarText = initials(chat.title);
     record.isMuted = chat.isMuted;
     record.chat = std::move(chat);
-    // Placing the chat queues it for sorting.
-    updatePositions(id, object.contains("positions"_L1) ? QJsonValue(positions) : QJsonValue(QJsonArray()), true);
+    // Placing the chat decides whether it is archived and pinned, and queues it for
+    // sorting; a chat without positions is in no list.
+    updatePositions(id, object.value("positions"_L1).toArray(), true);
     sortChats();
 }
 
@@ -118,11 +103,10 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
 {
     const std::optional<qint64> date =
         message.isObject() ? integerFrom(message.toObject().value("date"_L1)) : std::nullopt;
-    const QString preview = previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
-    const QString timestamp = timestampText(date, localToday());
+    // The texts are made only for a chat that is known and can show them.
     updateChat(chatID, [&](Chat &chat) {
-        chat.preview = preview;
-        chat.timestamp = timestamp;
+        chat.preview = previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
+        chat.timestamp = timestampText(date, localToday());
     });
     updatePositions(chatID, positions, true);
     if (!knownChat(chatID) && hasListPosition(chatID))
@@ -173,14 +157,19 @@ TelegramSession::ChatRecord *TelegramSession::findChatRecord(const QString &chat
 {
     const std::optional<qint64> id = parseInt64(chatID);
     const auto record = id ? m_chatRecords.find(*id) : m_chatRecords.end();
-    return record != m_chatRecords.end() ? &*record : nullptr;
+    return record != m_chatRecords.end() ? &record->second : nullptr;
 }
 
 const TelegramSession::ChatRecord *TelegramSession::findChatRecord(const QString &chatID) const
 {
     const std::optional<qint64> id = parseInt64(chatID);
-    const auto record = id ? m_chatRecords.constFind(*id) : m_chatRecords.cend();
-    return record != m_chatRecords.cend() ? &*record : nullptr;
+    return id ? findChatRecord(*id) : nullptr;
+}
+
+const TelegramSession::ChatRecord *TelegramSession::findChatRecord(qint64 chatID) const
+{
+    const auto record = m_chatRecords.find(chatID);
+    return record != m_chatRecords.end() ? &record->second : nullptr;
 }
 
 TelegramSession::ChatRecord *TelegramSession::chatRecord(const QString &chatID)
@@ -262,7 +251,7 @@ const QList<Chat> &TelegramSession::chats() const
         m_publishedChats.reserve(qsizetype(m_chatIndex.size()));
         for (const ChatSortKey &key : m_chatIndex) {
             // A chat being forgotten may still be indexed until the next sort.
-            if (const auto record = m_chatRecords.constFind(key.id); record->chat)
+            if (const ChatRecord *record = findChatRecord(key.id); record && record->chat)
                 m_publishedChats.append(*record->chat);
         }
         m_publishedChatsValid = true;
@@ -275,9 +264,9 @@ void TelegramSession::bringChatIndexUpToDate() const
     if (std::exchange(m_chatIndexNeedsRebuild, false)) {
         m_chatIndexChanges.clear();
         m_chatIndex.clear();
-        for (auto record = m_chatRecords.cbegin(); record != m_chatRecords.cend(); ++record) {
-            if (record->listKey)
-                m_chatIndex.push_back(*record->listKey);
+        for (const auto &[id, record] : m_chatRecords) {
+            if (record.listKey)
+                m_chatIndex.push_back(*record.listKey);
         }
         std::sort(m_chatIndex.begin(), m_chatIndex.end());
         return;

@@ -183,8 +183,10 @@ bool isImageDocument(const TdObject &document)
 std::optional<QString> completedPath(const TdObject &file)
 {
     const TdObject local = file.value("local"_L1).toObject();
-    const QString path = local.value("path"_L1).toString();
-    if (!local.value("is_downloading_completed"_L1).toBool() || path.isEmpty())
+    if (!local.value("is_downloading_completed"_L1).toBool())
+        return std::nullopt;
+    QString path = local.value("path"_L1).toString();
+    if (path.isEmpty())
         return std::nullopt;
     return path;
 }

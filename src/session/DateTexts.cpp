@@ -1,5 +1,6 @@
 #include "session/DateTexts.h"
 
+#include <QHash>
 #include <QLocale>
 #include <QTimeZone>
 
@@ -78,7 +79,14 @@ QString timestampText(std::optional<qint64> date, QDate today)
         return userLocale().toString(time, u"H:mm"_s);
     if (day == today.addDays(-1))
         return u"Yesterday"_s;
-    return userLocale().toString(time, u"d MMM"_s);
+    // A sync dates thousands of chats on far fewer days; the locale never changes.
+    thread_local QHash<qint64, QString> dayTexts;
+    const auto known = dayTexts.constFind(day.toJulianDay());
+    if (known != dayTexts.cend())
+        return *known;
+    if (dayTexts.size() >= 1024)
+        dayTexts.clear();
+    return *dayTexts.insert(day.toJulianDay(), userLocale().toString(time, u"d MMM"_s));
 }
 
 QString messageTime(std::optional<qint64> date)

@@ -63,8 +63,8 @@ void TelegramSession::publishMessages(const QString &chatID)
     for (const TdObject &raw : std::as_const(messages))
         byID.insert(idOf(raw), &raw);
     const auto chatTitle = [this](qint64 chat) {
-        const auto record = m_chatRecords.constFind(chat);
-        return record != m_chatRecords.cend() && record->chat ? record->chat->title : QString();
+        const ChatRecord *record = findChatRecord(chat);
+        return record && record->chat ? record->chat->title : QString();
     };
     const auto userName = [this](qint64 userID) {
         const auto user = m_telegramUsers.constFind(userID);

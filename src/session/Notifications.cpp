@@ -19,11 +19,10 @@ void TelegramSession::notifyIfNeeded(const TdObject &message)
     if (!chat || !content.isObject())
         return;
     const QString chatID = QString::number(*chat);
-    const auto record = m_chatRecords.constFind(*chat);
-    if (record != m_chatRecords.cend() && record->isMuted)
+    const ChatRecord *record = findChatRecord(*chat);
+    if (record && record->isMuted)
         return;
-    const QString title = record != m_chatRecords.cend() && record->listKey && record->chat ? record->chat->title
-                                                                                            : u"New Telegram message"_s;
+    const QString title = record && record->listKey && record->chat ? record->chat->title : u"New Telegram message"_s;
     if (Preferences::shared().showsNotifications())
         NotificationService::shared().notify(title, messageText(content.toObject()), chatID);
     m_soundManager->play(SoundEvent::IncomingMessage);

@@ -15,9 +15,10 @@
 #include <QStringList>
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
+#include <unordered_map>
+#include <vector>
 
 class QEventLoop;
 class QTimer;
@@ -373,10 +374,12 @@ private:
         bool isMuted = false;
     };
     // Keyed by the number: hashing and comparing chat ID texts cost more than the
-    // rest of a record's lookup.
-    QHash<qint64, ChatRecord> m_chatRecords;
+    // rest of a record's lookup. A record stays where it is while others are added,
+    // so a sync never moves the records it has, and a reference to one stays valid.
+    std::unordered_map<qint64, ChatRecord> m_chatRecords;
     ChatRecord *findChatRecord(const QString &chatID);
     const ChatRecord *findChatRecord(const QString &chatID) const;
+    const ChatRecord *findChatRecord(qint64 chatID) const;
     ChatRecord *chatRecord(const QString &chatID); // found or added; null for a text that is no chat ID
     QMultiHash<qint64, QString> m_privateChatsByUser;
     QSet<QString> m_explicitlyOpenedChats;
