@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <unistd.h>
+
 // The proportional set size of a process and of every process below it, in
 // kilobytes, from /proc/PID/smaps_rollup: what a process tree costs the machine.
 namespace ProcessMemory {
@@ -52,6 +54,24 @@ inline int descendantCount(qint64 pid)
     for (const qint64 child : children(pid))
         count += 1 + descendantCount(child);
     return count;
+}
+
+// The CPU time a process and every process still running below it have taken, in
+// seconds, from /proc/PID/stat (helpers' time counts before they are waited for).
+inline double treeCpuSeconds(qint64 pid)
+{
+    double seconds = 0;
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (stat.open(QIODevice::ReadOnly)) {
+        const QByteArray line = stat.readAll();
+        // The fields after the command, which may hold spaces, start at the state.
+        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+        if (fields.size() > 12)
+            seconds = double(fields[11].toLongLong() + fields[12].toLongLong()) / double(sysconf(_SC_CLK_TCK));
+    }
+    for (const qint64 child : children(pid))
+        seconds += treeCpuSeconds(child);
+    return seconds;
 }
 
 } // namespace ProcessMemory

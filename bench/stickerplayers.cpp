@@ -1,8 +1,9 @@
 // What it costs to play animated stickers: the native player (rlottie) against
-// the isolated web page (QtWebEngine). Each player runs in a process of its own,
-// started by this program, which shows a window of N stickers for a few seconds
-// and prints the process tree's memory (PSS) before the window, with the stickers
-// playing, and the CPU time they took. Needs a display (xvfb-run).
+// the isolated web page (QtWebEngine, in the sticker host). Each player runs in a
+// process of its own, started by this program, which shows a window of N stickers
+// for a few seconds and prints the process tree's memory (PSS) before the window,
+// with the stickers playing, and the CPU time the tree took, then what is left a
+// minute after they have gone. Needs a display (xvfb-run).
 //
 //   bench-stickerplayers [N]          both players, N stickers (default 12)
 //   bench-stickerplayers native|web N one player, in this process
@@ -21,7 +22,6 @@
 #include <QTimer>
 #include <QtQml/qqmlextensionplugin.h>
 
-#include <sys/resource.h>
 #include <unistd.h>
 #include <zlib.h>
 
@@ -55,21 +55,9 @@ QByteArray sticker(int seed)
                 "\"p\":{\"a\":1,\"k\":[{\"t\":0,\"s\":[256,380,0],%1},{\"t\":30,\"s\":[256,140,0],%1},"
                 "{\"t\":60,\"s\":[256,380,0]}]},\"a\":{\"a\":0,\"k\":[0,0,0]},\"s\":{\"a\":0,\"k\":[100,100,100]}},"
                 "\"shapes\":[{\"ty\":\"el\",\"p\":{\"a\":0,\"k\":[0,0]},\"s\":{\"a\":0,\"k\":[220,220]}},"
-                "{\"ty\":\"fl\",\"c\":{\"a\":0,\"k\":[%2,0.4,0.8,1]},\"o\":{\"a\":0,\"k\":100}}]}]}"_s
-                    .arg(ease)
+                "{\"ty\":\"fl\",\"c\":{\"a\":0,\"k\":[%2,0.4,0.8,1]},\"o\":{\"a\":0,\"k\":100}}]}]}"_s.arg(ease)
                     .arg((seed % 10) / 10.0)
                     .toUtf8());
-}
-
-double cpuSeconds()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    rusage children{};
-    getrusage(RUSAGE_CHILDREN, &children);
-    const auto seconds = [](const timeval &t) { return double(t.tv_sec) + double(t.tv_usec) / 1e6; };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime) + seconds(children.ru_utime) +
-           seconds(children.ru_stime);
 }
 
 int runOne(const QString &player, int count)
@@ -123,13 +111,13 @@ int runOne(const QString &player, int count)
     QEventLoop settle;
     QTimer::singleShot(web ? 8000 : 2000, &settle, &QEventLoop::quit);
     settle.exec();
-    const double cpuBefore = cpuSeconds();
+    const double cpuBefore = ProcessMemory::treeCpuSeconds(getpid());
     QElapsedTimer clock;
     clock.start();
     QEventLoop play;
     QTimer::singleShot(5000, &play, &QEventLoop::quit);
     play.exec();
-    const double cpu = cpuSeconds() - cpuBefore;
+    const double cpu = ProcessMemory::treeCpuSeconds(getpid()) - cpuBefore;
     const qint64 playing = ProcessMemory::treePss(getpid());
     QTextStream(stdout) << player << ' ' << count << " stickers: PSS before " << before / 1024 << " MB, playing "
                         << playing / 1024 << " MB (+" << (playing - before) / 1024 << " MB), CPU "

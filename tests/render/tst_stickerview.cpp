@@ -1,11 +1,15 @@
-// The sticker page in the real web engine: a Lottie animation of our own plays, a
-// decompression bomb is refused, a video sticker plays or, when it is no video,
-// keeps its emoji, the page can reach no network, and a view loads a new page only
-// when the sticker's key changes. Needs a display (Xvfb in CI).
+// The sticker page in the real web engine, played by the real sticker host: a
+// Lottie animation of our own plays and its frames come back with their
+// transparency, a decompression bomb is refused, a video sticker plays or, when it
+// is no video, keeps its emoji, the page can reach no network, a view loads a new
+// page only when the sticker's key changes, the web engine never enters this
+// process, and the host goes when the last sticker has left or comes back after a
+// crash. Needs a display (Xvfb in CI).
 
 #include "LoopbackHttpServer.h"
 
 #include "StickerEngine.h"
+#include "StickerHostClient.h"
 #include "render/StickerPage.h"
 
 #include <QFile>
@@ -19,8 +23,9 @@
 #include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
 
-#include <algorithm>
 #include <array>
+#include <chrono>
+#include <csignal>
 #include <cstdio>
 
 Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
@@ -92,13 +97,13 @@ Item {
 
 const QByteArray bareViewHarness = R"(
 import QtQuick
-import Vost.Render.Web
+import Vost.Render
 Item {
     width: 160; height: 160
     property bool loaded: false
     property bool probed: false
     property var probeResult
-    StickerWebView { id: view; anchors.fill: parent; onPageLoaded: loaded = true }
+    StickerHostView { id: view; anchors.fill: parent; onPageLoaded: loaded = true }
     function show(page) { loaded = false; view.show(page) }
     function probe(script) {
         probed = false
@@ -137,11 +142,21 @@ recorder.start();
 setTimeout(() => recorder.stop(), 1000);
 </script></body></html>)"_s;
 
-// Whether QtWebEngine has been loaded into this process at all.
-bool webEngineLoaded()
+// Whether QtWebEngine has been loaded into a process.
+bool webEngineLoaded(qint64 process)
 {
-    QFile maps(u"/proc/self/maps"_s);
+    QFile maps(u"/proc/%1/maps"_s.arg(process));
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libQt6WebEngineCore");
+}
+
+bool processExists(qint64 process)
+{
+    return QFile::exists(u"/proc/%1"_s.arg(process));
+}
+
+StickerHostClient &host()
+{
+    return StickerHostClient::instance();
 }
 
 } // namespace
@@ -156,9 +171,14 @@ private Q_SLOTS:
         QStandardPaths::setTestModeEnabled(true);
         QVERIFY(m_folder.isValid());
         VostRender::addImportPath(m_engine);
+        // Blue shows through wherever a frame is transparent.
+        m_window.setColor(Qt::blue);
         m_window.resize(480, 480);
         m_window.show();
     }
+
+    // The web engine is never loaded here, whatever a case did.
+    void cleanupTestCase() { QVERIFY(!webEngineLoaded(QCoreApplication::applicationPid())); }
 
     void cleanup()
     {
@@ -166,17 +186,18 @@ private Q_SLOTS:
         m_root = nullptr;
     }
 
-    void engineStartsOnlyForAPage()
+    void hostStartsOnlyForAPage()
     {
-        QVERIFY(!webEngineLoaded());
         QVERIFY(make(harness));
         m_root->setProperty("probeResult", 0);
         sticker()->setProperty("path", m_folder.filePath(u"missing.tgs"_s));
         QTest::qWait(300); // the update runs from the event loop
-        QVERIFY(!webEngineLoaded());
+        QVERIFY(!host().isRunning());
         QCOMPARE(sticker()->property("pageKey").toString(), QString());
     }
 
+    // The page plays in the host, and its frames come back to the view with their
+    // transparency: the red square turns over the window's blue.
     void lottieAnimationPlays()
     {
         const QString path = write(u"square.tgs"_s, gzip(animation));
@@ -184,15 +205,20 @@ private Q_SLOTS:
         sticker()->setProperty("format", 1);
         sticker()->setProperty("path", path);
         QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
-        QVERIFY(webEngineLoaded());
-        QObject *view = webView();
-        QVERIFY(view);
-        QObject *profile = view->property("profile").value<QObject *>();
-        QVERIFY(profile);
-        QVERIFY(profile->property("offTheRecord").toBool());
+        QVERIFY(host().isRunning());
+        QVERIFY(webEngineLoaded(host().processId()));
         QTRY_COMPARE_WITH_TIMEOUT(
             probe(u"document.querySelectorAll('#sticker svg').length + ':' + document.body.innerText"_s),
             QVariant(u"1:"_s), waitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(sticker()->property("frameCount").toInt() > 0, waitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(qRed(m_window.grabWindow().pixel(80, 80)) > 200, waitMs);
+        const QImage shown = m_window.grabWindow();
+        QCOMPARE(QColor(shown.pixel(80, 80)).name(), u"#ff0000"_s);
+        QCOMPARE(QColor(shown.pixel(4, 4)).name(), u"#0000ff"_s);
+        QCOMPARE(QColor(shown.pixel(200, 200)).name(), u"#0000ff"_s); // outside the view
+        // It turns: frames keep coming.
+        const int frames = sticker()->property("frameCount").toInt();
+        QTRY_VERIFY_WITH_TIMEOUT(sticker()->property("frameCount").toInt() > frames + 5, waitMs);
     }
 
     void decompressionBombIsRefused()
@@ -301,7 +327,74 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!server.requests().isEmpty(), waitMs);
     }
 
+    // A host that dies leaves its stickers unavailable, their emoji standing in,
+    // and the next page starts a new one.
+    void crashedHostIsReplaced()
+    {
+        const QString path = write(u"crash.tgs"_s, gzip(animation));
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        const qint64 crashed = host().processId();
+        QVERIFY(crashed > 0);
+        ::kill(pid_t(crashed), SIGKILL);
+        QTRY_COMPARE_WITH_TIMEOUT(sticker()->property("playState").toInt(), 2, waitMs);
+        QVERIFY(!host().isRunning());
+        delete m_root;
+
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(host().processId() != crashed);
+        QTRY_VERIFY_WITH_TIMEOUT(sticker()->property("frameCount").toInt() > 0, waitMs);
+    }
+
+    // The host, and the web engine's processes with it, go a while after the last
+    // sticker has left; a sticker that comes back in that while keeps it.
+    void hostEndsAfterTheLastStickerLeaves()
+    {
+        using namespace std::chrono_literals;
+        host().setLingerInterval(1500ms);
+        const QString path = write(u"leaving.tgs"_s, gzip(animation));
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        const qint64 process = host().processId();
+        const QList<qint64> children = childrenOf(process);
+        QVERIFY2(!children.isEmpty(), "the web engine runs processes of its own");
+
+        delete m_root;
+        QVERIFY(make(harness));
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QCOMPARE(host().processId(), process);
+
+        delete m_root;
+        m_root = nullptr;
+        QTRY_VERIFY_WITH_TIMEOUT(!host().isRunning(), waitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!processExists(process), waitMs);
+        for (const qint64 child : children)
+            QTRY_VERIFY_WITH_TIMEOUT(!processExists(child), waitMs);
+        host().setLingerInterval(45s);
+    }
+
 private:
+    // The processes whose parent is the given one.
+    static QList<qint64> childrenOf(qint64 parent)
+    {
+        QList<qint64> children;
+        QFile file(u"/proc/%1/task/%1/children"_s.arg(parent));
+        if (file.open(QIODevice::ReadOnly))
+            for (const QByteArray &id : file.readAll().split(' '))
+                if (!id.trimmed().isEmpty())
+                    children.append(id.trimmed().toLongLong());
+        return children;
+    }
+
     bool make(const QByteArray &qml)
     {
         QQmlComponent component(&m_engine);
@@ -316,14 +409,6 @@ private:
     }
 
     QObject *sticker() const { return m_root->property("sticker").value<QObject *>(); }
-
-    QObject *webView() const
-    {
-        const QList<QObject *> objects = m_root->findChildren<QObject *>();
-        const auto found = std::find_if(objects.begin(), objects.end(),
-                                        [](QObject *object) { return object->inherits("QQuickWebEngineView"); });
-        return found == objects.end() ? nullptr : *found;
-    }
 
     QVariant probe(const QString &script)
     {

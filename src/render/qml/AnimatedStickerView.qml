@@ -2,11 +2,14 @@ import QtQuick
 import Vost.Render
 
 // Plays an animated (gzip Lottie) or video (WebM) sticker in a self-contained page
-// that can reach no network. The web engine starts only when the first page is
-// about to be shown; a new page is loaded only when the path or the format changes.
-// Clicks pass through to what lies underneath.
+// that can reach no network. The web engine starts, in a process of its own, only
+// when the first page is about to be shown; a new page is loaded only when the path
+// or the format changes. Clicks pass through to what lies underneath.
 Item {
     id: root
+
+    // How many frames of the page have been shown.
+    readonly property alias frameCount: web.frameCount
 
     // The sticker file on disk.
     property alias path: controller.path
@@ -23,8 +26,7 @@ Item {
 
     // Runs a script in the page (for inspection); the callback gets its result.
     function runJavaScript(script, callback) {
-        if (web.item)
-            web.item.runJavaScript(script, callback)
+        web.runJavaScript(script, callback)
     }
 
     implicitWidth: 160
@@ -34,30 +36,21 @@ Item {
         id: controller
     }
 
-    Loader {
+    // Played in the sticker host, a process of its own, which starts with the first
+    // page and ends a while after the last view has gone.
+    StickerHostView {
         id: web
 
         anchors.fill: parent
-        active: controller.hasPage
-        source: "StickerWebFrame.qml"
-        onLoaded: {
-            item.pageLoaded.connect(root.pageLoaded)
-            item.show(controller.page)
-        }
-    }
-
-    Binding {
-        target: controller
-        property: "pageTitle"
-        value: web.item ? web.item.title : ""
-        when: web.item !== null
+        onPageLoaded: root.pageLoaded()
+        onTitleChanged: controller.pageTitle = web.title
+        onPageLost: controller.markUnavailable()
     }
 
     Connections {
         target: controller
         function onPageChanged() {
-            if (web.item)
-                web.item.show(controller.page)
+            web.show(controller.page)
         }
     }
 }

@@ -58,3 +58,11 @@ void StickerPageController::setPageTitle(const QString &title)
     m_playState = static_cast<PlayState>(StickerPage::playStateFromTitle(title));
     Q_EMIT playStateChanged();
 }
+
+void StickerPageController::markUnavailable()
+{
+    if (m_playState == Unavailable)
+        return;
+    m_playState = Unavailable;
+    Q_EMIT playStateChanged();
+}

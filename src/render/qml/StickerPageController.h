@@ -45,6 +45,8 @@ public:
     QString key() const { return m_coordinator.key(); }
     QString pageTitle() const { return m_pageTitle; }
     void setPageTitle(const QString &title);
+    // The page cannot play any more (its player went away); a new page starts over.
+    Q_INVOKABLE void markUnavailable();
     // Loading again whenever a new page is handed out.
     PlayState playState() const { return m_playState; }
     // How many pages have been handed to the view.

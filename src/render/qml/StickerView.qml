@@ -3,8 +3,9 @@ import Vost.Render
 
 // One sticker, wherever stickers show: a WebP as an image, an animated (.tgs)
 // sticker by the native player, a video (WebM) sticker in the isolated web page,
-// which starts the web engine only while such a sticker is shown. Until the file
-// is there, until its first frame, or when it cannot be shown, its emoji stands in.
+// played by a helper process that runs only while such stickers are shown. Until
+// the file is there, until its first frame, or when it cannot be shown, its emoji
+// stands in.
 Item {
     id: view
 
@@ -21,7 +22,8 @@ Item {
     readonly property bool ready: (format === "webp" && image.status === Image.Ready)
                                   || (format === "animated" && player.status === StickerPlayer.Ready)
                                   || (format === "video" && video.status === Loader.Ready
-                                      && video.item.playState === StickerPageController.Playing)
+                                      && video.item.playState === StickerPageController.Playing
+                                      && video.item.frameCount > 0)
 
     implicitWidth: 160
     implicitHeight: 160
