@@ -201,10 +201,7 @@ private Q_SLOTS:
     void lottieAnimationPlays()
     {
         const QString path = write(u"square.tgs"_s, gzip(animation));
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         QVERIFY(host().isRunning());
         QVERIFY(webEngineLoaded(host().processId()));
         QTRY_COMPARE_WITH_TIMEOUT(
@@ -226,10 +223,7 @@ private Q_SLOTS:
         QByteArray padded = animation;
         padded.insert(1, QByteArray(StickerPage::maximumAnimationSize + 1000, ' '));
         const QString path = write(u"bomb.tgs"_s, gzip(padded));
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         QTRY_COMPARE_WITH_TIMEOUT(probe(u"document.getElementById('sticker').textContent"_s),
                                   QVariant(u"Sticker unavailable"_s), waitMs);
         QCOMPARE(probe(u"document.querySelectorAll('svg').length"_s).toInt(), 0);
@@ -238,10 +232,7 @@ private Q_SLOTS:
     void sameStickerLoadsOnceAndFormatChangeReloads()
     {
         const QString path = write(u"again.tgs"_s, gzip(animation));
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         // Redraws: the same path and format written again.
         sticker()->setProperty("path", path);
         sticker()->setProperty("format", 1);
@@ -332,10 +323,7 @@ private Q_SLOTS:
     void crashedHostIsReplaced()
     {
         const QString path = write(u"crash.tgs"_s, gzip(animation));
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         const qint64 crashed = host().processId();
         QVERIFY(crashed > 0);
         ::kill(pid_t(crashed), SIGKILL);
@@ -343,10 +331,7 @@ private Q_SLOTS:
         QVERIFY(!host().isRunning());
         delete m_root;
 
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         QVERIFY(host().processId() != crashed);
         QTRY_VERIFY_WITH_TIMEOUT(sticker()->property("frameCount").toInt() > 0, waitMs);
     }
@@ -358,19 +343,13 @@ private Q_SLOTS:
         using namespace std::chrono_literals;
         host().setLingerInterval(1500ms);
         const QString path = write(u"leaving.tgs"_s, gzip(animation));
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         const qint64 process = host().processId();
         const QList<qint64> children = childrenOf(process);
         QVERIFY2(!children.isEmpty(), "the web engine runs processes of its own");
 
         delete m_root;
-        QVERIFY(make(harness));
-        sticker()->setProperty("format", 1);
-        sticker()->setProperty("path", path);
-        QTRY_COMPARE_WITH_TIMEOUT(m_root->property("loads").toInt(), 1, waitMs);
+        QVERIFY(showAnimation(path));
         QCOMPARE(host().processId(), process);
 
         delete m_root;
@@ -393,6 +372,16 @@ private:
                 if (!id.trimmed().isEmpty())
                     children.append(id.trimmed().toLongLong());
         return children;
+    }
+
+    // A new sticker view playing the Lottie sticker at path, once its page has loaded.
+    bool showAnimation(const QString &path)
+    {
+        if (!make(harness))
+            return false;
+        sticker()->setProperty("format", 1);
+        sticker()->setProperty("path", path);
+        return QTest::qWaitFor([this] { return m_root->property("loads").toInt() == 1; }, waitMs);
     }
 
     bool make(const QByteArray &qml)
