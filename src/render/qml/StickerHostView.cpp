@@ -30,6 +30,9 @@ void StickerHostView::show(const QString &page)
     m_sentSize = message.size;
     m_shown = true;
     StickerHostClient::instance().send(message);
+    // No host could be started (it is missing, or will not run): the page cannot play.
+    if (!StickerHostClient::instance().isRunning())
+        hostLost();
 }
 
 void StickerHostView::runJavaScript(const QString &script, const QJSValue &callback)
