@@ -57,6 +57,9 @@ void PopoverWindow::dropReleasedScene()
     // renderer can make one without a window on screen.
     if (isVisible() || rendererInterface()->graphicsApi() != QSGRendererInterface::Software)
         return;
+    // Purging the pixmap cache (part of releasing resources) only queues the
+    // textures made from its pictures; that sync deletes them too.
+    releaseResources();
     grabWindow();
 }
 
@@ -105,7 +108,8 @@ void PopoverWindow::keyPressEvent(QKeyEvent *event)
     const bool popupWasOpen = hasOpenPopup();
     event->setAccepted(false);
     QQuickView::keyPressEvent(event);
-    if (event->key() == Qt::Key_Escape && !event->isAccepted() && !popupWasOpen && event->modifiers() == Qt::NoModifier) {
+    if (event->key() == Qt::Key_Escape && !event->isAccepted() && !popupWasOpen &&
+        event->modifiers() == Qt::NoModifier) {
         event->accept();
         Q_EMIT escapeNotHandled();
     }
