@@ -1,17 +1,14 @@
 #include "render/LinkPreviewMetadata.h"
 
-#include <QCoreApplication>
+#include "render/PageFetchClient.h"
+
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QTextDocumentFragment>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +18,6 @@ AppStoreConfiguration &configuration()
 {
     static AppStoreConfiguration value;
     return value;
-}
-
-QPointer<QNetworkAccessManager> &sharedManager()
-{
-    static QPointer<QNetworkAccessManager> manager;
-    return manager;
 }
 
 std::optional<QString> optionalString(const QJsonObject &object, const QString &key, bool &ok)
@@ -39,27 +30,10 @@ std::optional<QString> optionalString(const QJsonObject &object, const QString &
     return value.toString();
 }
 
-// A reply the server answered (with any status) is no transport error.
-const char *const cutOffProperty = "vostCutOff";
-
-bool isTransportError(QNetworkReply *reply)
-{
-    if (reply->property(cutOffProperty).toBool())
-        return true;
-    return reply->error() != QNetworkReply::NoError &&
-           !reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-}
-
 QUrl strictUrl(const QString &text)
 {
     const QUrl url(text, QUrl::StrictMode);
     return url.isValid() && !url.isRelative() ? url : QUrl();
-}
-
-QString mimeType(QNetworkReply *reply)
-{
-    const QString header = reply->header(QNetworkRequest::ContentTypeHeader).toString();
-    return header.section(u';', 0, 0).trimmed().toLower();
 }
 
 std::optional<QString> decodeBody(const QByteArray &body)
@@ -168,13 +142,8 @@ LinkPreviewMetadata::LinkPreviewMetadata(const QUrl &url, QObject *parent)
 
 LinkPreviewMetadata::~LinkPreviewMetadata()
 {
-    for (const QPointer<QNetworkReply> &reply : std::as_const(m_replies)) {
-        if (!reply)
-            continue;
-        reply->disconnect(this);
-        reply->abort();
-        reply->deleteLater();
-    }
+    for (const quint32 fetch : std::as_const(m_fetches))
+        PageFetchClient::instance().cancel(fetch);
 }
 
 AppStoreConfiguration LinkPreviewMetadata::appStoreConfiguration()
@@ -185,19 +154,6 @@ AppStoreConfiguration LinkPreviewMetadata::appStoreConfiguration()
 void LinkPreviewMetadata::setAppStoreConfiguration(const AppStoreConfiguration &value)
 {
     configuration() = value;
-}
-
-QNetworkAccessManager *LinkPreviewMetadata::networkAccessManager()
-{
-    QPointer<QNetworkAccessManager> &manager = sharedManager();
-    if (!manager)
-        manager = new QNetworkAccessManager(QCoreApplication::instance());
-    return manager;
-}
-
-void LinkPreviewMetadata::setNetworkAccessManager(QNetworkAccessManager *manager)
-{
-    sharedManager() = manager;
 }
 
 void LinkPreviewMetadata::load()
@@ -235,12 +191,10 @@ void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> complet
     if (lookup.isEmpty())
         return completion(false);
 
-    QNetworkRequest request(lookup);
-    request.setTransferTimeout(defaultTimeoutMilliseconds);
-    fetch(request, [this, completion](QNetworkReply *reply) {
-        if (isTransportError(reply))
+    fetch(lookup, defaultTimeoutMilliseconds, false, [this, completion](const PageFetchProtocol::Answer &answer) {
+        if (!answer.reached)
             return completion(false);
-        const std::optional<AppStoreLookupResponse> response = decodeAppStoreLookup(reply->readAll());
+        const std::optional<AppStoreLookupResponse> response = decodeAppStoreLookup(answer.body);
         if (!response || response->results.isEmpty())
             return completion(false);
         const AppStoreResult &result = response->results.first();
@@ -255,16 +209,13 @@ void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> complet
 
 void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion)
 {
-    QNetworkRequest request(m_url);
-    request.setTransferTimeout(pageTimeoutMilliseconds); // previews give up after 15 s
-    request.setHeader(QNetworkRequest::UserAgentHeader, userAgent);
-    fetch(request, [this, completion](QNetworkReply *reply) {
-        if (isTransportError(reply))
+    // Previews give up after 15 s; the page is asked for as a desktop browser would.
+    fetch(m_url, pageTimeoutMilliseconds, true, [this, completion](const PageFetchProtocol::Answer &answer) {
+        if (!answer.reached)
             return completion();
-        const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-        if (status.isValid() && (status.toInt() < 200 || status.toInt() >= 400))
+        if (answer.status && (*answer.status < 200 || *answer.status >= 400))
             return completion();
-        const std::optional<QString> text = decodeBody(reply->readAll());
+        const std::optional<QString> text = decodeBody(answer.body);
         if (!text)
             return completion();
         const HtmlPreviewFields fields = parseHtmlPreviewFields(*text, m_url);
@@ -280,12 +231,10 @@ void LinkPreviewMetadata::loadHTMLMetadata(std::function<void()> completion)
 
 void LinkPreviewMetadata::loadImage(const QUrl &from, std::function<void()> completion)
 {
-    QNetworkRequest request(from);
-    request.setTransferTimeout(defaultTimeoutMilliseconds);
-    fetch(request, [this, completion](QNetworkReply *reply) {
-        if (isTransportError(reply) || !mimeType(reply).startsWith("image/"_L1))
+    fetch(from, defaultTimeoutMilliseconds, false, [this, completion](const PageFetchProtocol::Answer &answer) {
+        if (!answer.reached || !answer.mimeType.startsWith("image/"_L1))
             return completion();
-        const QImage decoded = QImage::fromData(reply->readAll());
+        const QImage decoded = QImage::fromData(answer.body);
         if (!decoded.isNull()) {
             m_image = decoded;
             Q_EMIT imageChanged();
@@ -309,33 +258,15 @@ QString LinkPreviewMetadata::decodeHTMLEntities(const QString &text)
     return QTextDocumentFragment::fromHtml(text).toPlainText();
 }
 
-void LinkPreviewMetadata::fetch(QNetworkRequest request, std::function<void(QNetworkReply *)> handler)
+void LinkPreviewMetadata::fetch(const QUrl &url, int timeoutMs, bool browserIdentity,
+                                std::function<void(const PageFetchProtocol::Answer &)> handler)
 {
-    request.setMaximumRedirectsAllowed(maximumRedirects);
-    QNetworkReply *reply = networkAccessManager()->get(request);
-    m_replies.removeAll(nullptr);
-    m_replies.append(reply);
-    // The transfer time-out only notices silence: a server that sends a byte now and
-    // then, or never stops sending, is cut off by a deadline and a size limit. What
-    // was cut off counts as not loaded.
-    auto cutOff = [reply] {
-        reply->setProperty(cutOffProperty, true);
-        reply->abort();
-    };
-    auto *deadline = new QTimer(reply);
-    deadline->setSingleShot(true);
-    connect(deadline, &QTimer::timeout, reply, cutOff);
-    deadline->start(request.transferTimeout() > 0 ? request.transferTimeout() : defaultTimeoutMilliseconds);
-    // Counted after decompression, so a small compressed bomb is stopped as well.
-    connect(reply, &QIODevice::readyRead, reply, [reply, cutOff] {
-        if (reply->bytesAvailable() > maximumResponseBytes)
-            cutOff();
-    });
-    connect(reply, &QNetworkReply::finished, this, [this, reply, handler = std::move(handler)] {
-        m_replies.removeAll(reply);
-        reply->deleteLater();
-        handler(reply);
-    });
+    const quint32 id = PageFetchClient::instance().fetch(url, timeoutMs, browserIdentity, this,
+                                                         [this, handler = std::move(handler)](const auto &answer) {
+                                                             m_fetches.removeAll(answer.id);
+                                                             handler(answer);
+                                                         });
+    m_fetches.append(id);
 }
 
 void LinkPreviewMetadata::setTitle(const QString &title)

@@ -4,16 +4,15 @@
 #include <QImage>
 #include <QList>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QUrl>
 
 #include <functional>
 #include <optional>
 
-class QNetworkAccessManager;
-class QNetworkReply;
-class QNetworkRequest;
+namespace PageFetchProtocol {
+struct Answer;
+}
 
 // The app store's public lookup service answers {"results": [...]}; only these keys
 // are read.
@@ -76,19 +75,11 @@ public:
     // Process-wide; tests and tools point them at a server of their own.
     static AppStoreConfiguration appStoreConfiguration();
     static void setAppStoreConfiguration(const AppStoreConfiguration &configuration);
-    // The one network session every preview shares (made on first use, owned by the
-    // application object) unless another is set.
-    static QNetworkAccessManager *networkAccessManager();
-    static void setNetworkAccessManager(QNetworkAccessManager *manager);
-
-    static inline const QByteArray userAgent =
-        QByteArrayLiteral("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 Safari/605.1.15");
     static constexpr int pageTimeoutMilliseconds = 15'000;
     // The usual time-out of a URL loader's default request.
     static constexpr int defaultTimeoutMilliseconds = 60'000;
-    // What one answer (a page, an image) may take, after decompression, and how
-    // many redirects lead to it.
-    static constexpr qint64 maximumResponseBytes = 8 * 1024 * 1024;
+    // How many redirects may lead to a page or a picture (it may take 8 MB after
+    // decompression: PageFetchProtocol::maximumBodyBytes).
     static constexpr int maximumRedirects = 10;
 
     // The card's start-up: once per object, the app-store lookup, and when that does
@@ -114,7 +105,9 @@ Q_SIGNALS:
     void finished();
 
 private:
-    void fetch(QNetworkRequest request, std::function<void(QNetworkReply *)> handler);
+    // Through the page fetcher, the one network session every preview shares.
+    void fetch(const QUrl &url, int timeoutMs, bool browserIdentity,
+               std::function<void(const PageFetchProtocol::Answer &)> handler);
     void setTitle(const QString &title);
     void setSiteName(const QString &siteName);
 
@@ -124,5 +117,5 @@ private:
     QImage m_image;
     bool m_hasLoaded = false;
     bool m_isLoading = false;
-    QList<QPointer<QNetworkReply>> m_replies;
+    QList<quint32> m_fetches; // still waiting for an answer
 };
