@@ -392,9 +392,10 @@ class Vost:
             "VOST_DEMO_DETERMINISTIC": "1",
             "VOST_DEMO_NOW": "1760000000",
         })
-        # A benchmark may compare Qt Quick's renderers; a sanitized build takes
-        # the sanitizers' options (the leak suppressions) from the caller.
-        for name in ("QT_QUICK_BACKEND", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"):
+        # A benchmark may compare Qt Quick's renderers or glibc's allocator
+        # settings; a sanitized build takes the sanitizers' options (the leak
+        # suppressions) from the caller. Nothing else of the caller's reaches it.
+        for name in ("QT_QUICK_BACKEND", "GLIBC_TUNABLES", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"):
             if name in os.environ:
                 env[name] = os.environ[name]
         env.update(extra_env or {})
