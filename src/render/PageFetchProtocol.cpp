@@ -2,7 +2,6 @@
 
 #include <QCborMap>
 #include <QCborValue>
-#include <QtEndian>
 
 #include <limits>
 
@@ -22,10 +21,7 @@ const QString bodyKey = QStringLiteral("body");
 
 QByteArray framed(const QCborMap &map)
 {
-    const QByteArray body = map.toCborValue().toCbor();
-    QByteArray message(4, Qt::Uninitialized);
-    qToBigEndian(quint32(body.size()), message.data());
-    return message + body;
+    return MessageFraming::frame(map.toCborValue().toCbor());
 }
 
 std::optional<quint32> identifier(const QCborMap &map)
@@ -92,37 +88,18 @@ QByteArray encode(const Answer &answer)
     return framed(map);
 }
 
-void Reader::append(const QByteArray &bytes)
-{
-    if (m_failed)
-        return;
-    // What was already handed out goes before the buffer grows.
-    if (m_offset > 0) {
-        m_buffer.remove(0, m_offset);
-        m_offset = 0;
-    }
-    m_buffer.append(bytes);
-}
-
 std::optional<Message> Reader::next()
 {
-    if (m_failed || m_buffer.size() - m_offset < 4)
-        return std::nullopt;
-    const quint32 length = qFromBigEndian<quint32>(m_buffer.constData() + m_offset);
-    if (length > quint32(maximumMessageSize)) {
-        m_failed = true;
-        return std::nullopt;
-    }
-    if (m_buffer.size() - m_offset - 4 < qsizetype(length))
+    const std::optional<QByteArray> body = m_frames.next();
+    if (!body)
         return std::nullopt;
     QCborParserError error;
-    const QCborValue value = QCborValue::fromCbor(m_buffer.constData() + m_offset + 4, qsizetype(length), &error);
-    m_offset += 4 + qsizetype(length);
+    const QCborValue value = QCborValue::fromCbor(*body, &error);
     std::optional<Message> message;
     if (error.error == QCborError::NoError && value.isMap())
         message = decode(value.toMap());
     if (!message)
-        m_failed = true;
+        m_frames.fail();
     return message;
 }
 

@@ -87,43 +87,15 @@ QByteArray encode(const Message &message)
     case Kind::Acknowledge:
         break;
     }
-    QByteArray framed;
-    QDataStream length(&framed, QIODevice::WriteOnly);
-    length << quint32(body.size());
-    return framed + body;
-}
-
-void Reader::append(const QByteArray &bytes)
-{
-    if (m_failed)
-        return;
-    if (m_offset > 0 && m_offset == m_buffer.size()) {
-        m_buffer.clear();
-        m_offset = 0;
-    }
-    m_buffer += bytes;
+    return MessageFraming::frame(body);
 }
 
 std::optional<Message> Reader::next()
 {
-    if (m_failed || m_buffer.size() - m_offset < 4)
+    const std::optional<QByteArray> body = m_frames.next();
+    if (!body)
         return std::nullopt;
-    const auto *head = reinterpret_cast<const uchar *>(m_buffer.constData() + m_offset);
-    const quint32 length = quint32(head[0]) << 24 | quint32(head[1]) << 16 | quint32(head[2]) << 8 | head[3];
-    if (length == 0 || length > quint32(maximumMessageSize)) {
-        m_failed = true;
-        return std::nullopt;
-    }
-    if (m_buffer.size() - m_offset - 4 < qsizetype(length))
-        return std::nullopt;
-    const QByteArray body = m_buffer.mid(m_offset + 4, length);
-    m_offset += 4 + qsizetype(length);
-    if (m_offset > 1024 * 1024) { // keep the buffer from growing with what was read
-        m_buffer.remove(0, m_offset);
-        m_offset = 0;
-    }
-
-    QDataStream stream(body);
+    QDataStream stream(*body);
     stream.setVersion(QDataStream::Qt_6_4);
     quint8 kind = 0;
     Message message;
@@ -166,7 +138,7 @@ std::optional<Message> Reader::next()
     }
     // Every byte of the body belongs to the message: none may be missing or left over.
     if (!valid || stream.status() != QDataStream::Ok || !stream.atEnd()) {
-        m_failed = true;
+        m_frames.fail();
         return std::nullopt;
     }
     return message;

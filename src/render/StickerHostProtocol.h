@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/MessageFraming.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
@@ -58,15 +60,13 @@ QByteArray encode(const Message &message);
 class Reader
 {
 public:
-    void append(const QByteArray &bytes);
+    void append(const QByteArray &bytes) { m_frames.append(bytes); }
     // The next whole message, or nothing until more bytes come (or after a failure).
     std::optional<Message> next();
-    bool failed() const { return m_failed; }
+    bool failed() const { return m_frames.failed(); }
 
 private:
-    QByteArray m_buffer;
-    qsizetype m_offset = 0;
-    bool m_failed = false;
+    MessageFraming::Reader m_frames{maximumMessageSize};
 };
 
 } // namespace StickerHostProtocol
