@@ -3,7 +3,6 @@
 #include "tdlib/AppBundle.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -69,10 +68,10 @@ void PageFetchClient::setLingerInterval(std::chrono::milliseconds interval)
 
 bool PageFetchClient::start()
 {
-    const std::optional<QString> folder = AppBundle::main().privateLibraryFolder();
-    const QString program = folder.value_or(QString()) + "/vost-page-fetcher"_L1;
-    if (!folder || !QFileInfo(program).isExecutable()) {
-        qWarning().noquote() << "the page fetcher is missing:" << program;
+    const AppBundle bundle = AppBundle::main();
+    const std::optional<QString> program = bundle.helperProgram("vost-page-fetcher"_L1);
+    if (!program) {
+        qWarning().noquote() << "the page fetcher is missing from" << bundle.rootPath();
         return false;
     }
     m_reader = {};
@@ -85,7 +84,7 @@ bool PageFetchClient::start()
             qWarning("the page fetcher ended unexpectedly");
         stop();
     });
-    m_process->start(program, {});
+    m_process->start(*program, {});
     if (!m_process->waitForStarted()) {
         qWarning().noquote() << "the page fetcher does not start:" << m_process->errorString();
         delete m_process;

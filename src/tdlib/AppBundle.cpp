@@ -26,6 +26,15 @@ std::optional<QString> AppBundle::privateLibraryFolder() const
     return folder;
 }
 
+std::optional<QString> AppBundle::helperProgram(const QString &name) const
+{
+    // Helpers live beside the private libraries.
+    const QString program = m_rootPath + "/lib/vost/"_L1 + name;
+    if (!QFileInfo(program).isExecutable())
+        return std::nullopt;
+    return program;
+}
+
 QString AppBundle::resourceFolder() const
 {
     return m_rootPath + "/share/vost"_L1;

@@ -18,6 +18,8 @@ public:
     QString rootPath() const { return m_rootPath; }
     // The private library folder, when the bundle has one.
     std::optional<QString> privateLibraryFolder() const;
+    // A helper program Vost starts, when it is there and may be run.
+    std::optional<QString> helperProgram(const QString &name) const;
     QString resourceFolder() const;
     QString resourcePath(const QString &relativePath) const;
     // Info.json in the resource folder; empty when it is missing or unreadable.

@@ -186,7 +186,7 @@ private Q_SLOTS:
     // The helper itself: its input ending ends it; a malformed request ends it at once.
     void theHelperEndsWithItsInput()
     {
-        const QString program = AppBundle::main().privateLibraryFolder().value_or(QString()) + u"/vost-page-fetcher"_s;
+        const QString program = AppBundle::main().helperProgram(u"vost-page-fetcher"_s).value_or(QString());
         QProcess helper;
         helper.start(program, {});
         QVERIFY(helper.waitForStarted());

@@ -4,7 +4,6 @@
 #include "tdlib/AppBundle.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
@@ -91,10 +90,10 @@ void StickerHostClient::setLingerInterval(std::chrono::milliseconds interval)
 
 bool StickerHostClient::start()
 {
-    const std::optional<QString> folder = AppBundle::main().privateLibraryFolder();
-    const QString program = folder.value_or(QString()) + "/vost-sticker-host"_L1;
-    if (!folder || !QFileInfo(program).isExecutable()) {
-        qWarning().noquote() << "the sticker host is missing:" << program;
+    const AppBundle bundle = AppBundle::main();
+    const std::optional<QString> program = bundle.helperProgram("vost-sticker-host"_L1);
+    if (!program) {
+        qWarning().noquote() << "the sticker host is missing from" << bundle.rootPath();
         return false;
     }
     m_reader = {};
@@ -115,7 +114,7 @@ bool StickerHostClient::start()
     m_process->setProcessChannelMode(QProcess::ForwardedChannels);
     m_process->setStandardInputFile(QProcess::nullDevice());
     connect(m_process, &QProcess::finished, this, &StickerHostClient::onFinished);
-    m_process->start(program, {m_server->fullServerName()});
+    m_process->start(*program, {m_server->fullServerName()});
     if (!m_process->waitForStarted()) {
         qWarning().noquote() << "the sticker host does not start:" << m_process->errorString();
         delete m_process;
