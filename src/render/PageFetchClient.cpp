@@ -90,7 +90,6 @@ bool PageFetchClient::start()
         delete m_process;
         return false;
     }
-    Q_EMIT runningChanged();
     return true;
 }
 
@@ -109,7 +108,6 @@ void PageFetchClient::stop()
             connect(process, &QProcess::finished, process, &QObject::deleteLater);
             QTimer::singleShot(endingGraceMs, process, &QProcess::kill);
         }
-        Q_EMIT runningChanged();
     }
     answerEverythingAsNotReached();
 }

@@ -35,9 +35,6 @@ public:
     // How long the fetcher stays once nothing waits for it.
     void setLingerInterval(std::chrono::milliseconds interval);
 
-Q_SIGNALS:
-    void runningChanged();
-
 private:
     PageFetchClient();
 

@@ -9,10 +9,8 @@
 
 #include <QDir>
 #include <QProcess>
-#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
-#include <QtEndian>
 
 #include <signal.h>
 
@@ -20,13 +18,6 @@ using namespace Qt::StringLiterals;
 using namespace PageFetchProtocol;
 
 namespace {
-
-QByteArray framedCbor(const QByteArray &body)
-{
-    QByteArray message(4, Qt::Uninitialized);
-    qToBigEndian(quint32(body.size()), message.data());
-    return message + body;
-}
 
 // The page fetchers running below this process.
 QList<qint64> fetcherProcesses()
@@ -106,18 +97,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("longer than any message") << QByteArray("\x7f\xff\xff\xff", 4) + QByteArray(16, 'x');
-        QTest::newRow("not CBOR") << framedCbor("\xff\xff\xff"_ba);
-        QTest::newRow("not a map") << framedCbor("\x83\x01\x02\x03"_ba);
+        QTest::newRow("not CBOR") << MessageFraming::frame("\xff\xff\xff"_ba);
+        QTest::newRow("not a map") << MessageFraming::frame("\x83\x01\x02\x03"_ba);
         // {"id": -1, "reached": false, "type": "", "body": h''}
-        QTest::newRow("negative id") << framedCbor("\xa4\x62id\x20\x67reached\xf4\x64type\x60\x64"
-                                                   "body\x40"_ba);
+        QTest::newRow("negative id") << MessageFraming::frame("\xa4\x62id\x20\x67reached\xf4\x64type\x60\x64"
+                                                              "body\x40"_ba);
         // {"id": 1, "url": 5, "timeout": 1, "browser": true}
-        QTest::newRow("url of the wrong type") << framedCbor("\xa4\x62id\x01\x63url\x05\x67timeout\x01\x67"
-                                                             "browser\xf5"_ba);
+        QTest::newRow("url of the wrong type") << MessageFraming::frame("\xa4\x62id\x01\x63url\x05\x67timeout\x01\x67"
+                                                                        "browser\xf5"_ba);
         // {"id": 1, "reached": true, "status": 70000, "type": "", "body": h''}
-        QTest::newRow("status out of range") << framedCbor("\xa5\x62id\x01\x67reached\xf5\x66status\x1a\x00\x01\x11"
-                                                           "\x70\x64type\x60\x64"
-                                                           "body\x40"_ba);
+        QTest::newRow("status out of range")
+            << MessageFraming::frame("\xa5\x62id\x01\x67reached\xf5\x66status\x1a\x00\x01\x11"
+                                     "\x70\x64type\x60\x64"
+                                     "body\x40"_ba);
     }
 
     void malformedMessagesStopTheReader()
