@@ -4,8 +4,9 @@ under Xvfb with a tray host (the UI cases' harness), signed in, opens the chat,
 scrolls with the wheel to the start of the conversation (every older page loads
 on the way) and back to the newest message. Prints the frame times Qt Quick's
 render loop reports (GUI thread polish plus the render thread's sync, render
-and swap, per frame: median, p99, maximum, frames over 16 ms) and the process
-tree's memory (PSS) at each step.
+and swap, per frame: median, p99, maximum, frames over 16 ms), the process
+tree's memory (PSS) at each step, and where the memory a look at the popover
+left behind lies, by kind of mapping.
 
     xvfb-run -a /usr/bin/python3 bench/transcript.py      (after ./run.sh test or a build)
 
@@ -35,6 +36,53 @@ def pss_kb(pid):
     except (OSError, StopIteration):
         pass
     return total
+
+
+# glibc gives each thread's arena heaps of 64 MiB reserved address space, aligned to their size.
+THREAD_HEAP_ALIGNMENT = 64 << 20
+
+
+def memory_kind(start, name):
+    """Where a mapping of the program belongs, for the memory breakdown."""
+    if name == "[heap]":
+        return "main heap (malloc)"
+    if name in ("", "[anon]"):
+        return "thread heaps (malloc)" if start % THREAD_HEAP_ALIGNMENT == 0 else "other anonymous memory"
+    if "QtQml" in name:
+        return "script engine (JS heap, stack, JIT code)"
+    if name.startswith("/usr/share/fonts/"):
+        return "fonts"
+    if name.startswith(("/memfd:", "/SYSV", "/dev/shm/")):
+        return "shared with the X server and audio"
+    if name.startswith("/"):
+        return "programs and libraries"
+    return "other (stacks, vdso)"
+
+
+def memory_by_kind(pid):
+    """The PSS of pid's own mappings by kind, in kB, and of the processes below it."""
+    kinds = {}
+    kind = None
+    try:
+        with open(f"/proc/{pid}/smaps") as smaps:
+            for line in smaps:
+                fields = line.split()
+                if "-" in fields[0] and not fields[0].endswith(":"):
+                    kind = memory_kind(int(fields[0].split("-")[0], 16), fields[5] if len(fields) > 5 else "")
+                elif fields[0] == "Pss:":
+                    kinds[kind] = kinds.get(kind, 0) + int(fields[1])
+    except OSError:
+        pass
+    own = sum(kinds.values())
+    kinds["helper processes"] = pss_kb(pid) - own
+    return kinds
+
+
+def report_memory(before, after):
+    print("PSS by kind: in the tray before any opening, 10 s after closing, change (MB)")
+    for kind in sorted(after, key=lambda k: -(after[k] - before.get(k, 0))):
+        print(f"  {kind:44} {before.get(kind, 0) / 1024:6.1f} {after[kind] / 1024:6.1f} "
+              f"{(after[kind] - before.get(kind, 0)) / 1024:+6.1f}")
 
 
 def frame_times(log):
@@ -67,6 +115,7 @@ def main():
         pid = vost.process.pid
         time.sleep(3)
         print(f"PSS in the tray, popover never opened: {pss_kb(pid) / 1024:.0f} MB")
+        in_tray = memory_by_kind(pid)
         vost.open_popover()
         vost.wait_for_chats()
         time.sleep(2)
@@ -100,6 +149,7 @@ def main():
             vost.click_tray()
         time.sleep(10)
         print(f"PSS 10 s after closing the popover: {pss_kb(pid) / 1024:.0f} MB")
+        report_memory(in_tray, memory_by_kind(pid))
         vost.quit()
     finally:
         desktop.close()
