@@ -24,9 +24,8 @@ PopoverWindow::PopoverWindow(QQmlEngine *engine, QWindow *parent)
 {
     setTitle(u"Vost"_s);
     setResizeMode(QQuickView::SizeRootObjectToView);
-    resize(contentSize);
-    setMinimumSize(contentSize);
     setMaximumSize(contentSize);
+    takeContentSize();
     setTrayMode(false);
     m_releaseTimer->setSingleShot(true);
     m_releaseTimer->setInterval(contentReleaseDelayMs);
@@ -34,6 +33,8 @@ PopoverWindow::PopoverWindow(QQmlEngine *engine, QWindow *parent)
     // The views are made before the first frame, so the window opens complete.
     connect(this, &QWindow::visibleChanged, this, [this](bool visible) {
         if (visible) {
+            // Before the views are made, so they are laid out once.
+            takeContentSize();
             m_releaseTimer->stop();
             setHoldsContent(true);
         } else {
@@ -60,7 +61,20 @@ void PopoverWindow::dropReleasedScene()
     // Purging the pixmap cache (part of releasing resources) only queues the
     // textures made from its pictures; that sync deletes them too.
     releaseResources();
+    // The render loop keeps the window's backing store (a full-size image shared
+    // with the X server) until the window is destroyed, but fits it to the window
+    // on every frame: this frame, at a token size, hands the image back. The size
+    // comes back before the window shows.
+    setMinimumSize(QSize(1, 1));
+    resize(1, 1);
     grabWindow();
+}
+
+void PopoverWindow::takeContentSize()
+{
+    if (size() != contentSize)
+        resize(contentSize);
+    setMinimumSize(contentSize);
 }
 
 void PopoverWindow::holdContentWhileHidden()

@@ -32,7 +32,8 @@ public:
     bool isInTrayMode() const { return m_inTray; }
 
     bool holdsContent() const { return m_holdsContent; }
-    // Frees what the scene graph still keeps of views let go while hidden.
+    // Frees what the scene graph still keeps of views let go while hidden, and the
+    // window's backing store.
     void dropReleasedScene();
     // Keeps the views until the window shows again: a file dialog in front of the
     // hidden popover answers to them.
@@ -51,6 +52,8 @@ private:
     // Whether a popup (a menu, a picker, a dialog) is open.
     bool hasOpenPopup() const;
     void setHoldsContent(bool holds);
+    // The window's one size while shown; hidden, it may have been made smaller.
+    void takeContentSize();
     void releaseContent();
 
     bool m_inTray = false;
