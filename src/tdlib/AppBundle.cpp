@@ -29,7 +29,10 @@ std::optional<QString> AppBundle::privateLibraryFolder() const
 std::optional<QString> AppBundle::helperProgram(const QString &name) const
 {
     // Helpers live beside the private libraries.
-    const QString program = m_rootPath + "/lib/vost/"_L1 + name;
+    const std::optional<QString> folder = privateLibraryFolder();
+    if (!folder)
+        return std::nullopt;
+    const QString program = *folder + u'/' + name;
     if (!QFileInfo(program).isExecutable())
         return std::nullopt;
     return program;
