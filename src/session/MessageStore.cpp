@@ -18,23 +18,6 @@ constexpr int maximumInitialAttempts = 14;
 constexpr int maximumViewedMessages = 100;
 constexpr int emptyAnswerRetryMs = 200;
 
-qint64 dateOf(const TdObject &message)
-{
-    return integerFrom(message.value("date"_L1)).value_or(0);
-}
-
-qint64 idOf(const TdObject &message)
-{
-    return int64From(message.value("id"_L1)).value_or(0);
-}
-
-bool messageSortsBefore(const TdObject &a, const TdObject &b)
-{
-    const qint64 dateA = dateOf(a);
-    const qint64 dateB = dateOf(b);
-    return dateA != dateB ? dateA < dateB : idOf(a) < idOf(b);
-}
-
 QString chatKey(const TdObject &message)
 {
     return QString::number(int64From(message.value("chat_id"_L1)).value_or(0));
@@ -47,12 +30,16 @@ void TelegramSession::publishMessages(const QString &chatID)
     const auto stored = m_rawMessagesByChat.find(chatID);
     if (stored == m_rawMessagesByChat.end())
         return;
-    QList<TdObject> &messages = *stored;
-    std::stable_sort(messages.begin(), messages.end(), messageSortsBefore);
-    if (!m_expandedHistory.contains(chatID) && messages.size() > historyWindow)
-        messages.remove(0, messages.size() - historyWindow);
+    QList<StoredMessage> &storedMessages = *stored;
+    std::stable_sort(storedMessages.begin(), storedMessages.end(), StoredMessage::sortsBefore);
+    if (!m_expandedHistory.contains(chatID) && storedMessages.size() > historyWindow)
+        storedMessages.remove(0, storedMessages.size() - historyWindow);
     if (m_loadingInitialHistory.contains(chatID))
         return;
+    QList<TdObject> messages;
+    messages.reserve(storedMessages.size());
+    for (const StoredMessage &message : std::as_const(storedMessages))
+        messages.append(message.object());
     requestMissingUsers(messages);
     QList<Message> published;
     QList<MessageDetails> details;
@@ -60,8 +47,8 @@ void TelegramSession::publishMessages(const QString &chatID)
     details.reserve(messages.size());
     QHash<qint64, const TdObject *> byID;
     byID.reserve(messages.size());
-    for (const TdObject &raw : std::as_const(messages))
-        byID.insert(idOf(raw), &raw);
+    for (qsizetype i = 0; i < messages.size(); ++i)
+        byID.insert(storedMessages.at(i).id().value_or(0), &messages.at(i));
     const auto chatTitle = [this](qint64 chat) {
         const ChatRecord *record = findChatRecord(chat);
         return record && record->chat ? record->chat->title : QString();
@@ -164,10 +151,10 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
     for (const QString &chatID : std::as_const(chatOrder)) {
         if (chatID == "0"_L1 || m_removedChatIDs.contains(chatID))
             continue;
-        QList<TdObject> merged;
+        QList<StoredMessage> merged;
         QHash<qint64, qsizetype> index;
-        const auto place = [&](const TdObject &message) {
-            const std::optional<qint64> id = int64From(message.value("id"_L1));
+        const auto place = [&](const StoredMessage &message) {
+            const std::optional<qint64> id = message.id();
             if (!id)
                 return;
             if (const auto at = index.constFind(*id); at != index.cend()) {
@@ -177,10 +164,10 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
                 merged.append(message);
             }
         };
-        for (const TdObject &stored : std::as_const(m_rawMessagesByChat[chatID]))
+        for (const StoredMessage &stored : std::as_const(m_rawMessagesByChat[chatID]))
             place(stored);
         for (const TdObject &received : std::as_const(byChat[chatID]))
-            place(received);
+            place(StoredMessage(received));
         m_rawMessagesByChat.insert(chatID, merged);
         publishMessages(chatID);
     }
@@ -300,15 +287,16 @@ void TelegramSession::storeNewMessage(const TdObject &message)
     const QString chatID = QString::number(*chat);
     if (m_removedChatIDs.contains(chatID))
         return;
-    QList<TdObject> &stored = m_rawMessagesByChat[chatID];
-    const std::optional<qint64> id = int64From(message.value("id"_L1));
-    const auto same = !id ? stored.end() : std::find_if(stored.begin(), stored.end(), [&](const TdObject &m) {
-        return int64From(m.value("id"_L1)) == id;
-    });
+    QList<StoredMessage> &stored = m_rawMessagesByChat[chatID];
+    StoredMessage storing(message);
+    const std::optional<qint64> id = storing.id();
+    const auto same =
+        !id ? stored.end()
+            : std::find_if(stored.begin(), stored.end(), [&](const StoredMessage &m) { return m.id() == id; });
     if (same != stored.end())
-        *same = message;
+        *same = std::move(storing);
     else
-        stored.append(message);
+        stored.append(std::move(storing));
     publishMessages(chatID);
 }
 
@@ -319,7 +307,7 @@ void TelegramSession::removeMessage(qint64 messageID, std::optional<qint64> chat
     const QString chatID = QString::number(*chat);
     const auto stored = m_rawMessagesByChat.find(chatID);
     if (stored != m_rawMessagesByChat.end())
-        stored->removeIf([messageID](const TdObject &m) { return int64From(m.value("id"_L1)) == messageID; });
+        stored->removeIf([messageID](const StoredMessage &m) { return m.id() == messageID; });
     publishMessages(chatID);
 }
 
@@ -333,12 +321,9 @@ void TelegramSession::updateMessageField(const TdObject &update, const QString &
     const auto stored = m_rawMessagesByChat.find(chatID);
     if (stored == m_rawMessagesByChat.end())
         return;
-    for (TdObject &message : *stored) {
-        if (int64From(message.value("id"_L1)) == messageID) {
-            if (value.isUndefined() || value.isNull())
-                message.remove(field);
-            else
-                message.insert(field, value);
+    for (StoredMessage &message : *stored) {
+        if (message.id() == messageID) {
+            message.setField(field, value);
             publishMessages(chatID);
             return;
         }

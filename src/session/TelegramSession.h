@@ -3,6 +3,7 @@
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
 #include "session/Step.h"
+#include "session/StoredMessage.h"
 #include "tdlib/AppBundle.h"
 #include "tdlib/TdJson.h"
 
@@ -400,7 +401,7 @@ private:
     // Messages
     QHash<QString, QList<Message>> m_messagesByChat;
     QHash<QString, QList<MessageDetails>> m_messageDetailsByChat;
-    QHash<QString, QList<TdObject>> m_rawMessagesByChat;
+    QHash<QString, QList<StoredMessage>> m_rawMessagesByChat;
     QHash<QString, qint64> m_lastReadOutbox;
     QHash<QString, qint64> m_lastViewedMessage;
     QSet<QString> m_loadingInitialHistory;

@@ -1,7 +1,8 @@
-// Pure readers: identifiers, TDLib's 64-bit values, the credentials and the sound table.
+// Pure readers: identifiers, TDLib's 64-bit values, stored messages, the credentials and the sound table.
 
 #include "session/CredentialStore.h"
 #include "session/SoundManager.h"
+#include "session/StoredMessage.h"
 #include "session/UserDefaults.h"
 #include "tdlib/TdJson.h"
 
@@ -74,6 +75,47 @@ private Q_SLOTS:
         QCOMPARE(int64From(object.value("missing"_L1)), std::optional<qint64>());
         QCOMPARE(int64From(QJsonValue(0)), std::optional<qint64>(0));
         QCOMPARE(integerFrom(QJsonValue(u"5"_s)), std::optional<qint64>());
+    }
+
+    void storedMessages()
+    {
+        // What comes back is what TDLib sent: 64-bit values in both spellings,
+        // fractions, escapes, text beyond the BMP, nulls, empty containers.
+        const QByteArray sent = R"({"@type":"message","id":"9221294784512000005","chat_id":-1001234567890,)"
+                                R"("date":1700000000,"big":9007199254740993,"ratio":0.1,"tiny":1e-300,)"
+                                R"("content":{"@type":"messageText","text":{"text":"\"quoted\" \\ tab\t nul\u0000 )"
+                                R"(Ünïcödé 🍕 \ud83d\ude00","entities":[]}},"reply_to":null,"reactions":{},"ids":[1,-2,"3"]})";
+        QJsonParseError error;
+        const TdObject original = QJsonDocument::fromJson(sent, &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        StoredMessage stored(original);
+        QCOMPARE(stored.object(), original);
+        QCOMPARE(stored.id(), std::optional<qint64>(9221294784512000005LL));
+        QCOMPARE(stored.date(), 1700000000);
+        QCOMPARE(int64From(stored.object().value("big"_L1)), std::optional<qint64>(9007199254740993LL));
+
+        stored.setField(u"edit_date"_s, 1700000100);
+        QCOMPARE(stored.object().value("edit_date"_L1).toInteger(), 1700000100);
+        stored.setField(u"reply_to"_s, QJsonValue::Null);
+        stored.setField(u"ratio"_s, QJsonValue::Undefined);
+        QVERIFY(!stored.object().contains("reply_to"_L1));
+        QVERIFY(!stored.object().contains("ratio"_L1));
+        QCOMPARE(stored.id(), std::optional<qint64>(9221294784512000005LL)); // kept across changes
+
+        // Identifiers that are not 64-bit values are none; a missing date is 0.
+        QCOMPARE(StoredMessage(TdObject{{"id"_L1, u"12a"_s}}).id(), std::optional<qint64>());
+        QCOMPARE(StoredMessage(TdObject{{"id"_L1, 1.5}}).id(), std::optional<qint64>());
+        QCOMPARE(StoredMessage(TdObject{{"id"_L1, 7}}).date(), 0);
+        QCOMPARE(StoredMessage(TdObject{}).object(), TdObject{});
+
+        // Oldest first; within one second, by identifier.
+        const StoredMessage early(TdObject{{"id"_L1, 9}, {"date"_L1, 100}});
+        const StoredMessage late(TdObject{{"id"_L1, 2}, {"date"_L1, 101}});
+        const StoredMessage lateHigherID(TdObject{{"id"_L1, u"3"_s}, {"date"_L1, 101}});
+        QVERIFY(StoredMessage::sortsBefore(early, late));
+        QVERIFY(!StoredMessage::sortsBefore(late, early));
+        QVERIFY(StoredMessage::sortsBefore(late, lateHigherID));
+        QVERIFY(!StoredMessage::sortsBefore(late, late));
     }
 
     void utf8Validation_data()
