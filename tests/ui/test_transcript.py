@@ -23,6 +23,11 @@ def intersects(inner, outer):
 NEWEST = "You: Of course! See you at 7 🍕"
 
 
+def media_framework_loaded(pid):
+    with open(f"/proc/{pid}/maps") as maps:
+        return any("/libgst" in line for line in maps)
+
+
 class Transcript(VostTestCase):
     def open_emma(self, **launch):
         vost = self.launch(**launch)
@@ -89,6 +94,19 @@ class Transcript(VostTestCase):
                 self.assertEqual(before[name], after[name], f"{name} moved when a page arrived")
             pages += 1
         self.assertEqual(pages, 3, "the spinner did not show at the top while pages were on their way")
+
+    def test_scrolling_past_stickers_and_gifs_loads_no_media_player(self):
+        # Bubbles are reused as they scroll: one that showed a sticker and now
+        # shows a GIF must not hand the sticker to a media player on the way,
+        # which would bring GStreamer into the process for good.
+        vost, messages = self.open_emma()
+        for cycle in range(6):
+            for down in (False, True):
+                for _ in range(30):
+                    vost.wheel(messages, 2, down=down)
+            vost.find("list item", NEWEST, contains=True, within=messages)
+            time.sleep(0.3)
+            self.assertFalse(media_framework_loaded(vost.process.pid), f"GStreamer loaded in cycle {cycle + 1}")
 
     def test_bubbles_show_captions_images_and_stickers(self):
         vost, messages = self.open_emma()

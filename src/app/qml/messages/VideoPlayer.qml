@@ -29,13 +29,14 @@ Item {
     property bool started: false
     readonly property bool playing: path !== "" && onScreen && (isAnimation || started)
                                     && Window.window !== null && Window.window.visible
-    // A reused delegate gets its new path and details one after the other: the
-    // media player (which brings in GStreamer and its decoders) is made only for
-    // what is still wanted once both have arrived, never for a GIF in between.
+    // A reused delegate gets its new kind, path and details one after the other:
+    // the media player (which brings in GStreamer and its decoders for good) is
+    // made only for what is still wanted once all have arrived, never for a GIF
+    // or for the sticker the bubble showed before.
     readonly property bool needsPlayer: path !== "" && !isGif && (playing || !started)
     property bool playerWanted: false
     onNeedsPlayerChanged: settling.restart()
-    Component.onCompleted: playerWanted = needsPlayer
+    Component.onCompleted: settling.restart()
 
     Timer {
         id: settling
