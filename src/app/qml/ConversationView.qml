@@ -116,7 +116,7 @@ FocusScope {
         keyNavigationEnabled: true
         highlightMoveDuration: 0
         reuseItems: true
-        cacheBuffer: 600
+        cacheBuffer: 0
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Messages")
         ScrollBar.vertical: ScrollBar {
