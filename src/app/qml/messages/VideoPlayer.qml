@@ -30,19 +30,25 @@ Item {
     readonly property bool playing: path !== "" && onScreen && (isAnimation || started)
                                     && Window.window !== null && Window.window.visible
     // A reused delegate gets its new kind, path and details one after the other:
-    // the media player (which brings in GStreamer and its decoders for good) is
-    // made only for what is still wanted once all have arrived, never for a GIF
-    // or for the sticker the bubble showed before.
+    // the media player (which brings in GStreamer and its decoders for good) and
+    // the GIF's image are made only for what is still wanted once all have
+    // arrived, never for the sticker the bubble showed before.
     readonly property bool needsPlayer: path !== "" && !isGif && (playing || !started)
+    readonly property bool needsImage: path !== "" && isGif
     property bool playerWanted: false
+    property bool imageWanted: false
     onNeedsPlayerChanged: settling.restart()
+    onNeedsImageChanged: settling.restart()
     Component.onCompleted: settling.restart()
 
     Timer {
         id: settling
 
         interval: 0
-        onTriggered: media.playerWanted = media.needsPlayer
+        onTriggered: {
+            media.playerWanted = media.needsPlayer;
+            media.imageWanted = media.needsImage;
+        }
     }
 
     implicitWidth: details.width > 0 ? Math.min(maximumWidth, details.width) : maximumWidth
@@ -77,7 +83,7 @@ Item {
         // GIFs play as images; other videos through the media player.
         Loader {
             anchors.fill: parent
-            active: media.path !== "" && media.isGif
+            active: media.imageWanted
             sourceComponent: AnimatedImage {
                 source: LocalFile.url(media.path)
                 fillMode: Image.PreserveAspectFit
