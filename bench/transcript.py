@@ -85,17 +85,6 @@ def report_memory(before, after):
               f"{(after[kind] - before.get(kind, 0)) / 1024:+6.1f}")
 
 
-def media_player_loaded(pid):
-    """Whether GStreamer is in the process: a video bubble that got its file while
-    it was made shows its first frame through a media player, and the player's
-    libraries and plugins stay loaded (about 39 MB of PSS)."""
-    try:
-        with open(f"/proc/{pid}/maps") as maps:
-            return any("/libgst" in line for line in maps)
-    except OSError:
-        return False
-
-
 def frame_times(log):
     """Per frame: the GUI thread's polish and the render thread's frame (OpenGL's
     threaded loop), or the whole frame (the software renderer's loop), in ms."""
@@ -161,7 +150,7 @@ def main():
         time.sleep(10)
         print(f"PSS 10 s after closing the popover: {pss_kb(pid) / 1024:.0f} MB")
         print("a video player was made on the way (GStreamer loaded): "
-              + ("yes" if media_player_loaded(pid) else "no"))
+              + ("yes" if vost.media_player_loaded() else "no"))
         report_memory(in_tray, memory_by_kind(pid))
         vost.quit()
     finally:
