@@ -38,6 +38,13 @@ quint32 PageFetchClient::fetch(const QUrl &url, int timeoutMs, bool browserIdent
 {
     const quint32 id = m_nextID++;
     m_pending.insert(id, {context, std::move(completion)});
+    const PageFetchProtocol::Request request{id, url, timeoutMs, browserIdentity};
+    // The fetcher would end on it, and take the other fetches with it.
+    if (!PageFetchProtocol::isWellFormed(request)) {
+        QMetaObject::invokeMethod(
+            this, [this, id] { answer(PageFetchProtocol::notReached(id)); }, Qt::QueuedConnection);
+        return id;
+    }
     m_linger.stop();
     if (!isRunning() && !start()) {
         // Answered as the network would: later, never from inside this call.
@@ -45,7 +52,7 @@ quint32 PageFetchClient::fetch(const QUrl &url, int timeoutMs, bool browserIdent
             this, [this] { answerEverythingAsNotReached(); }, Qt::QueuedConnection);
         return id;
     }
-    m_process->write(PageFetchProtocol::encode(PageFetchProtocol::Request{id, url, timeoutMs, browserIdentity}));
+    m_process->write(PageFetchProtocol::encode(request));
     return id;
 }
 

@@ -66,6 +66,12 @@ std::optional<Message> decode(const QCborMap &map)
 
 } // namespace
 
+bool isWellFormed(const Request &request)
+{
+    // As the fetcher will read the address.
+    return request.timeoutMs >= 0 && QUrl(request.url.toString(QUrl::FullyEncoded), QUrl::StrictMode).isValid();
+}
+
 QByteArray encode(const Request &request)
 {
     QCborMap map;

@@ -47,6 +47,10 @@ using Message = std::variant<Request, Answer>;
 constexpr qint64 maximumBodyBytes = 8 * 1024 * 1024;
 constexpr qsizetype maximumMessageSize = maximumBodyBytes + 64 * 1024;
 
+// Whether the fetcher takes the request: a valid, non-empty address and a time-out of
+// zero or more. It reads anything else as a malformed message, and ends.
+bool isWellFormed(const Request &request);
+
 QByteArray encode(const Request &request);
 QByteArray encode(const Answer &answer);
 

@@ -175,6 +175,35 @@ private Q_SLOTS:
         QCOMPARE(answers.size(), 1);
     }
 
+    // A fetch the helper could not read (no address, a negative time-out) never goes
+    // to it: it would end on it and take the other fetches along. That fetch alone is
+    // answered as not reached.
+    void anUnreadableFetchLeavesTheOthers()
+    {
+        PageFetchClient &client = PageFetchClient::instance();
+        QObject context;
+        QList<Answer> answers;
+        const auto record = [&answers](const Answer &answer) { answers.append(answer); };
+        const quint32 dripping = client.fetch(m_server.url(u"/drip"_s), 60'000, false, &context, record);
+        QTRY_COMPARE(fetcherProcesses().size(), 1);
+        const QList<qint64> fetcher = fetcherProcesses();
+        const QList<quint32> unreadable{client.fetch(QUrl(), 10'000, false, &context, record),
+                                        client.fetch(QUrl(u"https://"_s), 10'000, false, &context, record),
+                                        client.fetch(m_server.url(u"/page"_s), -1, false, &context, record)};
+        QVERIFY(answers.isEmpty()); // later, never from inside the call
+        QTRY_COMPARE(answers.size(), 3);
+        for (const Answer &answer : std::as_const(answers)) {
+            QVERIFY(unreadable.contains(answer.id));
+            QVERIFY(!answer.reached);
+        }
+        QTest::qWait(300);
+        QCOMPARE(answers.size(), 3);
+        QCOMPARE(fetcherProcesses(), fetcher);
+        QVERIFY(fetch(m_server.url(u"/page"_s)).reached);
+        QCOMPARE(fetcherProcesses(), fetcher);
+        client.cancel(dripping);
+    }
+
     // The helper itself: its input ending ends it; a malformed request ends it at once.
     void theHelperEndsWithItsInput()
     {

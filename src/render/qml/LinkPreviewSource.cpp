@@ -20,6 +20,7 @@ void LinkPreviewSource::setUrl(const QUrl &url)
 
 void LinkPreviewSource::start()
 {
-    if (m_metadata)
+    // A bubble reused for a message without a link has no address for a moment.
+    if (m_metadata && !m_url.isEmpty())
         m_metadata->load();
 }
