@@ -1,7 +1,8 @@
 // The video widget of a bubble makes its media player (GStreamer, which stays
 // loaded for good once in the process) only for what is still a video once the
 // bubble's values have settled: never for the sticker a reused bubble showed
-// before it became a GIF, and the GIF's image gets no sticker to read either.
+// before it became a GIF, and the GIF's image gets no sticker to read either, nor
+// the file of the message a bubble shows next.
 
 #include "StickerEngine.h"
 
@@ -58,6 +59,22 @@ private Q_SLOTS:
         QTest::qWait(100);
         QVERIFY(!reused->property("playerWanted").toBool());
         QVERIFY(reused->property("imageWanted").toBool());
+        QVERIFY(!mediaFrameworkLoaded());
+    }
+
+    void noFileOfTheNextMessageForAGifGoingAway()
+    {
+        QTest::failOnWarning(QRegularExpression(u"voice_note"_s));
+        std::unique_ptr<QQuickItem> reused = make({{u"path"_s, u"/nonexistent/animations/clip.gif"_s},
+                                                   {u"isAnimation"_s, true},
+                                                   {u"details"_s, QVariantMap{{u"mimeType"_s, u"image/gif"_s}}}});
+        QVERIFY(reused);
+        QTRY_VERIFY(reused->property("imageWanted").toBool());
+        // Reused for a voice note: its path comes just before the bubble drops the widget.
+        reused->setProperty("path", u"/nonexistent/voice/voice_note.oga"_s);
+        reused->setProperty("details", QVariantMap{{u"mimeType"_s, u"audio/ogg"_s}});
+        reused.reset();
+        QTest::qWait(50);
         QVERIFY(!mediaFrameworkLoaded());
     }
 

@@ -35,10 +35,14 @@ Item {
     // arrived, never for the sticker the bubble showed before.
     readonly property bool needsPlayer: path !== "" && !isGif && (playing || !started)
     readonly property bool needsImage: path !== "" && isGif
+    // The path they read, so that one going away never reads the next message's
+    // file (a voice note is no GIF).
     property bool playerWanted: false
     property bool imageWanted: false
+    property string settledPath
     onNeedsPlayerChanged: settling.restart()
     onNeedsImageChanged: settling.restart()
+    onPathChanged: settling.restart()
     Component.onCompleted: settling.restart()
 
     Timer {
@@ -48,6 +52,7 @@ Item {
         onTriggered: {
             media.playerWanted = media.needsPlayer;
             media.imageWanted = media.needsImage;
+            media.settledPath = media.path;
         }
     }
 
@@ -85,7 +90,7 @@ Item {
             anchors.fill: parent
             active: media.imageWanted
             sourceComponent: AnimatedImage {
-                source: LocalFile.url(media.path)
+                source: LocalFile.url(media.settledPath)
                 fillMode: Image.PreserveAspectFit
                 playing: media.playing
                 cache: false
@@ -103,7 +108,7 @@ Item {
                     fillMode: VideoOutput.PreserveAspectFit
                 }
                 MediaPlayer {
-                    source: LocalFile.url(media.path)
+                    source: LocalFile.url(media.settledPath)
                     videoOutput: output
                     audioOutput: AudioOutput {
                         muted: true
