@@ -1,9 +1,12 @@
-// The sounds the build generates, and playing them where there is no audio device.
+// The sounds the build generates, and playing them in the helper process, also where
+// there is no audio device.
 
 #include "platform/linux/GeneratedSoundPlayer.h"
 #include "tdlib/AppBundle.h"
 
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
@@ -66,6 +69,40 @@ std::optional<Wave> readWave(const QByteArray &bytes)
     return wave;
 }
 
+QStringList childCommands(const QByteArray &prefix)
+{
+    QStringList found;
+    const QStringList tasks = QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &task : tasks) {
+        QFile children(u"/proc/self/task/%1/children"_s.arg(task));
+        if (!children.open(QIODevice::ReadOnly))
+            continue;
+        for (const QByteArray &child : children.readAll().split(' ')) {
+            QFile command(u"/proc/%1/comm"_s.arg(QString::fromLatin1(child.trimmed())));
+            if (!child.trimmed().isEmpty() && command.open(QIODevice::ReadOnly) && command.readAll().startsWith(prefix))
+                found.append(QString::fromLatin1(child.trimmed()));
+        }
+    }
+    return found;
+}
+
+QStringList helperProcesses()
+{
+    return childCommands("vost-sound-pla");
+}
+
+QByteArrayList threadNames()
+{
+    QByteArrayList threads;
+    const QStringList tasks = QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &task : tasks) {
+        QFile command(u"/proc/self/task/%1/comm"_s.arg(task));
+        if (command.open(QIODevice::ReadOnly))
+            threads.append(command.readAll().trimmed());
+    }
+    return threads;
+}
+
 } // namespace
 
 class SoundsTest : public QObject
@@ -117,6 +154,45 @@ private Q_SLOTS:
         for (const QString &name : {u""_s, u"Beep"_s, u"frog"_s, u"../Info"_s, u"Frog.wav"_s})
             QVERIFY2(!player.soundFile(name), qPrintable(name));
         QVERIFY(!GeneratedSoundPlayer(u"/nonexistent"_s).soundFile(u"Frog"_s));
+    }
+
+    // Sounds play in the helper, which ends a little after the last one: the audio
+    // system (the sound server's threads among it) never starts in this process.
+    void soundsPlayInAHelperThatEndsAfterThem()
+    {
+        GeneratedSoundPlayer player;
+        player.setLingerInterval(std::chrono::milliseconds(200));
+        player.play(u"Glass"_s);
+        QVERIFY(player.isRunning());
+        QCOMPARE(helperProcesses().size(), 1);
+        player.play(u"Frog"_s);
+        QCOMPARE(helperProcesses().size(), 1);
+        QTRY_VERIFY(!player.isRunning());
+        QTRY_VERIFY(helperProcesses().isEmpty());
+        player.play(u"Beep"_s); // no such sound: nothing to start for
+        QVERIFY(!player.isRunning());
+        player.play(u"Ping"_s);
+        QVERIFY(player.isRunning());
+        QVERIFY(!threadNames().contains("threaded-ml"));
+    }
+
+    // Whatever comes down its input, the helper plays what it can and ends with it.
+    void theHelperTakesAnyInput()
+    {
+        const QString program = AppBundle::main().helperProgram(u"vost-sound-player"_s).value_or(QString());
+        QProcess helper;
+        helper.setProcessChannelMode(QProcess::ForwardedChannels);
+        helper.start(program, {});
+        QVERIFY(helper.waitForStarted());
+        const QByteArray sound = AppBundle::main().resourcePath(u"sounds/Glass.wav"_s).toUtf8();
+        helper.write(QByteArray(100'000, 'x') + '\n');
+        static const char junk[] = "\0\xff\xfe\n\n/nonexistent/Glass.wav\n/tmp\n";
+        helper.write(QByteArray(junk, sizeof junk - 1));
+        helper.write(sound + '\n' + sound); // the last line unfinished
+        helper.closeWriteChannel();
+        QVERIFY(helper.waitForFinished(10'000));
+        QCOMPARE(helper.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(helper.exitCode(), 0);
     }
 
     void playingWithoutAudioDeviceIsSilent()

@@ -2,56 +2,40 @@
 
 #include "tdlib/AppBundle.h"
 
-#include <QAudioDevice>
 #include <QFileInfo>
-#include <QMediaDevices>
-#include <QSoundEffect>
-#include <QUrl>
-
-#include <atomic>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-std::atomic<QtMessageHandler> forwardedHandler = nullptr;
-thread_local bool startingAudio = false;
-
-void quietWhileStartingAudio(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    // Other threads' messages go on as before.
-    const QtMessageHandler forward = forwardedHandler.load();
-    if (!startingAudio && forward)
-        forward(type, context, message);
-}
-
-// Whether there is a device to play on. The first question starts Qt's audio system,
-// which reports a missing sound server as a warning; no audio device is an ordinary
-// case for us, so that start-up is kept quiet.
-bool hasAudioOutput()
-{
-    static bool started = false;
-    if (!started) {
-        started = true;
-        startingAudio = true;
-        forwardedHandler = qInstallMessageHandler(quietWhileStartingAudio);
-        const bool found = !QMediaDevices::defaultAudioOutput().isNull();
-        qInstallMessageHandler(forwardedHandler);
-        startingAudio = false;
-        return found;
-    }
-    return !QMediaDevices::defaultAudioOutput().isNull();
-}
+// Notification sounds come one at a time, seconds apart; the helper starts in tens
+// of milliseconds, so it need not stay long after one: the tray is what lasts.
+constexpr std::chrono::seconds defaultLinger{3};
+// A sound lasts a second at most; the helper ends once it has played.
+constexpr int endingGraceMs = 6000;
 
 } // namespace
 
 GeneratedSoundPlayer::GeneratedSoundPlayer(QString folder)
     : m_folder(folder.isEmpty() ? AppBundle::main().resourcePath(u"sounds"_s) : std::move(folder))
-{}
+{
+    m_linger.setSingleShot(true);
+    m_linger.setInterval(defaultLinger);
+    connect(&m_linger, &QTimer::timeout, this, &GeneratedSoundPlayer::stop);
+}
 
 GeneratedSoundPlayer::~GeneratedSoundPlayer()
 {
-    qDeleteAll(m_effects);
+    // The last sound may still be playing as Vost quits: it gets a moment to end.
+    stop();
+    const QList<QProcess *> ending = findChildren<QProcess *>();
+    for (QProcess *process : ending) {
+        if (process->state() != QProcess::NotRunning && !process->waitForFinished(1000)) {
+            process->kill();
+            process->waitForFinished(1000);
+        }
+    }
 }
 
 const QStringList &GeneratedSoundPlayer::soundNames()
@@ -77,17 +61,58 @@ std::optional<QString> GeneratedSoundPlayer::soundFile(const QString &name) cons
 void GeneratedSoundPlayer::play(const QString &name)
 {
     const std::optional<QString> file = soundFile(name);
-    if (!file)
+    if (!file || (!isRunning() && !start()))
         return;
-    // No audio device: silent. Asked on every play, since one may come later.
-    if (!hasAudioOutput())
-        return;
-    QSoundEffect *&effect = m_effects[name];
-    if (!effect) {
-        effect = new QSoundEffect;
-        effect->setSource(QUrl::fromLocalFile(*file));
+    m_process->write(file->toUtf8() + '\n');
+    m_linger.start();
+}
+
+bool GeneratedSoundPlayer::isRunning() const
+{
+    return m_process && m_process->state() != QProcess::NotRunning;
+}
+
+void GeneratedSoundPlayer::setLingerInterval(std::chrono::milliseconds interval)
+{
+    m_linger.setInterval(interval);
+}
+
+bool GeneratedSoundPlayer::start()
+{
+    const AppBundle bundle = AppBundle::main();
+    const std::optional<QString> program = bundle.helperProgram(u"vost-sound-player"_s);
+    if (!program) {
+        qWarning().noquote() << "the sound player is missing from" << bundle.rootPath();
+        return false;
     }
-    effect->play();
+    stop();
+    m_process = new QProcess(this);
+    m_process->setProcessChannelMode(QProcess::ForwardedChannels);
+    m_process->start(*program, {});
+    if (!m_process->waitForStarted()) {
+        qWarning().noquote() << "the sound player does not start:" << m_process->errorString();
+        stop();
+        return false;
+    }
+    return true;
+}
+
+// Closing its input tells the helper to end once its sound has played; one that
+// does not is made to.
+void GeneratedSoundPlayer::stop()
+{
+    m_linger.stop();
+    QProcess *process = m_process;
+    m_process = nullptr;
+    if (!process)
+        return;
+    if (process->state() == QProcess::NotRunning) {
+        process->deleteLater();
+        return;
+    }
+    process->closeWriteChannel();
+    connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    QTimer::singleShot(endingGraceMs, process, &QProcess::kill);
 }
 
 std::unique_ptr<SoundPlayer> makeSystemSoundPlayer()

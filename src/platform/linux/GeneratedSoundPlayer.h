@@ -2,19 +2,23 @@
 
 #include "platform/SoundPlayer.h"
 
-#include <QHash>
+#include <QPointer>
 #include <QStringList>
+#include <QTimer>
 
-#include <memory>
+#include <chrono>
 #include <optional>
 
-class QSoundEffect;
+class QProcess;
 
 // Plays the named short sounds that the build generates into the resource folder's
-// "sounds" folder, through Qt Multimedia. Each sound is loaded on its first play.
-// Without an audio device it stays silent.
-class GeneratedSoundPlayer : public SoundPlayer
+// "sounds" folder. They play in the sound player, a helper process that starts with
+// a sound and ends once none has been asked for a little while, so the audio system
+// never stays in Vost. Without an audio device it is silent.
+class GeneratedSoundPlayer : public QObject, public SoundPlayer
 {
+    Q_OBJECT
+
 public:
     // folder: where <Name>.wav are; by default the application's resource folder.
     explicit GeneratedSoundPlayer(QString folder = {});
@@ -27,7 +31,15 @@ public:
     // The file of a named sound; none for a name we do not ship or a missing file.
     std::optional<QString> soundFile(const QString &name) const;
 
+    bool isRunning() const;
+    // How long the helper stays after the last sound.
+    void setLingerInterval(std::chrono::milliseconds interval);
+
 private:
+    bool start();
+    void stop();
+
     QString m_folder;
-    QHash<QString, QSoundEffect *> m_effects;
+    QPointer<QProcess> m_process;
+    QTimer m_linger;
 };
