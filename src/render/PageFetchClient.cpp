@@ -1,6 +1,6 @@
 #include "render/PageFetchClient.h"
 
-#include "tdlib/AppBundle.h"
+#include "tdlib/HelperProcess.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -12,7 +12,7 @@ namespace {
 // The previews of one screen come in a burst. The fetcher starts in tens of
 // milliseconds, so it need not stay long after one: the tray is what lasts.
 constexpr std::chrono::seconds defaultLinger{5};
-constexpr int endingGraceMs = 2000;
+constexpr std::chrono::seconds endingGrace{2};
 
 } // namespace
 
@@ -75,15 +75,11 @@ void PageFetchClient::setLingerInterval(std::chrono::milliseconds interval)
 
 bool PageFetchClient::start()
 {
-    const AppBundle bundle = AppBundle::main();
-    const std::optional<QString> program = bundle.helperProgram("vost-page-fetcher"_L1);
-    if (!program) {
-        qWarning().noquote() << "the page fetcher is missing from" << bundle.rootPath();
-        return false;
-    }
     m_reader = {};
-    m_process = new QProcess(this);
-    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process =
+        HelperProcess::start(u"vost-page-fetcher"_s, u"the page fetcher"_s, QProcess::ForwardedErrorChannel, this);
+    if (!m_process)
+        return false;
     connect(m_process, &QProcess::readyReadStandardOutput, this, &PageFetchClient::readAnswers);
     connect(m_process, &QProcess::finished, this, [this] {
         readAnswers();
@@ -91,12 +87,6 @@ bool PageFetchClient::start()
             qWarning("the page fetcher ended unexpectedly");
         stop();
     });
-    m_process->start(*program, {});
-    if (!m_process->waitForStarted()) {
-        qWarning().noquote() << "the page fetcher does not start:" << m_process->errorString();
-        delete m_process;
-        return false;
-    }
     return true;
 }
 
@@ -108,13 +98,7 @@ void PageFetchClient::stop()
     m_process = nullptr;
     if (process) {
         disconnect(process, nullptr, this, nullptr);
-        if (process->state() == QProcess::NotRunning) {
-            process->deleteLater();
-        } else {
-            process->closeWriteChannel();
-            connect(process, &QProcess::finished, process, &QObject::deleteLater);
-            QTimer::singleShot(endingGraceMs, process, &QProcess::kill);
-        }
+        HelperProcess::end(process, endingGrace);
     }
     answerEverythingAsNotReached();
 }

@@ -1,6 +1,7 @@
 #include "platform/linux/GeneratedSoundPlayer.h"
 
 #include "tdlib/AppBundle.h"
+#include "tdlib/HelperProcess.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -13,7 +14,7 @@ namespace {
 // of milliseconds, so it need not stay long after one: the tray is what lasts.
 constexpr std::chrono::seconds defaultLinger{3};
 // A sound lasts a second at most; the helper ends once it has played.
-constexpr int endingGraceMs = 6000;
+constexpr std::chrono::seconds endingGrace{6};
 
 } // namespace
 
@@ -79,40 +80,17 @@ void GeneratedSoundPlayer::setLingerInterval(std::chrono::milliseconds interval)
 
 bool GeneratedSoundPlayer::start()
 {
-    const AppBundle bundle = AppBundle::main();
-    const std::optional<QString> program = bundle.helperProgram(u"vost-sound-player"_s);
-    if (!program) {
-        qWarning().noquote() << "the sound player is missing from" << bundle.rootPath();
-        return false;
-    }
     stop();
-    m_process = new QProcess(this);
-    m_process->setProcessChannelMode(QProcess::ForwardedChannels);
-    m_process->start(*program, {});
-    if (!m_process->waitForStarted()) {
-        qWarning().noquote() << "the sound player does not start:" << m_process->errorString();
-        stop();
-        return false;
-    }
-    return true;
+    m_process = HelperProcess::start(u"vost-sound-player"_s, u"the sound player"_s, QProcess::ForwardedChannels, this);
+    return m_process;
 }
 
-// Closing its input tells the helper to end once its sound has played; one that
-// does not is made to.
+// Closing its input tells the helper to end once its sound has played.
 void GeneratedSoundPlayer::stop()
 {
     m_linger.stop();
-    QProcess *process = m_process;
-    m_process = nullptr;
-    if (!process)
-        return;
-    if (process->state() == QProcess::NotRunning) {
-        process->deleteLater();
-        return;
-    }
-    process->closeWriteChannel();
-    connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    QTimer::singleShot(endingGraceMs, process, &QProcess::kill);
+    if (QProcess *process = std::exchange(m_process, nullptr))
+        HelperProcess::end(process, endingGrace);
 }
 
 std::unique_ptr<SoundPlayer> makeSystemSoundPlayer()
