@@ -1,6 +1,7 @@
 // The sounds the build generates, and playing them in the helper process, also where
 // there is no audio device.
 
+#include "../support/ChildProcesses.h"
 #include "platform/linux/GeneratedSoundPlayer.h"
 #include "tdlib/AppBundle.h"
 
@@ -69,26 +70,9 @@ std::optional<Wave> readWave(const QByteArray &bytes)
     return wave;
 }
 
-QStringList childCommands(const QByteArray &prefix)
+QList<qint64> helperProcesses()
 {
-    QStringList found;
-    const QStringList tasks = QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &task : tasks) {
-        QFile children(u"/proc/self/task/%1/children"_s.arg(task));
-        if (!children.open(QIODevice::ReadOnly))
-            continue;
-        for (const QByteArray &child : children.readAll().split(' ')) {
-            QFile command(u"/proc/%1/comm"_s.arg(QString::fromLatin1(child.trimmed())));
-            if (!child.trimmed().isEmpty() && command.open(QIODevice::ReadOnly) && command.readAll().startsWith(prefix))
-                found.append(QString::fromLatin1(child.trimmed()));
-        }
-    }
-    return found;
-}
-
-QStringList helperProcesses()
-{
-    return childCommands("vost-sound-pla");
+    return ChildProcesses::named("vost-sound-pla");
 }
 
 QByteArrayList threadNames()

@@ -1,6 +1,7 @@
 // The page fetcher: its messages, and Vost's side of it against the real helper
 // process and a server on loopback.
 
+#include "../support/ChildProcesses.h"
 #include "LoopbackHttpServer.h"
 
 #include "render/PageFetchClient.h"
@@ -22,20 +23,7 @@ namespace {
 // The page fetchers running below this process.
 QList<qint64> fetcherProcesses()
 {
-    QList<qint64> found;
-    const QStringList tasks = QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &task : tasks) {
-        QFile children(u"/proc/self/task/%1/children"_s.arg(task));
-        if (!children.open(QIODevice::ReadOnly))
-            continue;
-        for (const QByteArray &child : children.readAll().split(' ')) {
-            QFile command(u"/proc/%1/comm"_s.arg(QString::fromLatin1(child.trimmed())));
-            if (!child.trimmed().isEmpty() && command.open(QIODevice::ReadOnly) &&
-                command.readAll().startsWith("vost-page-fetch"))
-                found.append(child.trimmed().toLongLong());
-        }
-    }
-    return found;
+    return ChildProcesses::named("vost-page-fetch");
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 // process, and the host goes when the last sticker has left or comes back after a
 // crash. Needs a display (Xvfb in CI).
 
+#include "../support/ChildProcesses.h"
 #include "LoopbackHttpServer.h"
 
 #include "StickerEngine.h"
@@ -345,7 +346,7 @@ private Q_SLOTS:
         const QString path = write(u"leaving.tgs"_s, gzip(animation));
         QVERIFY(showAnimation(path));
         const qint64 process = host().processId();
-        const QList<qint64> children = childrenOf(process);
+        const QList<qint64> children = ChildProcesses::of(process);
         QVERIFY2(!children.isEmpty(), "the web engine runs processes of its own");
 
         delete m_root;
@@ -362,18 +363,6 @@ private Q_SLOTS:
     }
 
 private:
-    // The processes whose parent is the given one.
-    static QList<qint64> childrenOf(qint64 parent)
-    {
-        QList<qint64> children;
-        QFile file(u"/proc/%1/task/%1/children"_s.arg(parent));
-        if (file.open(QIODevice::ReadOnly))
-            for (const QByteArray &id : file.readAll().split(' '))
-                if (!id.trimmed().isEmpty())
-                    children.append(id.trimmed().toLongLong());
-        return children;
-    }
-
     // A new sticker view playing the Lottie sticker at path, once its page has loaded.
     bool showAnimation(const QString &path)
     {
