@@ -4,8 +4,10 @@ import Vost.Model
 
 // The whole client inside the popover: the configuration error without
 // credentials, the sign-in screen until the session is ready, then the chats.
-// The chats are let go while the popover stays closed; the sign-in screen keeps
-// what is typed into it.
+// The chats are made with the window, ready for the first opening, and let go
+// while the popover stays closed. The sign-in screen is made when first shown (an
+// account that is signed in never needs it while it starts) and then keeps what is
+// typed into it.
 Rectangle {
     id: root
 
@@ -21,7 +23,7 @@ Rectangle {
 
         anchors.fill: parent
         focus: true
-        active: root.popover.holdsContent || sourceComponent !== chats
+        active: sourceComponent === chats ? root.popover.holdsContent : (root.popover.visible || item !== null)
         sourceComponent: !root.host.hasCredentials ? configurationError
                                                    : (root.host.session.isReady ? chats : login)
     }
