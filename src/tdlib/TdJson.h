@@ -6,15 +6,11 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
-#include <QByteArrayView>
 #include <QStringView>
 
 #include <optional>
 
 using TdObject = QJsonObject;
-
-// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
-bool isValidUtf8(QByteArrayView bytes);
 
 // Strict decimal: an optional single sign, one or more ASCII digits, nothing else,
 // and the value fits a signed 64-bit integer.

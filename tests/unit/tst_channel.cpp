@@ -140,8 +140,21 @@ private Q_SLOTS:
         session.setBundle(AppBundle(QStringLiteral(VOST_FAKE_BUNDLE)));
         session.start(1, u"hash"_s);
         const QString unreadable = u"TDLib returned an unreadable response."_s;
-        m_fake.push("{\"@type\":\"ok\",\"text\":\"\xff\xfe\"}"); // not UTF-8
-        QTRY_COMPARE(session.startupStatus(), unreadable);
+        // Malformed UTF-8 in a value or a key: bad bytes, an overlong form, a
+        // surrogate, a code point above U+10FFFF, a sequence cut short.
+        for (const QByteArray &text :
+             {"\xff\xfe"_ba, "\xC0\xAF"_ba, "\xED\xA0\x80"_ba, "\xF4\x90\x80\x80"_ba, "\xE2\x82"_ba}) {
+            m_fake.push("{}");
+            QTRY_COMPARE(session.startupStatus(), u"Received TDLib event: unknown"_s);
+            m_fake.push(R"({"@type":"ok","text":")" + text + R"("})");
+            QTRY_COMPARE(session.startupStatus(), unreadable);
+            m_fake.push("{}");
+            QTRY_COMPARE(session.startupStatus(), u"Received TDLib event: unknown"_s);
+            m_fake.push(R"({"@type":"ok",")" + text + R"(":1})");
+            QTRY_COMPARE(session.startupStatus(), unreadable);
+        }
+        m_fake.push(R"({"@type":"ok","text":"caf\xC3\xA9 \xF0\x9F\x98\x80"})");
+        QTRY_COMPARE(session.startupStatus(), u"Received TDLib event: ok"_s);
         m_fake.push("{}");
         QTRY_COMPARE(session.startupStatus(), u"Received TDLib event: unknown"_s);
         m_fake.push("[]");

@@ -118,34 +118,6 @@ private Q_SLOTS:
         QVERIFY(!StoredMessage::sortsBefore(late, late));
     }
 
-    void utf8Validation_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("valid");
-        const QByteArray ascii(21, 'a'); // longer than the eight-byte steps, not a multiple of them
-        QTest::newRow("ascii") << ascii << true;
-        QTest::newRow("empty") << QByteArray() << true;
-        QTest::newRow("mixed") << QByteArray(ascii + "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80" + ascii) << true;
-        // A bad byte anywhere: inside a word, on its edge, in the tail.
-        for (const int at : {0, 7, 8, 15, 20}) {
-            QByteArray bad = ascii;
-            bad[at] = char(0xFF);
-            QTest::addRow("0xFF at %d", at) << bad << false;
-        }
-        QTest::newRow("overlong") << QByteArray(ascii + "\xC0\xAF") << false;
-        QTest::newRow("surrogate") << QByteArray(ascii + "\xED\xA0\x80") << false;
-        QTest::newRow("above U+10FFFF") << QByteArray(ascii + "\xF4\x90\x80\x80") << false;
-        QTest::newRow("cut short at the end") << QByteArray(ascii + "\xE2\x82") << false;
-        QTest::newRow("lone continuation") << QByteArray(ascii.left(9) + "\x80" + ascii) << false;
-    }
-
-    void utf8Validation()
-    {
-        QFETCH(QByteArray, bytes);
-        QFETCH(bool, valid);
-        QCOMPARE(isValidUtf8(bytes), valid);
-    }
-
     void credentials()
     {
         const CredentialStore padded({{u"TelegramAPIID"_s, u"  12345\n"_s}, {u"TelegramAPIHash"_s, u" abc \n"_s}});
