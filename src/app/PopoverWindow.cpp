@@ -33,7 +33,7 @@ PopoverWindow::PopoverWindow(QQmlEngine *engine, QWindow *parent)
     // The views are made before the first frame, so the window opens complete.
     connect(this, &QWindow::visibleChanged, this, [this](bool visible) {
         if (visible) {
-            // Before the views are made, so they are laid out once.
+            // Before the views are made: hidden, the window may have been made smaller.
             takeContentSize();
             m_releaseTimer->stop();
             setHoldsContent(true);

@@ -18,14 +18,28 @@ Rectangle {
     Accessible.role: Accessible.Pane
     Accessible.name: "Vost"
 
+    readonly property bool showsChats: root.host.hasCredentials && root.host.session.isReady
+    // Whether the popover has been shown: from then on the sign-in screen stays.
+    // (The loader's own item or component cannot tell: the loader announces both
+    // while it makes its item, inside the change to what it should hold.)
+    property bool wasShown: false
+
+    Connections {
+        target: root.popover
+
+        function onVisibleChanged() {
+            if (root.popover.visible)
+                root.wasShown = true;
+        }
+    }
+
     Loader {
         id: screen
 
         anchors.fill: parent
         focus: true
-        active: sourceComponent === chats ? root.popover.holdsContent : (root.popover.visible || item !== null)
-        sourceComponent: !root.host.hasCredentials ? configurationError
-                                                   : (root.host.session.isReady ? chats : login)
+        active: root.showsChats ? root.popover.holdsContent : root.wasShown
+        sourceComponent: !root.host.hasCredentials ? configurationError : (root.showsChats ? chats : login)
     }
 
     Component {
