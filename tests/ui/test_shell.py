@@ -71,6 +71,18 @@ class Tray(VostTestCase):
         vost.wait_for_chats()
         # Made at its full height this time: the list still opens at its top.
         vost.find("list item", "Archived chats", contains=True, within=vost.find("list", "Chat list"))
+        # The menus and pickers are made as they are first needed, in the views
+        # made again as well.
+        message = vost.find("list item", "Of course! See you at 7", contains=True, within=vost.find("list", "Messages"))
+        x, y, w, h = message.extents()
+        vost.click((x + w // 2, y + h // 2), button=3)
+        menu = vost.find("popup menu", "Message actions")
+        self.assertEqual(len(vost.all("push button", within=vost.find("panel", "Reactions", within=menu))), 7)
+        vost.key("Escape")
+        vost.absent("popup menu", "Message actions")
+        vost.find("push button", "Emoji").press()
+        vost.find("dialog", "Emoji picker")
+        self.assertNotIn("Binding loop", vost.output())
 
     def test_the_tray_menu_opens_the_popover_and_quits(self):
         # The menu is a popup: screen readers follow it by its focus, not in the

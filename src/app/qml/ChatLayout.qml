@@ -53,7 +53,7 @@ FocusScope {
             chatList: layout.host.chatList
             session: layout.host.session
             onChatChosen: if (conversationPane.item) conversationPane.item.forceActiveFocus()
-            onChatMenuRequested: (chatID, title) => chatMenu.openFor(chatID, title,
+            onChatMenuRequested: (chatID, title) => chatMenu.instance().openFor(chatID, title,
                                                                      layout.host.session.isPrivateChat(chatID))
         }
 
@@ -122,26 +122,33 @@ FocusScope {
         EmptyConversationView {}
     }
 
-    ChatMenu {
+    OnDemand {
         id: chatMenu
 
-        onDeleteRequested: (chatID, title, includingContact) => {
-            deletion.chatID = chatID;
-            deletion.includingContact = includingContact;
-            deletion.question = includingContact ? qsTr("Delete the chat with %1 and remove them from your contacts?").arg(title)
-                                                 : qsTr("Delete the chat “%1”?").arg(title);
-            deletion.open();
+        sourceComponent: ChatMenu {
+            parent: layout
+            onDeleteRequested: (chatID, title, includingContact) => {
+                const dialog = deletion.instance();
+                dialog.chatID = chatID;
+                dialog.includingContact = includingContact;
+                dialog.question = includingContact ? qsTr("Delete the chat with %1 and remove them from your contacts?").arg(title)
+                                                   : qsTr("Delete the chat “%1”?").arg(title);
+                dialog.open();
+            }
         }
     }
 
-    ConfirmDialog {
+    OnDemand {
         id: deletion
 
-        property string chatID
-        property bool includingContact
+        sourceComponent: ConfirmDialog {
+            property string chatID
+            property bool includingContact
 
-        actionText: qsTr("Delete")
-        onConfirmed: layout.host.session.deleteChat(chatID, includingContact)
+            parent: layout
+            actionText: qsTr("Delete")
+            onConfirmed: layout.host.session.deleteChat(chatID, includingContact)
+        }
     }
 
     Shortcut {

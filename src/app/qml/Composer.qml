@@ -235,29 +235,35 @@ FocusScope {
         }
     }
 
-    EmojiPicker {
+    OnDemand {
         id: emoji
 
-        x: composer.width - width - 12
-        y: -height - 6
-        onChosen: emoji => composer.insertText(emoji)
-        onClosed: if (!stickers.opened) field.forceActiveFocus()
+        sourceComponent: EmojiPicker {
+            parent: composer
+            x: composer.width - width - 12
+            y: -height - 6
+            onChosen: emoji => composer.insertText(emoji)
+            onClosed: if (!stickers.opened) field.forceActiveFocus()
+        }
     }
 
-    StickerPicker {
+    OnDemand {
         id: stickers
 
-        x: composer.width - width - 12
-        y: -height - 6
-        viewModel: composer.viewModel
-        session: composer.host.session
-        stickers: composer.host.recentStickerList
-        onChosen: row => {
-            composer.viewModel.queueStickerAt(row);
-            composer.sendComposed();
-            close();
+        sourceComponent: StickerPicker {
+            parent: composer
+            x: composer.width - width - 12
+            y: -height - 6
+            viewModel: composer.viewModel
+            session: composer.host.session
+            stickers: composer.host.recentStickerList
+            onChosen: row => {
+                composer.viewModel.queueStickerAt(row);
+                composer.sendComposed();
+                close();
+            }
+            onClosed: if (!emoji.opened) field.forceActiveFocus()
         }
-        onClosed: if (!emoji.opened) field.forceActiveFocus()
     }
 
     function handleReturn(event) {

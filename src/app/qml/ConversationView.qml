@@ -163,7 +163,7 @@ FocusScope {
             playback: audio
             onMenuRequested: (anchor, x, y) => menu.openFor(messageID, isOutgoing && kind === MessageContent.Text,
                                                             bodyText, reactions, anchor, x, y)
-            onMediaOpened: id => viewer.show(conversation.messageList.media(), id)
+            onMediaOpened: id => viewer.instance().show(conversation.messageList.media(), id)
             onReplyActivated: id => transcript.showMessage(id)
             onContactMessageRequested: userID => conversation.viewModel.openContact(userID)
             onReactionToggled: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
@@ -321,52 +321,61 @@ FocusScope {
         }
     }
 
-    PhotoViewer {
+    OnDemand {
         id: viewer
 
-        parent: conversation.Window.contentItem
+        sourceComponent: PhotoViewer {
+            parent: conversation.Window.contentItem
+        }
     }
 
-    MessageMenu {
+    OnDemand {
         id: menu
 
-        palette: conversation.viewModel.reactionPalette
-
         function openFor(messageID, canEdit, text, reactions, anchor, x, y) {
-            menu.messageID = messageID;
-            menu.canEdit = canEdit;
-            menu.messageText = text;
-            menu.reactions = reactions;
-            menu.popup(anchor, x, y);
+            const actions = instance();
+            actions.messageID = messageID;
+            actions.canEdit = canEdit;
+            actions.messageText = text;
+            actions.reactions = reactions;
+            actions.popup(anchor, x, y);
         }
 
-        onReplyRequested: id => {
-            conversation.viewModel.replyTo(id);
-            composer.forceActiveFocus();
-        }
-        onEditRequested: id => {
-            conversation.viewModel.edit(id);
-            composer.forceActiveFocus();
-        }
-        onForwardRequested: id => {
-            forwarding.messageID = id;
-            forwarding.open();
-        }
-        onReactionRequested: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
-        onDeleteRequested: id => {
-            deletion.messageID = id;
-            deletion.open();
+        sourceComponent: MessageMenu {
+            parent: conversation
+            palette: conversation.viewModel.reactionPalette
+
+            onReplyRequested: id => {
+                conversation.viewModel.replyTo(id);
+                composer.forceActiveFocus();
+            }
+            onEditRequested: id => {
+                conversation.viewModel.edit(id);
+                composer.forceActiveFocus();
+            }
+            onForwardRequested: id => {
+                forwarding.instance().messageID = id;
+                forwarding.open();
+            }
+            onReactionRequested: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
+            onDeleteRequested: id => {
+                deletion.instance().messageID = id;
+                deletion.open();
+            }
         }
     }
 
-    ForwardDialog {
+    OnDemand {
         id: forwarding
 
-        chats: conversation.host.allChats
-        onChatChosen: chatID => {
-            conversation.viewModel.forwardMessage(messageID, chatID);
-            close();
-            conversation.viewModel.selectChat(chatID);
+        sourceComponent: ForwardDialog {
+            parent: conversation
+            chats: conversation.host.allChats
+            onChatChosen: chatID => {
+                conversation.viewModel.forwardMessage(messageID, chatID);
+                close();
+                conversation.viewModel.selectChat(chatID);
+            }
         }
     }
 
@@ -382,14 +391,17 @@ FocusScope {
         }
     }
 
-    ConfirmDialog {
+    OnDemand {
         id: deletion
 
-        property string messageID
+        sourceComponent: ConfirmDialog {
+            property string messageID
 
-        question: qsTr("Delete this message for everyone?")
-        actionText: qsTr("Delete")
-        onConfirmed: conversation.viewModel.deleteMessage(messageID)
+            parent: conversation
+            question: qsTr("Delete this message for everyone?")
+            actionText: qsTr("Delete")
+            onConfirmed: conversation.viewModel.deleteMessage(messageID)
+        }
     }
 
     Composer {
