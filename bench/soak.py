@@ -3,7 +3,10 @@
 signed in on the demo account, which receives a message every 2 s across its
 chats (VOST_DEMO_MESSAGE_EVERY_MS), while the popover is opened on the chat list
 and closed again once a minute. Prints the process tree's PSS with the popover
-closed, each minute, and how far it moved after the first five minutes; beside
+closed, each minute, and how far it moved after the first five minutes (taken
+once the sound player, which plays the messages' sounds and ends 3 s after the
+last one, has gone: it adds about 3 MB while it runs, and its libraries shared
+with the program lower the program's share); beside
 it the anonymous memory (heap and other memory not backed by a file), where a
 leak would show: unlike PSS it does not move when other programs start or stop
 sharing the program's libraries.
@@ -19,7 +22,7 @@ import sys
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "ui"))
-from transcript import pss_kb  # noqa: E402
+from transcript import child_processes, pss_kb  # noqa: E402
 from vostui import Desktop, Vost, signed_in_template, wait_until  # noqa: E402
 
 SETTLE_MINUTES = 5
@@ -54,9 +57,15 @@ def main():
             vost.key("Escape")
             wait_until(lambda: not vost.popover_shown(), what="the popover closed")
             time.sleep(max(0.0, started + minute * 60 - time.monotonic()))
+            try:
+                wait_until(lambda: not child_processes(pid), timeout=10, what="the helper processes gone")
+                helper_running = False
+            except TimeoutError:
+                helper_running = True
             samples.append(pss_kb(pid) / 1024)
             anonymous.append(anonymous_kb(pid) / 1024)
-            print(f"minute {minute}: PSS {samples[-1]:.1f} MB, anonymous {anonymous[-1]:.1f} MB", flush=True)
+            print(f"minute {minute}: PSS {samples[-1]:.1f} MB, anonymous {anonymous[-1]:.1f} MB"
+                  + (" (a helper process was still running)" if helper_running else ""), flush=True)
         if len(samples) > SETTLE_MINUTES:
             print(f"after minute {SETTLE_MINUTES}: " + spread("PSS", samples[SETTLE_MINUTES - 1:]) + "; "
                   + spread("anonymous", anonymous[SETTLE_MINUTES - 1:]))
