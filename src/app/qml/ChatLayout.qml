@@ -53,8 +53,9 @@ FocusScope {
             chatList: layout.host.chatList
             session: layout.host.session
             onChatChosen: if (conversationPane.item) conversationPane.item.forceActiveFocus()
-            onChatMenuRequested: (chatID, title) => chatMenu.instance().openFor(chatID, title,
-                                                                     layout.host.session.isPrivateChat(chatID))
+            onChatMenuRequested: (chatID, title) => {
+                chatMenu.instance().openFor(chatID, title, layout.host.session.isPrivateChat(chatID));
+            }
         }
 
         SidebarToolbar {

@@ -6,8 +6,6 @@ import QtQuick
 // stays with its view and keeps its state between openings. The popup inside must
 // name its parent, which is otherwise the item it is declared in.
 Loader {
-    id: onDemand
-
     readonly property bool opened: item !== null && item.opened
 
     // The popup, made now if it was not yet.
