@@ -4,9 +4,10 @@ under Xvfb with a tray host (the UI cases' harness), signed in, opens the chat,
 scrolls with the wheel to the start of the conversation (every older page loads
 on the way) and back to the newest message. Prints the frame times Qt Quick's
 render loop reports (GUI thread polish plus the render thread's sync, render
-and swap, per frame: median, p99, maximum, frames over 16 ms), the process
-tree's memory (PSS) at each step, and where the memory a look at the popover
-left behind lies, by kind of mapping.
+and swap, per frame: median, p99, maximum, frames over 16 ms), the time from
+starting the program to its tray item on screen, the process tree's memory (PSS)
+and the CPU time it has taken at each step, and where the memory a look at the
+popover left behind lies, by kind of mapping.
 
     xvfb-run -a /usr/bin/python3 bench/transcript.py      (after ./run.sh test or a build)
 
@@ -16,6 +17,7 @@ import os
 import re
 import statistics
 import sys
+import threading
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "ui"))
@@ -31,6 +33,19 @@ def child_processes(pid):
         with open(f"/proc/{pid}/task/{task}/children") as listed:
             children += listed.read().split()
     return children
+
+
+def cpu_seconds(pid):
+    """The CPU time pid and every process below it have taken, ended ones
+    included, in seconds."""
+    try:
+        with open(f"/proc/{pid}/stat") as stat:
+            # The fields after the command's name, which may hold spaces.
+            fields = stat.read().rsplit(")", 1)[1].split()
+        ticks = sum(int(value) for value in fields[11:15])  # utime, stime, cutime, cstime
+        return ticks / os.sysconf("SC_CLK_TCK") + sum(cpu_seconds(int(child)) for child in child_processes(pid))
+    except OSError:
+        return 0.0
 
 
 def pss_kb(pid):
@@ -118,22 +133,38 @@ def main():
     desktop = Desktop()
     try:
         vost = Vost(desktop, home_template=signed_in_template(),
-                    extra_env={"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop.debug=true"}).start()
+                    extra_env={"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop.debug=true"})
+        # The tray item is the program's first window; it is watched for from the start.
+        launched = time.monotonic()
+        shown = []
+
+        def watch_for_tray_item():
+            while not shown and time.monotonic() - launched < 30:
+                if vost.process is not None and vost.tray_icon_geometry():
+                    shown.append(time.monotonic())
+                time.sleep(0.005)
+        threading.Thread(target=watch_for_tray_item, daemon=True).start()
+        vost.start()
         pid = vost.process.pid
+        wait_until(lambda: shown, what="the tray item")
+        print(f"start to the tray item on screen: {shown[0] - launched:.2f} s")
+
+        def step(label):
+            print(f"{label}: PSS {pss_kb(pid) / 1024:.1f} MB, CPU so far {cpu_seconds(pid):.2f} s")
         time.sleep(3)
         # The sign-in sound's player lingers a few seconds; the tray is what lasts.
         wait_until(lambda: not child_processes(pid), timeout=15, what="the helpers gone")
-        print(f"PSS in the tray, popover never opened: {pss_kb(pid) / 1024:.1f} MB")
+        step("in the tray, popover never opened")
         in_tray = memory_by_kind(pid)
         vost.open_popover()
         vost.wait_for_chats()
         time.sleep(2)
-        print(f"PSS with the chat list: {pss_kb(pid) / 1024:.1f} MB")
+        step("with the chat list")
         vost.open_chat("Emma Wilson")
         messages = vost.find("list", "Messages")
         vost.find("list item", NEWEST, contains=True, within=messages)
         time.sleep(2)
-        print(f"PSS with Emma Wilson's chat open: {pss_kb(pid) / 1024:.1f} MB")
+        step("with Emma Wilson's chat open")
 
         start = len(vost.output())
         started = time.monotonic()
@@ -151,13 +182,13 @@ def main():
         down = frame_times(vost.output()[start:])
         report("scrolling up (pages loading)", up)
         report("scrolling down", down)
-        print(f"PSS after scrolling: {pss_kb(pid) / 1024:.1f} MB")
+        step("after scrolling")
         vost.key("Escape")
         vost.key("Escape")
         if vost.popover_shown():
             vost.click_tray()
         time.sleep(10)
-        print(f"PSS 10 s after closing the popover: {pss_kb(pid) / 1024:.1f} MB")
+        step("10 s after closing the popover")
         print("a video player was made on the way (GStreamer loaded): "
               + ("yes" if vost.media_player_loaded() else "no"))
         report_memory(in_tray, memory_by_kind(pid))
