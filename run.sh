@@ -16,7 +16,7 @@ BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
 DEBIAN_PACKAGES=(
-    g++ cmake ninja-build pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
+    g++ cmake ninja-build ccache pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
     qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev libgl-dev qt6-qpa-plugins
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
@@ -41,9 +41,16 @@ install_packages() {
     DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# ccache, where installed, lets other checkouts and build trees reuse objects.
+LAUNCHER=()
+if command -v ccache >/dev/null; then
+    export CCACHE_BASEDIR=$PWD
+    LAUNCHER=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+fi
+
 build() {
     install_packages
-    cmake -S . -B "$BUILD_DIR" -G Ninja "${BUILD_TYPE[@]}" -DVOST_SANITIZE="${SANITIZE:-OFF}" \
+    cmake -S . -B "$BUILD_DIR" -G Ninja "${BUILD_TYPE[@]}" "${LAUNCHER[@]}" -DVOST_SANITIZE="${SANITIZE:-OFF}" \
         -DVOST_TELEGRAM_API_ID="${VOST_TELEGRAM_API_ID:-}" \
         -DVOST_TELEGRAM_API_HASH="${VOST_TELEGRAM_API_HASH:-}" >/dev/null
     cmake --build "$BUILD_DIR"
@@ -72,13 +79,13 @@ sanitized_tests() {
     # (its thread pool, its semaphores) is not checked, and the receive loop tells
     # the sanitizer where it hands an event to the main thread.
     local thread_dir=${VOST_TSAN_BUILD_DIR:-build-tsan}
-    cmake -S . -B "$thread_dir" -G Ninja "${BUILD_TYPE[@]}" -DVOST_SANITIZE_THREAD=ON >/dev/null
+    cmake -S . -B "$thread_dir" -G Ninja "${BUILD_TYPE[@]}" "${LAUNCHER[@]}" -DVOST_SANITIZE_THREAD=ON >/dev/null
     cmake --build "$thread_dir" --target vost-thread-tests
     TSAN_OPTIONS=ignore_noninstrumented_modules=1:second_deadlock_stack=1 \
         ctest --test-dir "$thread_dir" --output-on-failure --timeout 600 -L threads
 
     local fuzz_dir=${VOST_FUZZ_BUILD_DIR:-build-fuzz}
-    CC=clang CXX=clang++ cmake -S . -B "$fuzz_dir" -G Ninja "${BUILD_TYPE[@]}" -DVOST_FUZZ=ON \
+    CC=clang CXX=clang++ cmake -S . -B "$fuzz_dir" -G Ninja "${BUILD_TYPE[@]}" "${LAUNCHER[@]}" -DVOST_FUZZ=ON \
         -DVOST_BUILD_TESTS=OFF -DVOST_FUZZ_SECONDS="${VOST_FUZZ_SECONDS:-60}" >/dev/null
     cmake --build "$fuzz_dir" --target vost-fuzzers
     ctest --test-dir "$fuzz_dir" --output-on-failure -L fuzz
