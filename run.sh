@@ -44,7 +44,8 @@ install_packages() {
 # ccache, where installed, lets other checkouts and build trees reuse objects.
 LAUNCHER=()
 if command -v ccache >/dev/null; then
-    export CCACHE_BASEDIR=$PWD
+    # Paths inside the tree, and the build folder itself, stay out of the cache keys.
+    export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
     LAUNCHER=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
 
