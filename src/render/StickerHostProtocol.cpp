@@ -74,7 +74,7 @@ QByteArray encode(const Message &message)
     case Kind::Loaded:
         stream << message.succeeded;
         break;
-    case Kind::Title:
+    case Kind::PlayState:
         stream << message.text;
         break;
     case Kind::Frame:
@@ -90,12 +90,9 @@ QByteArray encode(const Message &message)
     return MessageFraming::frame(body);
 }
 
-std::optional<Message> Reader::next()
+std::optional<Message> decode(const QByteArray &body)
 {
-    const std::optional<QByteArray> body = m_frames.next();
-    if (!body)
-        return std::nullopt;
-    QDataStream stream(*body);
+    QDataStream stream(body);
     stream.setVersion(QDataStream::Qt_6_4);
     quint8 kind = 0;
     Message message;
@@ -119,7 +116,7 @@ std::optional<Message> Reader::next()
         case Kind::Loaded:
             stream >> message.succeeded;
             break;
-        case Kind::Title:
+        case Kind::PlayState:
             stream >> message.text;
             break;
         case Kind::Frame:
@@ -137,10 +134,8 @@ std::optional<Message> Reader::next()
         }
     }
     // Every byte of the body belongs to the message: none may be missing or left over.
-    if (!valid || stream.status() != QDataStream::Ok || !stream.atEnd()) {
-        m_frames.fail();
+    if (!valid || stream.status() != QDataStream::Ok || !stream.atEnd())
         return std::nullopt;
-    }
     return message;
 }
 

@@ -25,7 +25,7 @@ enum class Kind : quint8 {
     Acknowledge, // view: the last frame has been taken; the next may come
     // From the host.
     Loaded = 64, // view, succeeded
-    Title,       // view, text
+    PlayState,   // view, text = what the page's probe answered
     Frame,       // view, frame
     Result,      // view, request, result
 };
@@ -53,20 +53,19 @@ constexpr qsizetype maximumMessageSize = 64 * 1024 * 1024;
 constexpr int maximumFrameSide = 4096;
 
 QByteArray encode(const Message &message);
+// The message in a body; none when it is of no known kind, cut short, has bytes
+// left over, or carries a frame whose size does not match its pixels.
+std::optional<Message> decode(const QByteArray &body);
 
 // Collects bytes as they arrive and hands out whole messages. A malformed message
-// (too long, of no known kind, cut short, or a frame whose size does not match its
-// pixels) stops the reader for good: what follows it cannot be trusted either.
-class Reader
+// (too long, or one decode() rejects) stops the reader for good: what follows it
+// cannot be trusted either.
+class Reader : public MessageFraming::MessageReader<Message, &decode>
 {
 public:
-    void append(const QByteArray &bytes) { m_frames.append(bytes); }
-    // The next whole message, or nothing until more bytes come (or after a failure).
-    std::optional<Message> next();
-    bool failed() const { return m_frames.failed(); }
-
-private:
-    MessageFraming::Reader m_frames{maximumMessageSize};
+    Reader()
+        : MessageReader(maximumMessageSize)
+    {}
 };
 
 } // namespace StickerHostProtocol

@@ -12,10 +12,9 @@ namespace StickerPage {
 namespace {
 
 // The content security policy forbids every fetch; only inline script and style
-// and data or blob media may be used. The title changes with every new page, so a
-// view sees the state of each.
+// and data or blob media may be used.
 constexpr auto head =
-    "<!doctype html><html><head><title>loading</title><meta http-equiv=\"Content-Security-Policy\" "
+    "<!doctype html><html><head><meta http-equiv=\"Content-Security-Policy\" "
     "content=\"default-src 'none'; "
     "script-src 'unsafe-inline'; style-src 'unsafe-inline'; img-src data:; media-src data: blob:; "
     "connect-src 'none'\">\n"
@@ -26,7 +25,7 @@ constexpr auto head =
 
 // Inflates the gzip bytes with a running total (a guard against decompression
 // bombs), parses the JSON and plays it looping in the container; any failure shows
-// a short note instead. Either way the page's title says how it went.
+// a short note instead.
 constexpr auto lottieLoaderStart = "</script><script>(async()=>{const box=document.getElementById('sticker');try{"
                                    "const bytes=Uint8Array.from(atob('"_L1;
 constexpr auto lottieLoaderEnd =
@@ -38,8 +37,16 @@ constexpr auto lottieLoaderEnd =
     "const all=new Uint8Array(total);let offset=0;for(const c of chunks){all.set(c,offset);offset+=c.length;}"
     "const animationData=JSON.parse(new TextDecoder().decode(all));"
     "lottie.loadAnimation({container:box,renderer:'svg',loop:true,autoplay:true,animationData});"
-    "document.title='playing';"
-    "}catch(e){box.textContent='Sticker unavailable';document.title='unavailable';}})();</script>"_L1;
+    "}catch(e){box.textContent='Sticker unavailable';}})();</script>"_L1;
+
+// Reads how far the page got from its elements alone, so the page itself carries
+// nothing for the player: a video has data or an error; the Lottie player has drawn
+// into the container, or the loader has written its note there.
+constexpr auto probe = "(()=>{const video=document.querySelector('video');"
+                       "if(video)return video.error?'unavailable':(video.readyState>=2?'playing':'');"
+                       "const box=document.getElementById('sticker');if(!box)return '';"
+                       "if(box.querySelector('svg'))return 'playing';"
+                       "return box.textContent==='Sticker unavailable'?'unavailable':'';})()"_L1;
 
 std::optional<QString> readPlayerScript(const QString &path)
 {
@@ -58,11 +65,16 @@ std::optional<QString> readPlayerScript(const QString &path)
 
 } // namespace
 
-PlayState playStateFromTitle(const QString &title)
+QString playStateProbe()
 {
-    if (title == "playing"_L1)
+    return probe;
+}
+
+PlayState playStateFromProbe(const QString &answer)
+{
+    if (answer == "playing"_L1)
         return PlayState::Playing;
-    if (title == "unavailable"_L1)
+    if (answer == "unavailable"_L1)
         return PlayState::Unavailable;
     return PlayState::Loading;
 }
@@ -100,10 +112,7 @@ std::optional<QString> html(const QByteArray &data, StickerFormat format, const 
             return std::nullopt;
         body = "<script>"_L1 + *script + lottieLoaderStart + base64 + lottieLoaderEnd;
     } else {
-        // A file that is no video fires "error" instead of "loadeddata".
-        body = "<video autoplay loop muted playsinline onloadeddata=\"document.title='playing'\" "
-               "onerror=\"document.title='unavailable'\" src='data:video/webm;base64,"_L1 +
-               base64 + "'></video>"_L1;
+        body = "<video autoplay loop muted playsinline src='data:video/webm;base64,"_L1 + base64 + "'></video>"_L1;
     }
     QString page = head;
     if (format == StickerFormat::Video)

@@ -17,11 +17,13 @@ inline constexpr qint64 maximumFileSize = 10'000'000;
 // The page gives up when a Lottie animation inflates past this many bytes.
 inline constexpr qint64 maximumAnimationSize = 8'000'000;
 
-// How far a page got. It tells by its title, the one thing a web view reports
-// without a channel into the page: "playing" once the first frame is there,
-// "unavailable" when the sticker cannot be played; until then none.
+// How far a page got: playing once the first frame is there, unavailable when the
+// sticker cannot be played. The page itself reports nothing; the player runs
+// playStateProbe() beside the page's own scripts (in a world of its own) and reads
+// its answer with playStateFromProbe().
 enum class PlayState { Loading, Playing, Unavailable };
-PlayState playStateFromTitle(const QString &title);
+QString playStateProbe();
+PlayState playStateFromProbe(const QString &answer);
 
 // Where the Lottie player is looked for: the resource bundle of the running
 // application (share/vost/Vost_Vost.bundle/Resources/lottie_light.min.js).

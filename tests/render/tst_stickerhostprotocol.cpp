@@ -69,7 +69,7 @@ private Q_SLOTS:
         Message loaded(Kind::Loaded, 7);
         loaded.succeeded = true;
         sent << loaded;
-        Message title(Kind::Title, 7);
+        Message title(Kind::PlayState, 7);
         title.text = u"playing"_s;
         sent << title;
         Message frameMessage(Kind::Frame, 7);
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QTest::newRow("cut short") << framed(body(quint8(Kind::Show), 1, [](QDataStream &s) { s << qint32(5); }));
         QTest::newRow("bytes left over") << framed(body(quint8(Kind::Close), 1, [](QDataStream &s) { s << 1; }));
         QTest::newRow("text claims more than there is")
-            << framed(body(quint8(Kind::Title), 1, [](QDataStream &s) { s << quint32(0x7ffffff0); }));
+            << framed(body(quint8(Kind::PlayState), 1, [](QDataStream &s) { s << quint32(0x7ffffff0); }));
         QTest::newRow("negative size") << framed(
             body(quint8(Kind::Resize), 1, [](QDataStream &s) { s << QSize(-5, 10) << 1.0; }));
         QTest::newRow("huge size") << framed(
@@ -158,7 +158,7 @@ private Q_SLOTS:
     // A message whose end has not come yet is no failure: the reader waits.
     void anUnfinishedMessageWaits()
     {
-        Message title(Kind::Title, 3);
+        Message title(Kind::PlayState, 3);
         title.text = u"loading"_s;
         const QByteArray bytes = StickerHostProtocol::encode(title);
         Reader reader;

@@ -43,7 +43,7 @@ Item {
 
         anchors.fill: parent
         onPageLoaded: root.pageLoaded()
-        onTitleChanged: controller.pageTitle = web.title
+        onPlayStateChanged: controller.reportPlayState(web.playState)
         onPageLost: controller.markUnavailable()
     }
 

@@ -1,13 +1,15 @@
 #include "StickerHostView.h"
 
 #include "StickerHostClient.h"
+#include "render/StickerPage.h"
 
 #include <QJSEngine>
 #include <QQuickWindow>
 #include <QSGImageNode>
 
 using StickerHostProtocol::Kind;
-using StickerHostProtocol::Message;
+// The model's Message is another record.
+using HostMessage = StickerHostProtocol::Message;
 
 StickerHostView::StickerHostView(QQuickItem *parent)
     : QQuickItem(parent)
@@ -23,41 +25,47 @@ StickerHostView::~StickerHostView()
 
 void StickerHostView::show(const QString &page)
 {
-    Message message(Kind::Show, m_id);
+    HostMessage message(Kind::Show, m_id);
     message.size = pixelSize();
     message.devicePixelRatio = devicePixelRatio();
     message.text = page;
     m_sentSize = message.size;
     m_shown = true;
+    setPlayState(int(StickerPage::PlayState::Loading));
     StickerHostClient::instance().send(message);
     // No host could be started (it is missing, or will not run): the page cannot play.
     if (!StickerHostClient::instance().isRunning())
         hostLost();
 }
 
+void StickerHostView::setPlayState(int state)
+{
+    if (state == m_playState)
+        return;
+    m_playState = state;
+    Q_EMIT playStateChanged();
+}
+
 void StickerHostView::runJavaScript(const QString &script, const QJSValue &callback)
 {
     if (!m_shown)
         return;
-    Message message(Kind::Run, m_id);
+    HostMessage message(Kind::Run, m_id);
     message.request = m_nextRequest++;
     message.text = script;
     m_pendingScripts.insert(message.request, callback);
     StickerHostClient::instance().send(message);
 }
 
-void StickerHostView::receive(const Message &message)
+void StickerHostView::receive(const HostMessage &message)
 {
     switch (message.kind) {
     case Kind::Loaded:
         if (message.succeeded)
             Q_EMIT pageLoaded();
         break;
-    case Kind::Title:
-        if (message.text != m_title) {
-            m_title = message.text;
-            Q_EMIT titleChanged();
-        }
+    case Kind::PlayState:
+        setPlayState(int(StickerPage::playStateFromProbe(message.text)));
         break;
     case Kind::Frame:
         m_frame = message.frame;
@@ -65,7 +73,7 @@ void StickerHostView::receive(const Message &message)
         ++m_frameCount;
         update();
         Q_EMIT frameCountChanged();
-        StickerHostClient::instance().send(Message(Kind::Acknowledge, m_id));
+        StickerHostClient::instance().send(HostMessage(Kind::Acknowledge, m_id));
         break;
     case Kind::Result: {
         QJSValue callback = m_pendingScripts.take(message.request);
@@ -141,7 +149,7 @@ void StickerHostView::sendSize()
 {
     if (!m_shown || pixelSize() == m_sentSize || !StickerHostClient::instance().isRunning())
         return;
-    Message message(Kind::Resize, m_id);
+    HostMessage message(Kind::Resize, m_id);
     message.size = pixelSize();
     message.devicePixelRatio = devicePixelRatio();
     m_sentSize = message.size;

@@ -14,8 +14,8 @@ class StickerHostView : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
-    // The page's title, as the page sets it.
-    Q_PROPERTY(QString title READ title NOTIFY titleChanged)
+    // How far the page got, as the host found it (StickerPage::PlayState).
+    Q_PROPERTY(int playState READ playState NOTIFY playStateChanged)
     // How many frames have come; 0 until the first is there.
     Q_PROPERTY(int frameCount READ frameCount NOTIFY frameCountChanged)
 
@@ -28,7 +28,7 @@ public:
     // Runs a script in the page (for inspection); the callback gets its result.
     Q_INVOKABLE void runJavaScript(const QString &script, const QJSValue &callback);
 
-    QString title() const { return m_title; }
+    int playState() const { return m_playState; }
     int frameCount() const { return m_frameCount; }
 
     // From the host, through StickerHostClient.
@@ -36,7 +36,7 @@ public:
     void hostLost();
 
 Q_SIGNALS:
-    void titleChanged();
+    void playStateChanged();
     void frameCountChanged();
     void pageLoaded();
     // The host ended while this view used it: the page plays no more.
@@ -52,6 +52,7 @@ private:
     QSize pixelSize() const;
     double devicePixelRatio() const;
     void sendSize();
+    void setPlayState(int state);
 
     quint32 m_id = 0;
     bool m_shown = false; // the host has a page for this view
@@ -59,7 +60,7 @@ private:
     QImage m_frame;
     bool m_frameChanged = false;
     int m_frameCount = 0;
-    QString m_title;
+    int m_playState = 0; // StickerPage::PlayState::Loading
     quint32 m_nextRequest = 1;
     QHash<quint32, QJSValue> m_pendingScripts;
 };

@@ -2,7 +2,8 @@
 
 #include <QMetaObject>
 
-static_assert(StickerPageController::Playing == int(StickerPage::PlayState::Playing) &&
+static_assert(StickerPageController::Loading == int(StickerPage::PlayState::Loading) &&
+              StickerPageController::Playing == int(StickerPage::PlayState::Playing) &&
               StickerPageController::Unavailable == int(StickerPage::PlayState::Unavailable));
 
 StickerPageController::StickerPageController(QObject *parent)
@@ -50,12 +51,11 @@ void StickerPageController::update()
     Q_EMIT playStateChanged();
 }
 
-void StickerPageController::setPageTitle(const QString &title)
+void StickerPageController::reportPlayState(PlayState state)
 {
-    if (title == m_pageTitle)
+    if (state == m_playState)
         return;
-    m_pageTitle = title;
-    m_playState = static_cast<PlayState>(StickerPage::playStateFromTitle(title));
+    m_playState = state;
     Q_EMIT playStateChanged();
 }
 

@@ -18,8 +18,6 @@ class StickerPageController : public QObject
     Q_PROPERTY(QString page READ page NOTIFY pageChanged)
     Q_PROPERTY(bool hasPage READ hasPage NOTIFY pageChanged)
     Q_PROPERTY(QString key READ key NOTIFY pageChanged)
-    // The title of the page in the web view, written by the view; tells playState.
-    Q_PROPERTY(QString pageTitle READ pageTitle WRITE setPageTitle NOTIFY playStateChanged)
     Q_PROPERTY(PlayState playState READ playState NOTIFY playStateChanged)
 
 public:
@@ -43,8 +41,8 @@ public:
     QString page() const { return m_page; }
     bool hasPage() const { return !m_page.isEmpty(); }
     QString key() const { return m_coordinator.key(); }
-    QString pageTitle() const { return m_pageTitle; }
-    void setPageTitle(const QString &title);
+    // What the web view found of the page it shows.
+    Q_INVOKABLE void reportPlayState(PlayState state);
     // The page cannot play any more (its player went away); a new page starts over.
     Q_INVOKABLE void markUnavailable();
     // Loading again whenever a new page is handed out.
@@ -67,7 +65,6 @@ private:
     QString m_page;
     bool m_updateScheduled = false;
     int m_pagesMade = 0;
-    QString m_pageTitle;
     PlayState m_playState = Loading;
     StickerPage::Coordinator m_coordinator;
 };

@@ -1,5 +1,7 @@
 #include "StickerHostPage.h"
 
+#include "render/StickerPage.h"
+
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickRenderTarget>
@@ -7,11 +9,15 @@
 
 using namespace Qt::StringLiterals;
 using StickerHostProtocol::Kind;
-using StickerHostProtocol::Message;
+using HostMessage = StickerHostProtocol::Message;
 
 namespace {
 
 constexpr int frameIntervalMs = 33;
+// How often, and how many times, a loaded page is asked how far it got: a sticker
+// that has neither played nor failed after that stays loading.
+constexpr int probeIntervalMs = 50;
+constexpr int maximumProbes = 200;
 
 } // namespace
 
@@ -29,9 +35,11 @@ StickerHostPage::StickerHostPage(QQmlComponent &view, QObject *profile)
     m_view->setParent(m_window.get());
     m_view->setParentItem(m_window->contentItem());
     connect(m_view, SIGNAL(pageLoaded(bool)), this, SLOT(onPageLoaded(bool)));
-    connect(m_view, SIGNAL(titleChanged()), this, SLOT(onTitleChanged()));
+    connect(m_view, SIGNAL(probed(QVariant)), this, SLOT(onProbed(QVariant)));
     connect(m_view, SIGNAL(scriptAnswered(int, QVariant)), this, SLOT(onScriptAnswered(int, QVariant)));
 
+    m_probe.setInterval(probeIntervalMs);
+    connect(&m_probe, &QTimer::timeout, this, &StickerHostPage::probe);
     m_pace.setSingleShot(true);
     connect(&m_pace, &QTimer::timeout, this, &StickerHostPage::drawFrame);
     connect(&m_control, &QQuickRenderControl::renderRequested, this, &StickerHostPage::scheduleFrame);
@@ -49,6 +57,7 @@ void StickerHostPage::serve(quint32 id)
 {
     m_id = id;
     m_awaitingAcknowledge = false;
+    stopProbing();
     // Updates asked for while it waited were not drawn, and the window asks only once.
     scheduleFrame();
 }
@@ -57,12 +66,14 @@ void StickerHostPage::release()
 {
     m_id = 0;
     m_pace.stop();
+    stopProbing();
     if (m_view)
         QMetaObject::invokeMethod(m_view, "clear");
 }
 
 void StickerHostPage::show(const QString &page)
 {
+    stopProbing();
     if (m_view)
         QMetaObject::invokeMethod(m_view, "show", Q_ARG(QVariant, page));
 }
@@ -103,19 +114,41 @@ void StickerHostPage::onPageLoaded(bool succeeded)
 {
     if (m_id == 0)
         return;
-    Message message(Kind::Loaded, m_id);
+    HostMessage message(Kind::Loaded, m_id);
     message.succeeded = succeeded;
     Q_EMIT send(message);
-    // A page serving its next view may have kept the title it had.
-    onTitleChanged();
+    if (succeeded) {
+        m_probing = true;
+        m_probesLeft = maximumProbes;
+        probe();
+        m_probe.start();
+    }
 }
 
-void StickerHostPage::onTitleChanged()
+void StickerHostPage::probe()
 {
-    if (m_id == 0)
+    if (--m_probesLeft < 0 || !m_view) {
+        m_probe.stop();
         return;
-    Message message(Kind::Title, m_id);
-    message.text = m_view->property("title").toString();
+    }
+    QMetaObject::invokeMethod(m_view, "probe", Q_ARG(QVariant, StickerPage::playStateProbe()));
+}
+
+void StickerHostPage::stopProbing()
+{
+    m_probe.stop();
+    m_probing = false;
+}
+
+void StickerHostPage::onProbed(const QVariant &answer)
+{
+    const QString state = answer.toString();
+    // An answer may come after the page it asked about was replaced.
+    if (m_id == 0 || state.isEmpty() || !m_probing)
+        return;
+    stopProbing();
+    HostMessage message(Kind::PlayState, m_id);
+    message.text = state;
     Q_EMIT send(message);
 }
 
@@ -123,7 +156,7 @@ void StickerHostPage::onScriptAnswered(int request, const QVariant &result)
 {
     if (m_id == 0)
         return;
-    Message message(Kind::Result, m_id);
+    HostMessage message(Kind::Result, m_id);
     message.request = quint32(request);
     message.result = result;
     Q_EMIT send(message);
@@ -148,7 +181,7 @@ void StickerHostPage::drawFrame()
     m_control.render();
     m_control.endFrame();
     m_awaitingAcknowledge = true;
-    Message message(Kind::Frame, m_id);
+    HostMessage message(Kind::Frame, m_id);
     message.frame = m_image;
     Q_EMIT send(message);
 }

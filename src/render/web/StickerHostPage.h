@@ -44,12 +44,14 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void onPageLoaded(bool succeeded);
-    void onTitleChanged();
+    void onProbed(const QVariant &answer);
     void onScriptAnswered(int request, const QVariant &result);
 
 private:
     void scheduleFrame();
     void drawFrame();
+    void probe();
+    void stopProbing();
 
     quint32 m_id = 0;
     // The image is the window's render target, so it outlives the window.
@@ -58,6 +60,9 @@ private:
     std::unique_ptr<QQuickWindow> m_window;
     QQuickItem *m_view = nullptr;
     QTimer m_pace;
+    QTimer m_probe;
+    int m_probesLeft = 0;
+    bool m_probing = false; // from a page's load until its state is known
     QElapsedTimer m_sinceFrame;
     bool m_awaitingAcknowledge = false;
     bool m_changed = false;

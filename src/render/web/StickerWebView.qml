@@ -11,6 +11,8 @@ WebEngineView {
     signal pageLoaded(bool succeeded)
     // The answer to runScript().
     signal scriptAnswered(int request, var result)
+    // The answer to probe().
+    signal probed(var answer)
 
     function show(page) {
         view.loadHtml(page)
@@ -24,6 +26,14 @@ WebEngineView {
     function runScript(request, script) {
         view.runJavaScript(script, function (result) {
             view.scriptAnswered(request, result)
+        })
+    }
+
+    // Runs a script beside the page's own, in a world of its own: it reads the
+    // page's elements but shares none of its variables.
+    function probe(script) {
+        view.runJavaScript(script, WebEngineScript.ApplicationWorld, function (answer) {
+            view.probed(answer)
         })
     }
 
