@@ -1,7 +1,6 @@
 #include "session/NotificationService.h"
 
 #include "platform/NotificationPoster.h"
-#include "render/SmileyText.h"
 #include "session/NotificationCenter.h"
 
 #include <QUuid>
@@ -29,8 +28,7 @@ void NotificationService::notify(const QString &title, const QString &body, cons
         return;
     const QString identifier =
         u"telegram-message-"_s + chatID + u'-' + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    // Typed smileys show as emoji here as everywhere else a message text is shown.
-    m_poster->show(identifier, title, SmileyText::render(body), chatID);
+    m_poster->show(identifier, title, body, chatID);
 }
 
 void NotificationService::didReceive(const QString &chatID)

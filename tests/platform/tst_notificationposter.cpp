@@ -89,15 +89,15 @@ private Q_SLOTS:
     void clickOpensTheChat()
     {
         startServer();
-        NotificationService::shared().notify(u"Alice"_s, u"See <this> & that"_s, u"-100123"_s);
+        NotificationService::shared().notify(u"Alice"_s, u"See <this> & that :)"_s, u"-100123"_s);
 
         QTRY_COMPARE(m_server->calls.size(), 1);
         const TestNotificationServer::Call call = m_server->calls.constFirst();
         QCOMPARE(call.appName, u"Vost"_s);
         QCOMPARE(call.replacesID, 0u);
         QCOMPARE(call.summary, u"Alice"_s);
-        // The server renders markup, so the text is escaped.
-        QCOMPARE(call.body, u"See &lt;this&gt; &amp; that"_s);
+        // The server renders markup, so the text is escaped; typed smileys show as emoji.
+        QCOMPARE(call.body, u"See &lt;this&gt; &amp; that 🙂"_s);
         QVERIFY(call.actions.size() % 2 == 0);
         QCOMPARE(call.actions.indexOf(u"default"_s) % 2, 0);
         QCOMPARE(call.hints.value(u"desktop-entry"_s), QVariant(u"vost"_s));

@@ -1,5 +1,7 @@
 #include "platform/linux/FreedesktopNotificationPoster.h"
 
+#include "render/SmileyText.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -103,6 +105,8 @@ void FreedesktopNotificationPoster::askForCapabilities()
 void FreedesktopNotificationPoster::send(const Request &request)
 {
     const bool bodyIsMarkup = m_capabilities && m_capabilities->contains(u"body-markup"_s);
+    // Typed smileys show as emoji on the desktop as everywhere else a message text is shown.
+    const QString body = SmileyText::render(request.body);
     const QVariantMap hints{
         {u"desktop-entry"_s, u"vost"_s},
         {u"category"_s, u"im.received"_s},
@@ -110,9 +114,8 @@ void FreedesktopNotificationPoster::send(const Request &request)
         {u"suppress-sound"_s, true},
     };
     QDBusMessage message = methodCall(u"Notify"_s);
-    message << u"Vost"_s << uint(0) << QString() << request.title
-            << (bodyIsMarkup ? request.body.toHtmlEscaped() : request.body) << QStringList{u"default"_s, u"Open"_s}
-            << hints << qint32(-1);
+    message << u"Vost"_s << uint(0) << QString() << request.title << (bodyIsMarkup ? body.toHtmlEscaped() : body)
+            << QStringList{u"default"_s, u"Open"_s} << hints << qint32(-1);
 
     ++m_inFlight;
     auto *watcher = new QDBusPendingCallWatcher(m_connection.asyncCall(message), this);
