@@ -33,4 +33,31 @@ private:
     bool m_failed = false;
 };
 
+// Hands out whole messages of one protocol: each body goes through Decode, and a
+// body it rejects stops the reader for good.
+template<typename Message, std::optional<Message> (*Decode)(const QByteArray &body)> class MessageReader
+{
+public:
+    explicit MessageReader(qsizetype maximumBodySize)
+        : m_frames(maximumBodySize)
+    {}
+
+    void append(const QByteArray &bytes) { m_frames.append(bytes); }
+    // The next whole message, or nothing until more bytes come (or after a failure).
+    std::optional<Message> next()
+    {
+        const std::optional<QByteArray> body = m_frames.next();
+        if (!body)
+            return std::nullopt;
+        std::optional<Message> message = Decode(*body);
+        if (!message)
+            m_frames.fail();
+        return message;
+    }
+    bool failed() const { return m_frames.failed(); }
+
+private:
+    Reader m_frames;
+};
+
 } // namespace MessageFraming

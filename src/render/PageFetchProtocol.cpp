@@ -32,7 +32,7 @@ std::optional<quint32> identifier(const QCborMap &map)
     return quint32(id.toInteger());
 }
 
-std::optional<Message> decode(const QCborMap &map)
+std::optional<Message> decodeMap(const QCborMap &map)
 {
     const std::optional<quint32> id = identifier(map);
     if (!id)
@@ -94,19 +94,13 @@ QByteArray encode(const Answer &answer)
     return framed(map);
 }
 
-std::optional<Message> Reader::next()
+std::optional<Message> decode(const QByteArray &body)
 {
-    const std::optional<QByteArray> body = m_frames.next();
-    if (!body)
-        return std::nullopt;
     QCborParserError error;
-    const QCborValue value = QCborValue::fromCbor(*body, &error);
-    std::optional<Message> message;
-    if (error.error == QCborError::NoError && value.isMap())
-        message = decode(value.toMap());
-    if (!message)
-        m_frames.fail();
-    return message;
+    const QCborValue value = QCborValue::fromCbor(body, &error);
+    if (error.error != QCborError::NoError || !value.isMap())
+        return std::nullopt;
+    return decodeMap(value.toMap());
 }
 
 } // namespace PageFetchProtocol

@@ -54,19 +54,19 @@ bool isWellFormed(const Request &request);
 QByteArray encode(const Request &request);
 QByteArray encode(const Answer &answer);
 
+// The message in a body; none when it is not a CBOR map of a request or an answer
+// with fields of the right types.
+std::optional<Message> decode(const QByteArray &body);
+
 // Collects bytes as they arrive and hands out whole messages. A malformed message
-// (too long, not a CBOR map, or with a field of the wrong type) stops the reader for
-// good: what follows it cannot be trusted either.
-class Reader
+// (too long, or one decode() rejects) stops the reader for good: what follows it
+// cannot be trusted either.
+class Reader : public MessageFraming::MessageReader<Message, &decode>
 {
 public:
-    void append(const QByteArray &bytes) { m_frames.append(bytes); }
-    // The next whole message, or nothing until more bytes come (or after a failure).
-    std::optional<Message> next();
-    bool failed() const { return m_frames.failed(); }
-
-private:
-    MessageFraming::Reader m_frames{maximumMessageSize};
+    Reader()
+        : MessageReader(maximumMessageSize)
+    {}
 };
 
 } // namespace PageFetchProtocol
