@@ -14,12 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-AppStoreConfiguration &configuration()
-{
-    static AppStoreConfiguration value;
-    return value;
-}
-
 std::optional<QString> optionalString(const QJsonObject &object, const QString &key, bool &ok)
 {
     const QJsonValue value = object.value(key);
@@ -132,8 +126,13 @@ HtmlPreviewFields parseHtmlPreviewFields(const QString &html, const QUrl &pageUr
 }
 
 LinkPreviewMetadata::LinkPreviewMetadata(const QUrl &url, QObject *parent)
+    : LinkPreviewMetadata(url, AppStoreConfiguration(), parent)
+{}
+
+LinkPreviewMetadata::LinkPreviewMetadata(const QUrl &url, const AppStoreConfiguration &appStore, QObject *parent)
     : QObject(parent)
     , m_url(url)
+    , m_appStore(appStore)
 {
     const QString host = url.host(QUrl::PrettyDecoded);
     m_title = host.isEmpty() ? url.toString(QUrl::FullyEncoded) : host;
@@ -144,16 +143,6 @@ LinkPreviewMetadata::~LinkPreviewMetadata()
 {
     for (const quint32 fetch : std::as_const(m_fetches))
         PageFetchClient::instance().cancel(fetch);
-}
-
-AppStoreConfiguration LinkPreviewMetadata::appStoreConfiguration()
-{
-    return configuration();
-}
-
-void LinkPreviewMetadata::setAppStoreConfiguration(const AppStoreConfiguration &value)
-{
-    configuration() = value;
 }
 
 void LinkPreviewMetadata::load()
@@ -179,7 +168,7 @@ void LinkPreviewMetadata::load()
 
 void LinkPreviewMetadata::loadAppStoreMetadata(std::function<void(bool)> completion)
 {
-    const AppStoreConfiguration store = configuration();
+    const AppStoreConfiguration &store = m_appStore;
     const QString host = m_url.host();
     if (host.isEmpty() || store.webHost.isEmpty() || !host.endsWith(store.webHost))
         return completion(false);

@@ -62,6 +62,8 @@ class LinkPreviewMetadata : public QObject
 public:
     // Sets the initial values; no I/O.
     explicit LinkPreviewMetadata(const QUrl &url, QObject *parent = nullptr);
+    // The same, with the app store at another place (a server of a test's or a tool's own).
+    LinkPreviewMetadata(const QUrl &url, const AppStoreConfiguration &appStore, QObject *parent = nullptr);
     ~LinkPreviewMetadata() override;
 
     QUrl url() const { return m_url; }
@@ -72,9 +74,6 @@ public:
     bool hasLoaded() const { return m_hasLoaded; }
     bool isLoading() const { return m_isLoading; }
 
-    // Process-wide; tests and tools point them at a server of their own.
-    static AppStoreConfiguration appStoreConfiguration();
-    static void setAppStoreConfiguration(const AppStoreConfiguration &configuration);
     static constexpr int pageTimeoutMilliseconds = 15'000;
     // The usual time-out of a URL loader's default request.
     static constexpr int defaultTimeoutMilliseconds = 60'000;
@@ -112,6 +111,7 @@ private:
     void setSiteName(const QString &siteName);
 
     const QUrl m_url;
+    const AppStoreConfiguration m_appStore;
     QString m_title;
     QString m_siteName;
     QImage m_image;

@@ -67,7 +67,7 @@ private Q_SLOTS:
         m_server.answer("/fake.png", {200, "text/html", png(5, 5)});
     }
 
-    void cleanup() { LinkPreviewMetadata::setAppStoreConfiguration({}); }
+    void cleanup() { m_appStore = {}; }
 
     void attributes()
     {
@@ -208,7 +208,7 @@ private Q_SLOTS:
 
     void appStoreLookup()
     {
-        LinkPreviewMetadata::setAppStoreConfiguration({u"127.0.0.1"_s, m_server.url(u"/lookup?id="_s).toString()});
+        m_appStore = {u"127.0.0.1"_s, m_server.url(u"/lookup?id="_s).toString()};
         m_server.answer(
             "/lookup?id=42",
             {200, "application/json",
@@ -229,7 +229,7 @@ private Q_SLOTS:
 
     void appStoreWithoutResultReadsThePage()
     {
-        LinkPreviewMetadata::setAppStoreConfiguration({u"127.0.0.1"_s, m_server.url(u"/lookup?id="_s).toString()});
+        m_appStore = {u"127.0.0.1"_s, m_server.url(u"/lookup?id="_s).toString()};
         m_server.answer("/lookup?id=7", {200, "application/json", R"({"resultCount":0,"results":[]})"});
         m_server.answer("/app/id7", {200, "text/html", "<title>From the page</title>"});
         auto metadata = load(m_server.url(u"/app/id7"_s));
@@ -312,7 +312,7 @@ private:
 
     std::unique_ptr<LinkPreviewMetadata> load(const QUrl &url)
     {
-        auto metadata = std::make_unique<LinkPreviewMetadata>(url);
+        auto metadata = std::make_unique<LinkPreviewMetadata>(url, m_appStore);
         QSignalSpy finished(metadata.get(), &LinkPreviewMetadata::finished);
         metadata->load();
         [&] { QVERIFY(finished.wait(30'000)); }();
@@ -320,6 +320,8 @@ private:
     }
 
     LoopbackHttpServer m_server;
+    // Where the cards made by load() look up apps; each case starts with the default.
+    AppStoreConfiguration m_appStore;
 };
 
 QTEST_MAIN(LinkPreviewTest)

@@ -42,7 +42,6 @@ void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options)
         store.webHost = options.appStoreHost;
     if (!options.appStoreLookup.isEmpty())
         store.lookupEndpoint = options.appStoreLookup;
-    LinkPreviewMetadata::setAppStoreConfiguration(store);
 
     driver.addCall(u"render.smileys"_s, [&driver](const QJsonArray &args) {
         driver.printResult(SmileyText::render(args.at(0).toString()));
@@ -71,8 +70,8 @@ void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options)
         driver.printResult(StickerPage::key(args.at(0).toString(), *format));
     });
 
-    driver.addCall(u"render.linkPreview"_s, [&driver](const QJsonArray &args) {
-        auto *metadata = new LinkPreviewMetadata(QUrl(args.at(0).toString()), &driver);
+    driver.addCall(u"render.linkPreview"_s, [&driver, store](const QJsonArray &args) {
+        auto *metadata = new LinkPreviewMetadata(QUrl(args.at(0).toString()), store, &driver);
         driver.holdInput();
         QObject::connect(metadata, &LinkPreviewMetadata::finished, &driver, [&driver, metadata] {
             driver.printResult(previewToJson(*metadata));
