@@ -347,6 +347,26 @@ private Q_SLOTS:
         QCOMPARE(asked.size(), 2);
     }
 
+    void aChatIsWaitingUntilItsFirstMessagesAreSet()
+    {
+        // An empty transcript before the first page answered is on its way, not empty.
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s), makeChat(u"2"_s, u"Two"_s)});
+        model.setSelectedChatID(u"1"_s);
+        QVERIFY(!model.messagesArrived());
+        QSignalSpy changes(&model, &ChatViewModel::historyStateChanged);
+        model.setMessages({}, u"1"_s); // a chat without history
+        QVERIFY(model.messagesArrived());
+        QCOMPARE(changes.size(), 1);
+        model.setMessages({makeMessage(u"4"_s)}, u"2"_s);
+        QCOMPARE(changes.size(), 1); // not the selected chat
+        model.setSelectedChatID(u"2"_s);
+        QVERIFY(model.messagesArrived());
+        model.setMessages({}, u"3"_s); // an unknown chat
+        model.setSelectedChatID(u"3"_s);
+        QVERIFY(!model.messagesArrived());
+    }
+
     void upEditsTheNewestOwnTextMessage()
     {
         ChatViewModel model(nullptr);
