@@ -62,11 +62,10 @@ int emojiOnlyCount(QStringView text)
         for (const uint scalar : QStringView(string).sliced(start, end - start).toUcs4())
             scalars.append(char32_t(scalar));
         start = end;
-        const bool continues =
-            !clusters.isEmpty() &&
-            (clusters.last().last() == zeroWidthJoiner ||
-             (clusters.last().size() == 1 && has(clusters.last().first(), UCHAR_REGIONAL_INDICATOR) &&
-              has(scalars.first(), UCHAR_REGIONAL_INDICATOR)));
+        const bool continues = !clusters.isEmpty() && (clusters.last().last() == zeroWidthJoiner ||
+                                                       (clusters.last().size() == 1 &&
+                                                        has(clusters.last().first(), UCHAR_REGIONAL_INDICATOR) &&
+                                                        has(scalars.first(), UCHAR_REGIONAL_INDICATOR)));
         if (continues)
             clusters.last().append(scalars);
         else

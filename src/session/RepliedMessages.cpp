@@ -24,7 +24,8 @@ void TelegramSession::requestRepliedMessages(qint64 chatID, const QList<TdObject
         send(u"getMessage"_s,
              {{"chat_id"_L1, chatID},
               {"message_id"_L1, *id},
-              {"@extra"_L1, TdObject{{"purpose"_L1, u"replied_message"_s}, {"chat_id"_L1, chatID}, {"message_id"_L1, *id}}}});
+              {"@extra"_L1,
+               TdObject{{"purpose"_L1, u"replied_message"_s}, {"chat_id"_L1, chatID}, {"message_id"_L1, *id}}}});
     }
 }
 
