@@ -286,7 +286,7 @@ FocusScope {
 
     TranscriptPlaceholder {
         anchors.centerIn: transcript
-        visible: transcript.count === 0 && conversation.chat !== null
+        visible: transcript.count === 0 && !!conversation.chat
         waiting: !conversation.viewModel.messagesArrived
     }
 
