@@ -383,6 +383,28 @@ private Q_SLOTS:
         QCOMPARE(model.editingMessage()->id, u"1"_s);
         QCOMPARE(model.composerText(), u"text 1"_s);
     }
+
+    void forwardedMessagesAreNotEdited()
+    {
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
+        Message own = makeMessage(u"1"_s);
+        own.isOutgoing = true;
+        Message forwarded = makeMessage(u"2"_s);
+        forwarded.isOutgoing = true;
+        MessageDetails forwardedDetails;
+        forwardedDetails.messageID = u"2"_s;
+        forwardedDetails.isForwarded = true;
+        model.setMessageDetails({forwardedDetails}, u"1"_s);
+        model.setMessages({own, forwarded, makeMessage(u"3"_s)}, u"1"_s);
+        QVERIFY(model.canEdit(u"1"_s));
+        QVERIFY(!model.canEdit(u"2"_s));
+        QVERIFY(!model.canEdit(u"3"_s)); // not one's own
+        QVERIFY(!model.canEdit(u"9"_s)); // not there
+        // Up passes the newest (forwarded) one over.
+        QVERIFY(model.editLastOwnMessage());
+        QCOMPARE(model.editingMessage()->id, u"1"_s);
+    }
 };
 
 QTEST_GUILESS_MAIN(ChatViewModelTest)
