@@ -82,6 +82,7 @@ class FirstPage(VostTestCase):
         vost = self.launch(extra_env={"VOST_DEMO_PAGE_DELAY_MS": "2500"})
         vost.open_popover()
         vost.wait_for_chats()
+        vost.fill(vost.find("text", "Search"), "Running")
         vost.open_chat("Running Club")
         spinner_seen = False
         deadline = time.monotonic() + 15

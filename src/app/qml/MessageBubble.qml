@@ -41,9 +41,8 @@ Item {
     required property real downloadProgress
     required property var albumItems
 
-    // A row the view is between two messages may hold neither for a moment.
+    // A row the view is between two messages may hold no details for a moment.
     readonly property var info: details ?? ({})
-    readonly property var reactionList: reactions ?? []
 
     // Whether sender names and avatars are shown (group chats).
     property bool showsSenders: false
@@ -91,7 +90,7 @@ Item {
             parts.push(qsTr("edited"));
         if (deliveryName !== "")
             parts.push(deliveryName);
-        for (const reaction of reactionList)
+        for (const reaction of (reactions ? reactions : []))
             parts.push(reaction.isChosen ? qsTr("%1 %2, yours").arg(reaction.emoji).arg(reaction.count)
                                          : reaction.emoji + " " + reaction.count);
         return parts.join(", ");
@@ -371,7 +370,7 @@ Item {
             // Placed by x, not by an anchor: a reused row that was outgoing must not
             // keep the old place.
             x: message.isOutgoing ? parent.width - width : 0
-            reactions: message.reactionList
+            reactions: message.reactions
             shown: message.onScreen
             onToggled: emoji => message.reactionToggled(emoji, message.messageID)
         }

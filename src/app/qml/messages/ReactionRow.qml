@@ -13,7 +13,7 @@ Row {
     signal toggled(string emoji)
 
     spacing: 4
-    visible: reactions.length > 0
+    visible: reactions ? reactions.length > 0 : false
 
     Repeater {
         model: row.reactions
