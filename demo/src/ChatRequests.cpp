@@ -209,6 +209,17 @@ bool Client::handleChats(const QString &type, const QJsonObject &request)
         }
         return true;
     }
+    if (type == "getMessage"_L1) {
+        const DemoChat *chat = account.chat(chatID);
+        const qint64 messageID = int64Of(request.value("message_id"_L1));
+        if (!chat)
+            answer(request, error(400, u"Chat not found"_s));
+        else if (const auto found = chat->messages.find(messageID); found == chat->messages.end())
+            answer(request, error(404, u"Not Found"_s));
+        else
+            answer(request, account.messageJson(found->second));
+        return true;
+    }
     if (type == "viewMessages"_L1) {
         DemoChat *chat = account.chat(chatID);
         if (!chat) {

@@ -2,6 +2,7 @@
 
 #include "render/LinkRecognizer.h"
 #include "render/SmileyText.h"
+#include "session/Emoji.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,4 +49,16 @@ QString MessageText::firstLink(const QString &text)
 {
     const std::optional<QUrl> link = firstPreviewableLink(text);
     return link ? link->toString() : QString();
+}
+
+bool MessageText::isLargeEmoji(const QString &text)
+{
+    constexpr int mostShownLarge = 3;
+    const int count = emojiOnlyCount(text);
+    return count > 0 && count <= mostShownLarge;
+}
+
+QString MessageText::emojiGlyphs(const QString &text)
+{
+    return emojiFontText(text);
 }

@@ -21,4 +21,8 @@ public:
     Q_INVOKABLE static QString displayText(const QString &text);
     // The first web address of the text, for its preview card; "" when there is none.
     Q_INVOKABLE static QString firstLink(const QString &text);
+    // Whether the text is one to three emoji and nothing else: shown large.
+    Q_INVOKABLE static bool isLargeEmoji(const QString &text);
+    // Emoji for a Text item in the colour emoji font: sequences stay one glyph.
+    Q_INVOKABLE static QString emojiGlyphs(const QString &text);
 };

@@ -224,6 +224,9 @@ void TelegramSession::resetAccountState()
     m_downloadProgress.clear();
     m_imageDiagnosticEvents.clear();
     m_loadingInitialHistory.clear();
+    m_repliedMessages.clear();
+    m_missingRepliedMessages.clear();
+    m_requestedRepliedMessages.clear();
     m_initialHistoryProgress.clear();
     m_preloadedHistory.clear();
     m_expandedHistory.clear();

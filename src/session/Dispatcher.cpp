@@ -74,6 +74,10 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
         storeUser(object);
         return true;
     }
+    if (purpose == "replied_message"_L1) {
+        storeRepliedMessage(object.value("@extra"_L1).toObject(), type, object);
+        return true;
+    }
     if ((purpose == "initial_history"_L1 || purpose == "initial_local_history"_L1 || purpose == "older_history"_L1) &&
         type == "messages"_L1) {
         storeMessages(object.value("messages"_L1).toArray(), object.value("@extra"_L1).toObject());

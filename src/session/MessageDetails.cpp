@@ -202,6 +202,8 @@ void readReply(MessageDetails &details, const TdObject &message, const MessageDe
         details.replyToSender = originName(reply.value("origin"_L1).toObject(), context);
         if (reply.value("content"_L1).isObject())
             details.replyToText = messageText(reply.value("content"_L1).toObject());
+        else if (context.missingMessage && context.missingMessage(*id))
+            details.replyToMissing = true;
     }
     if (!quote.isEmpty())
         details.replyToText = quote;
@@ -230,6 +232,7 @@ MessageDetails messageDetails(const TdObject &message, const MessageDetailsConte
     }
     readMedia(details, content);
     readCard(details, content);
+    details.isForwarded = message.value("forward_info"_L1).isObject();
     details.forwardedFrom = originName(message.value("forward_info"_L1).toObject().value("origin"_L1).toObject(), context);
     readReply(details, message, context);
     return details;

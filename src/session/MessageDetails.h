@@ -66,14 +66,18 @@ struct MessageDetails {
     // and cards without one show none: their preview texts belong to the chat list
     // and to notifications.
     QString text;
-    // Who the message was forwarded from; empty when it was not.
+    // Who the message was forwarded from; empty when it was not (or is unknown).
     QString forwardedFrom;
+    // Forwarded messages are never edited.
+    bool isForwarded = false;
     // The message it answers, its sender and a line of it; empty when it is no reply.
     QString replyToMessageID;
     // Empty when the answered message is the user's own (replyToIsOutgoing).
     QString replyToSender;
     bool replyToIsOutgoing = false;
     QString replyToText;
+    // TDLib answered that the answered message is gone.
+    bool replyToMissing = false;
 
     // The media's or document's file.
     qint64 fileID = 0;
@@ -122,6 +126,8 @@ struct MessageDetailsContext {
     std::function<QString(qint64 chatID)> chatTitle;
     // A stored message of the same chat, or null.
     std::function<const TdObject *(qint64 messageID)> storedMessage;
+    // Whether TDLib said that a message of the same chat does not exist.
+    std::function<bool(qint64 messageID)> missingMessage;
 };
 
 MessageDetails messageDetails(const TdObject &message, const MessageDetailsContext &context = {});

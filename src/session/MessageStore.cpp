@@ -57,14 +57,24 @@ void TelegramSession::publishMessages(const QString &chatID)
         const auto user = m_telegramUsers.constFind(userID);
         return user == m_telegramUsers.cend() ? QString() : user->name;
     };
-    const MessageDetailsContext context{userName, chatTitle,
-                                        [&byID](qint64 messageID) { return byID.value(messageID); }};
+    const QHash<qint64, TdObject> &replied = m_repliedMessages[chatID];
+    const QSet<qint64> &missing = m_missingRepliedMessages[chatID];
+    const auto lookUp = [&byID, &replied](qint64 messageID) -> const TdObject * {
+        if (const TdObject *held = byID.value(messageID))
+            return held;
+        const auto found = replied.constFind(messageID);
+        return found == replied.cend() ? nullptr : &*found;
+    };
+    const MessageDetailsContext context{userName, chatTitle, lookUp,
+                                        [&missing](qint64 messageID) { return missing.contains(messageID); }};
     for (const TdObject &raw : std::as_const(messages)) {
         if (std::optional<Message> message = makeMessage(raw)) {
             published.append(std::move(*message));
             details.append(messageDetails(raw, context));
         }
     }
+    if (const std::optional<qint64> chat = parseInt64(chatID))
+        requestRepliedMessages(*chat, messages, byID);
     m_messagesByChat.insert(chatID, published);
     m_messageDetailsByChat.insert(chatID, details);
     Q_EMIT messagesChanged(chatID);

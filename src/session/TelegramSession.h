@@ -235,6 +235,10 @@ private:
     void removeMessage(qint64 messageID, std::optional<qint64> chatID);
     void updateMessageField(const TdObject &update, const QString &field, const QJsonValue &value);
     void publishMessages(const QString &chatID);
+    // Answered messages of the chat that its history does not hold, asked for once each.
+    void requestRepliedMessages(qint64 chatID, const QList<TdObject> &messages,
+                                const QHash<qint64, const TdObject *> &held);
+    void storeRepliedMessage(const TdObject &extra, const QString &type, const TdObject &answer);
     std::optional<Message> makeMessage(const TdObject &message);
     void handleNewMessage(const TdObject &message);
     void handleReadInbox(const TdObject &update);
@@ -405,6 +409,10 @@ private:
     QHash<QString, qint64> m_lastReadOutbox;
     QHash<QString, qint64> m_lastViewedMessage;
     QSet<QString> m_loadingInitialHistory;
+    // Answered messages outside the loaded history, by chat: found, or gone.
+    QHash<QString, QHash<qint64, TdObject>> m_repliedMessages;
+    QHash<QString, QSet<qint64>> m_missingRepliedMessages;
+    QHash<QString, QSet<qint64>> m_requestedRepliedMessages;
     QHash<QString, InitialHistoryProgress> m_initialHistoryProgress;
     QSet<QString> m_loadingOlderHistory;
     QSet<QString> m_exhaustedHistory;

@@ -347,6 +347,26 @@ private Q_SLOTS:
         QCOMPARE(asked.size(), 2);
     }
 
+    void aChatIsWaitingUntilItsFirstMessagesAreSet()
+    {
+        // An empty transcript before the first page answered is on its way, not empty.
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s), makeChat(u"2"_s, u"Two"_s)});
+        model.setSelectedChatID(u"1"_s);
+        QVERIFY(!model.messagesArrived());
+        QSignalSpy changes(&model, &ChatViewModel::historyStateChanged);
+        model.setMessages({}, u"1"_s); // a chat without history
+        QVERIFY(model.messagesArrived());
+        QCOMPARE(changes.size(), 1);
+        model.setMessages({makeMessage(u"4"_s)}, u"2"_s);
+        QCOMPARE(changes.size(), 1); // not the selected chat
+        model.setSelectedChatID(u"2"_s);
+        QVERIFY(model.messagesArrived());
+        model.setMessages({}, u"3"_s); // an unknown chat
+        model.setSelectedChatID(u"3"_s);
+        QVERIFY(!model.messagesArrived());
+    }
+
     void upEditsTheNewestOwnTextMessage()
     {
         ChatViewModel model(nullptr);
@@ -362,6 +382,28 @@ private Q_SLOTS:
         QVERIFY(model.editLastOwnMessage());
         QCOMPARE(model.editingMessage()->id, u"1"_s);
         QCOMPARE(model.composerText(), u"text 1"_s);
+    }
+
+    void forwardedMessagesAreNotEdited()
+    {
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
+        Message own = makeMessage(u"1"_s);
+        own.isOutgoing = true;
+        Message forwarded = makeMessage(u"2"_s);
+        forwarded.isOutgoing = true;
+        MessageDetails forwardedDetails;
+        forwardedDetails.messageID = u"2"_s;
+        forwardedDetails.isForwarded = true;
+        model.setMessageDetails({forwardedDetails}, u"1"_s);
+        model.setMessages({own, forwarded, makeMessage(u"3"_s)}, u"1"_s);
+        QVERIFY(model.canEdit(u"1"_s));
+        QVERIFY(!model.canEdit(u"2"_s));
+        QVERIFY(!model.canEdit(u"3"_s)); // not one's own
+        QVERIFY(!model.canEdit(u"9"_s)); // not there
+        // Up passes the newest (forwarded) one over.
+        QVERIFY(model.editLastOwnMessage());
+        QCOMPARE(model.editingMessage()->id, u"1"_s);
     }
 };
 

@@ -32,6 +32,8 @@ BUILD_DIR = os.environ.get("VOST_BUILD_DIR", os.path.abspath(os.path.join(os.pat
 VOST = os.environ.get("VOST_BINARY", os.path.join(BUILD_DIR, "bin", "vost"))
 FAILURES_DIR = os.path.join(BUILD_DIR, "ui-failures")
 TEMPLATE_DIR = os.path.join(BUILD_DIR, "ui-template")
+# What QML prints for a fault in a binding or a script: every case fails on it.
+SCRIPT_ERROR = re.compile(r"\b(TypeError|ReferenceError)\b|Binding loop detected")
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 XFCONFD = "/usr/lib/x86_64-linux-gnu/xfce4/xfconf/xfconfd"
 
@@ -403,6 +405,7 @@ class Vost:
         self.args = list(args)
         self.process = None
         self._app = None
+        self.log_start = 0
 
     @property
     def settings_path(self):
@@ -416,6 +419,7 @@ class Vost:
                 file.write(f"{key}={value}\n")
 
     def start(self):
+        self.log_start = os.path.getsize(self.log_path) if os.path.exists(self.log_path) else 0
         with open(self.log_path, "ab") as log:
             self.process = subprocess.Popen([self.binary, *self.args], env=self.env, stdout=log,
                                             stderr=subprocess.STDOUT)
@@ -656,6 +660,13 @@ class Vost:
         with open(self.log_path, errors="replace") as file:
             return file.read()
 
+    def script_errors(self):
+        """The QML errors and binding loops this run printed: a fault in every case."""
+        with open(self.log_path, "rb") as file:
+            file.seek(self.log_start)
+            lines = file.read().decode(errors="replace").splitlines()
+        return [line for line in lines if SCRIPT_ERROR.search(line)]
+
 
 def signed_in_template():
     """A signed-in demo account's data folder, made once per build tree (in a
@@ -731,7 +742,12 @@ class VostTestCase(unittest.TestCase):
             self.desktop.screenshot(path)
             sys.stderr.write(f"\nscreenshot: {path}\n--- vost's output\n{vost.output()}\n")
             sys.stderr.write("--- what vost shows\n" + vost.describe() + "\n")
+            vost.quit()
+            return
         vost.quit()
+        errors = vost.script_errors()
+        if errors:
+            self.fail("vost printed script errors:\n" + "\n".join(errors))
 
     def open_signed_in(self):
         vost = self.launch()

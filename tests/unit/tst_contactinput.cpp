@@ -1,5 +1,5 @@
 // What users type to reach people: phone numbers, usernames, and sticker queries
-// that are searched as emoji.
+// that are searched as emoji; and messages made of emoji alone.
 
 #include "session/ContactInput.h"
 #include "session/Emoji.h"
@@ -69,6 +69,42 @@ private Q_SLOTS:
         QVERIFY(!containsEmoji(u"cat"_s));
         QVERIFY(!containsEmoji(u"кот"_s));
         QVERIFY(!containsEmoji(QString()));
+    }
+
+    void emojiOnlyTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("count");
+        QTest::newRow("one") << u"😀"_s << 1;
+        QTest::newRow("three with spaces") << u" 😀 🐱🎉 "_s << 3;
+        QTest::newRow("family joined") << u"👩‍👩‍👧‍👦"_s << 1;
+        QTest::newRow("heart on fire") << u"❤️‍🔥"_s << 1;
+        QTest::newRow("couple with skin tones") << u"🧑🏻‍❤️‍🧑🏿"_s << 1;
+        QTest::newRow("flags") << u"🇫🇷🇯🇵"_s << 2;
+        QTest::newRow("skin tone") << u"👍🏽"_s << 1;
+        QTest::newRow("heart with the selector") << u"❤️"_s << 1;
+        QTest::newRow("keycap") << u"1️⃣"_s << 1;
+        QTest::newRow("four") << u"😀😀😀😀"_s << 4;
+        QTest::newRow("heart without the selector") << u"❤"_s << 0;
+        QTest::newRow("digits") << u"123"_s << 0;
+        QTest::newRow("copyright sign") << u"©"_s << 0;
+        QTest::newRow("with a word") << u"😀 ok"_s << 0;
+        QTest::newRow("a lone regional indicator") << u"🇫"_s << 0;
+        QTest::newRow("a lone skin tone and text") << u"a🏽"_s << 0;
+        QTest::newRow("spaces") << u"  "_s << 0;
+        QTest::newRow("empty") << QString() << 0;
+    }
+    void emojiOnlyTexts()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, count);
+        QCOMPARE(emojiOnlyCount(text), count);
+    }
+
+    void emojiFontTextKeepsSequencesWhole()
+    {
+        QCOMPARE(emojiFontText(u"❤️‍🔥 ok ❤️"_s), u"❤‍🔥 ok ❤"_s);
+        QCOMPARE(emojiFontText(u"🇫🇷👍🏽"_s), u"🇫🇷👍🏽"_s);
     }
 };
 

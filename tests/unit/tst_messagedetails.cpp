@@ -139,11 +139,24 @@ private Q_SLOTS:
             "content":{"@type":"messageText","text":{"text":"Old news"}}}})", context);
         QCOMPARE(distant.replyToSender, u"Someone"_s);
         QCOMPARE(distant.replyToText, u"Old news"_s);
+        QVERIFY(!distant.replyToMissing);
+
+        // One TDLib said is gone is known as such; one still asked for is not yet.
+        context.missingMessage = [](qint64 id) { return id == 12; };
+        const MessageDetails gone =
+            read(R"({"reply_to":{"@type":"messageReplyToMessage","chat_id":1,"message_id":12}})", context);
+        QVERIFY(gone.replyToMissing);
+        QVERIFY(gone.replyToText.isEmpty());
+        const MessageDetails pending =
+            read(R"({"reply_to":{"@type":"messageReplyToMessage","chat_id":1,"message_id":13}})", context);
+        QVERIFY(!pending.replyToMissing);
 
         const MessageDetails forwarded = read(R"({"forward_info":{"@type":"messageForwardInfo","date":1,
             "origin":{"@type":"messageOriginChannel","chat_id":-100,"message_id":1,"author_signature":"Ann"}}})",
                                               context);
         QCOMPARE(forwarded.forwardedFrom, u"News (Ann)"_s);
+        QVERIFY(forwarded.isForwarded);
+        QVERIFY(!answer.isForwarded);
         QVERIFY(!forwarded.isEdited);
         QVERIFY(forwarded.replyToMessageID.isEmpty());
     }

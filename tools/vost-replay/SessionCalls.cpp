@@ -61,6 +61,25 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session)
             byChat.insert(it.key(), toJsonArray(it.value()));
         return QJsonValue(byChat);
     });
+    // What each reply's quote says of the message it answers.
+    driver.addState(u"replies"_s, [&session] {
+        QJsonObject byChat;
+        const auto &details = session.messageDetailsByChat();
+        for (auto it = details.begin(); it != details.end(); ++it) {
+            QJsonArray replies;
+            for (const MessageDetails &message : it.value()) {
+                if (message.replyToMessageID.isEmpty())
+                    continue;
+                replies.append(QJsonObject{{"id"_L1, message.messageID},
+                                           {"replyTo"_L1, message.replyToMessageID},
+                                           {"sender"_L1, message.replyToSender},
+                                           {"text"_L1, message.replyToText},
+                                           {"missing"_L1, message.replyToMissing}});
+            }
+            byChat.insert(it.key(), replies);
+        }
+        return QJsonValue(byChat);
+    });
     driver.addState(u"currentAccountPhoneNumber"_s,
                     [&session] { return QJsonValue(session.currentAccountPhoneNumber()); });
 }

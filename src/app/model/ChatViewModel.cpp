@@ -344,6 +344,16 @@ void ChatViewModel::setMessages(const QList<Message> &messages, const QString &c
         }
     }
     replaceMessages(*row, messages);
+    if (!m_chatsWithMessages.contains(chatID)) {
+        m_chatsWithMessages.insert(chatID);
+        if (chatID == selectedChatIDText())
+            Q_EMIT historyStateChanged();
+    }
+}
+
+bool ChatViewModel::messagesArrived() const
+{
+    return m_chatsWithMessages.contains(selectedChatIDText());
 }
 
 void ChatViewModel::sendMessage()
@@ -557,14 +567,25 @@ void ChatViewModel::loadOlderMessages()
     Q_EMIT historyStateChanged();
 }
 
+bool ChatViewModel::canEdit(const QString &messageID) const
+{
+    const std::optional<Message> message = selectedChatMessage(messageID);
+    // Only text can be edited: a message with media or a file is passed over.
+    if (!message || !message->isOutgoing || message->mediaKind || message->documentName || message->text.isEmpty())
+        return false;
+    const QList<MessageDetails> &details = messageDetails(*m_selectedChatID);
+    return std::none_of(details.cbegin(), details.cend(), [&messageID](const MessageDetails &held) {
+        return held.messageID == messageID && held.isForwarded;
+    });
+}
+
 bool ChatViewModel::editLastOwnMessage()
 {
     const Chat *found = m_selectedChatID ? chat(*m_selectedChatID) : nullptr;
     if (!found)
         return false;
     for (auto message = found->messages.crbegin(); message != found->messages.crend(); ++message) {
-        // Only text can be edited: a message with media or a file is passed over.
-        if (message->isOutgoing && !message->mediaKind && !message->documentName && !message->text.isEmpty()) {
+        if (message->isOutgoing && canEdit(message->id)) {
             edit(message->id);
             return true;
         }

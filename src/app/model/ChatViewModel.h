@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
@@ -53,6 +54,9 @@ class ChatViewModel : public QObject
     // The selected chat's history: an older page on its way, or its start reached.
     Q_PROPERTY(bool loadingOlderMessages READ loadingOlderMessages NOTIFY historyStateChanged)
     Q_PROPERTY(bool historyStartReached READ historyStartReached NOTIFY historyStateChanged)
+    // Whether the selected chat's first page has answered: until then an empty
+    // transcript is waiting, not empty.
+    Q_PROPERTY(bool messagesArrived READ messagesArrived NOTIFY historyStateChanged)
 
 public:
     explicit ChatViewModel(std::unique_ptr<TelegramService> service, QObject *parent = nullptr);
@@ -143,6 +147,7 @@ public:
     // The session found the start, or the last page asked for brought nothing
     // older (TDLib may answer the first message again instead of nothing).
     bool historyStartReached() const;
+    bool messagesArrived() const;
     Q_INVOKABLE void sendMessage();
     void toggleReaction(const QString &emoji, const Message &message);
     void queueSticker(const StickerChoice &sticker);
@@ -153,6 +158,8 @@ public:
     Q_INVOKABLE void selectChat(const QString &chatID);
     Q_INVOKABLE void toggleReactionOnMessage(const QString &emoji, const QString &messageID);
     Q_INVOKABLE void replyTo(const QString &messageID);
+    // Only one's own text messages are edited, and never forwarded ones.
+    Q_INVOKABLE bool canEdit(const QString &messageID) const;
     Q_INVOKABLE void edit(const QString &messageID);
     Q_INVOKABLE void cancelReplyAndEdit();
     // Queues files (paths or file URLs): pictures as photos, the rest as
@@ -246,6 +253,7 @@ private:
         bool exhausted = false;
     };
     QHash<QString, HistoryState> m_historyStates;
+    QSet<QString> m_chatsWithMessages; // the chats whose messages were set at least once
     QHash<QString, QString> m_olderRequestedFrom; // chat id -> the oldest message id last asked from
     QVariantList m_refusedFiles;
     QHash<qint64, double> m_downloadProgress;

@@ -120,6 +120,7 @@ QVariantMap MessageListModel::detailsItem(const MessageDetails &details)
             {u"replyToSender"_s, details.replyToSender},
             {u"replyToIsOutgoing"_s, details.replyToIsOutgoing},
             {u"replyToText"_s, details.replyToText},
+            {u"replyToMissing"_s, details.replyToMissing},
             {u"fileID"_s, QString::number(details.fileID)},
             {u"fileSize"_s, details.fileSize},
             {u"fileName"_s, details.fileName},

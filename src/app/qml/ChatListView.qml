@@ -40,7 +40,20 @@ FocusScope {
         text: sidebar.viewModel.searchText
         activeFocusOnTab: true
         onTextEdited: sidebar.viewModel.searchText = text
-        Keys.onDownPressed: list.forceActiveFocus()
+        // Down goes to the results with the first of them selected (unless the
+        // selected chat is among them); Return opens what is selected there.
+        Keys.onDownPressed: {
+            list.selectShownChat();
+            list.forceActiveFocus();
+        }
+        Keys.onReturnPressed: {
+            if (list.selectShownChat())
+                sidebar.chatChosen();
+        }
+        Keys.onEnterPressed: {
+            if (list.selectShownChat())
+                sidebar.chatChosen();
+        }
     }
 
     ListView {
@@ -107,6 +120,18 @@ FocusScope {
                 sidebar.viewModel.selectChat(chatID);
                 list.forceActiveFocus();
             }
+        }
+
+        // The selected chat when the list shows it, else the first shown one;
+        // false when the list shows none.
+        function selectShownChat() {
+            if (count === 0)
+                return false;
+            if (archiveFilter.rowOf(sidebar.viewModel.selectedChatID) < 0) {
+                sidebar.viewModel.selectChat(archiveFilter.idAt(0));
+                positionViewAtIndex(0, ListView.Contain);
+            }
+            return true;
         }
 
         // Rows move as chats get messages: the selection's row is looked up now.

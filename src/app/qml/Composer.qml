@@ -19,6 +19,8 @@ FocusScope {
     readonly property bool hasBanner: replyTo !== null || editing !== null
 
     signal sent
+    // End in an empty field: the reader wants the newest message.
+    signal newestRequested
 
     implicitHeight: column.implicitHeight + 16
     Accessible.role: Accessible.Pane
@@ -170,6 +172,11 @@ FocusScope {
                             field.cursorPosition = field.length;
                     }
                     Keys.onPressed: event => {
+                        if (event.key === Qt.Key_End && event.modifiers === Qt.NoModifier && field.text === "") {
+                            composer.newestRequested();
+                            event.accepted = true;
+                            return;
+                        }
                         // A picture on the clipboard is attached; text is pasted as usual.
                         if (event.matches(StandardKey.Paste) && Clipboard.hasImage()) {
                             const path = Clipboard.saveImage();

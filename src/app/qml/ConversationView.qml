@@ -138,7 +138,7 @@ FocusScope {
                 Qt.callLater(showTop);
                 event.accepted = true;
             } else if (event.key === Qt.Key_End) {
-                positionViewAtBeginning();
+                showNewest();
                 event.accepted = true;
             } else if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)
                        || event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
@@ -149,6 +149,14 @@ FocusScope {
             }
         }
         onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+
+        // The newest message, at the bottom, as the current one for the keys.
+        function showNewest() {
+            positionViewAtBeginning();
+            atNewest = true;
+            if (count > 0)
+                currentIndex = 0;
+        }
 
         // The very top, once the items there are laid out with their real heights.
         function showTop() {
@@ -161,7 +169,7 @@ FocusScope {
             showsSenders: !isOutgoing && senderName !== "" && senderName !== conversation.chatTitle
             isCurrent: ListView.isCurrentItem && transcript.activeFocus
             playback: audio
-            onMenuRequested: (anchor, x, y) => menu.openFor(messageID, isOutgoing && kind === MessageContent.Text,
+            onMenuRequested: (anchor, x, y) => menu.openFor(messageID, kind === MessageContent.Text && conversation.viewModel.canEdit(messageID),
                                                             bodyText, reactions, anchor, x, y)
             onMediaOpened: id => viewer.instance().show(conversation.messageList.media(), id)
             onReplyActivated: id => transcript.showMessage(id)
@@ -251,6 +259,8 @@ FocusScope {
                 // at the bottom comes into view.
                 if (first === 0 && transcript.atNewest)
                     Qt.callLater(transcript.positionViewAtBeginning);
+                else if (first === 0)
+                    toNewest.unseen += last - first + 1;
             }
         }
 
@@ -274,51 +284,36 @@ FocusScope {
         border.color: Qt.rgba(Appearance.accent.r, Appearance.accent.g, Appearance.accent.b, 0.5)
     }
 
-    ReadableText {
+    TranscriptPlaceholder {
         anchors.centerIn: transcript
-        visible: transcript.count === 0
-        text: qsTr("No messages here yet.")
+        visible: transcript.count === 0 && !!conversation.chat
+        waiting: !conversation.viewModel.messagesArrived
+    }
+
+    NewestButton {
+        id: toNewest
+
+        anchors {
+            right: transcript.right
+            rightMargin: 16
+            bottom: transcript.bottom
+            bottomMargin: 12
+        }
+        visible: !transcript.atNewest && transcript.count > 0
+        onClicked: transcript.showNewest()
     }
 
     AudioPlayback {
         id: audio
     }
 
-    // The day of the message at the top while the transcript moves.
-    Rectangle {
-        id: stickyDay
-
-        readonly property var topItem: transcript.itemAt(transcript.width / 2, transcript.contentY + 4)
-        readonly property string label: topItem ? Formats.dayLabel(topItem.date) : ""
-
+    StickyDay {
         anchors {
+            left: transcript.left
+            right: transcript.right
             top: transcript.top
-            topMargin: 6
-            horizontalCenter: transcript.horizontalCenter
         }
-        width: stickyText.implicitWidth + 20
-        height: 22
-        radius: 11
-        color: Appearance.neutralBubble
-        border.width: 1
-        border.color: Appearance.separator
-        opacity: transcript.moving && label !== "" ? 1 : 0
-        visible: opacity > 0
-
-        Behavior on opacity {
-            NumberAnimation {
-                duration: 150
-            }
-        }
-
-        Text {
-            id: stickyText
-
-            anchors.centerIn: parent
-            text: stickyDay.label
-            color: Appearance.secondaryText
-            font.pixelSize: 12
-        }
+        view: transcript
     }
 
     OnDemand {
@@ -417,5 +412,6 @@ FocusScope {
         focus: true
         // A message sent here always comes into view.
         onSent: Qt.callLater(transcript.positionViewAtBeginning)
+        onNewestRequested: transcript.showNewest()
     }
 }

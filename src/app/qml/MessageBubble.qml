@@ -41,6 +41,9 @@ Item {
     required property real downloadProgress
     required property var albumItems
 
+    // A row the view is between two messages may hold no details for a moment.
+    readonly property var info: details ?? ({})
+
     // Whether sender names and avatars are shown (group chats).
     property bool showsSenders: false
     property real paneWidth: width
@@ -53,7 +56,9 @@ Item {
     signal replyActivated(string messageID)
     signal contactMessageRequested(string userID)
 
-    readonly property bool bare: kind === MessageContent.Sticker || kind === MessageContent.Dice
+    // One to three emoji alone are shown large, without a bubble, as stickers are.
+    readonly property bool largeEmoji: kind === MessageContent.Text && MessageText.isLargeEmoji(bodyText)
+    readonly property bool bare: kind === MessageContent.Sticker || kind === MessageContent.Dice || largeEmoji
     readonly property bool withSender: showsSenders && !isOutgoing
     readonly property color foreground: isOutgoing && !bare ? Appearance.accentText : Appearance.text
     readonly property string link: kind === MessageContent.Text ? MessageText.firstLink(bodyText) : ""
@@ -81,11 +86,11 @@ Item {
         const held = content.item ? content.item.Accessible.name : null;
         const said = [held, MessageText.displayText(bodyText)].filter(part => part).join(", ");
         const parts = [(isOutgoing ? qsTr("You") : senderName) + ": " + (said !== "" ? said : text), timestamp];
-        if (details.isEdited)
+        if (info.isEdited)
             parts.push(qsTr("edited"));
         if (deliveryName !== "")
             parts.push(deliveryName);
-        for (const reaction of reactions)
+        for (const reaction of (reactions ? reactions : []))
             parts.push(reaction.isChosen ? qsTr("%1 %2, yours").arg(reaction.emoji).arg(reaction.count)
                                          : reaction.emoji + " " + reaction.count);
         return parts.join(", ");
@@ -173,20 +178,26 @@ Item {
         tint: message.senderColor
     }
 
+    // Beside the bubble, inside the row on either side: never cut at the edge.
     IconButton {
         id: more
 
-        anchors {
-            verticalCenter: column.verticalCenter
-            left: message.isOutgoing ? undefined : column.right
-            right: message.isOutgoing ? column.left : undefined
-            margins: 4
-        }
-        visible: hover.hovered || message.isCurrent
+        x: message.isOutgoing ? Math.max(0, column.x - width - 4)
+                              : Math.min(message.width - width, column.x + column.width + 4)
+        y: column.y + (column.height - height) / 2
+        visible: (hover.hovered && !message.pooled) || message.isCurrent || activeFocus
         symbol: "ellipsis"
+        tint: Appearance.text
         Accessible.name: qsTr("More")
         Accessible.ignored: !visible || !message.onScreen
         onClicked: message.openMenu()
+
+        background: Rectangle {
+            radius: width / 2
+            color: more.down ? Appearance.separator : Appearance.neutralBubble
+            border.width: more.visualFocus ? 2 : 1
+            border.color: more.visualFocus ? Appearance.accent : Appearance.separator
+        }
     }
 
     Column {
@@ -245,9 +256,9 @@ Item {
                 Text {
                     id: forwarded
 
-                    visible: message.details.forwardedFrom !== ""
+                    visible: (message.info.forwardedFrom ?? "") !== ""
                     width: Math.min(implicitWidth, bubble.innerWidth)
-                    text: qsTr("Forwarded from %1").arg(message.details.forwardedFrom)
+                    text: qsTr("Forwarded from %1").arg(message.info.forwardedFrom ?? "")
                     elide: Text.ElideRight
                     color: message.isOutgoing && !message.bare ? Qt.rgba(1, 1, 1, 0.85) : Appearance.accent
                     font.pixelSize: 12
@@ -257,9 +268,9 @@ Item {
                 ReplyQuote {
                     id: reply
 
-                    visible: message.details.replyToMessageID !== ""
+                    visible: (message.info.replyToMessageID ?? "") !== ""
                     width: Math.min(implicitWidth, bubble.innerWidth)
-                    details: message.details
+                    details: message.info
                     outgoing: message.isOutgoing && !message.bare
                     shown: visible && message.onScreen
                     onActivated: id => message.replyActivated(id)
@@ -269,7 +280,7 @@ Item {
                     id: content
 
                     kind: message.kind
-                    details: message.details
+                    details: message.info
                     messageID: message.messageID
                     // A document's file, or a picture's sent as a file, is its document.
                     mediaPath: message.mediaPath !== "" ? message.mediaPath : message.documentPath
@@ -290,11 +301,13 @@ Item {
 
                     visible: message.bodyText !== ""
                     width: Math.min(implicitWidth, bubble.innerWidth)
-                    text: MessageText.richText(message.bodyText, message.isOutgoing ? "#FFFFFF" : Appearance.accent.toString())
+                    text: message.largeEmoji ? MessageText.emojiGlyphs(message.bodyText)
+                                             : MessageText.richText(message.bodyText, message.isOutgoing ? "#FFFFFF" : Appearance.accent.toString())
                     textFormat: Text.RichText
                     wrapMode: Text.Wrap
                     color: message.foreground
-                    font.pixelSize: 14
+                    font.pixelSize: message.largeEmoji ? 40 : 14
+                    font.family: message.largeEmoji ? Appearance.emojiFontFamily : Qt.application.font.family
                     onLinkActivated: link => Qt.openUrlExternally(link)
                     Accessible.role: Accessible.Paragraph
                     Accessible.name: MessageText.displayText(message.bodyText)
@@ -326,66 +339,40 @@ Item {
                 Text {
                     id: meta
 
-                    anchors.right: parent.right
-                    text: (message.details.isEdited ? qsTr("edited") + "  " : "") + message.timestamp
+                    // A sticker's or a die's time sits at its bottom right, on a pill of
+                    // its own; in a bubble, at the bubble's right.
+                    x: message.bare && content.item ? Math.max(0, content.item.width - width - 4) : inner.width - width - (message.bare ? 4 : 0)
+                    text: (message.info.isEdited ? qsTr("edited") + "  " : "") + message.timestamp
                           + (message.ticks !== "" ? "  " + message.ticks : "")
                     color: message.isOutgoing && !message.bare ? Qt.rgba(1, 1, 1, 0.75) : Appearance.secondaryText
                     font.pixelSize: 12
+
+                    Rectangle {
+                        anchors {
+                            fill: parent
+                            leftMargin: -6
+                            rightMargin: -6
+                            topMargin: -1
+                            bottomMargin: -1
+                        }
+                        z: -1
+                        visible: message.bare
+                        radius: height / 2
+                        color: Appearance.neutralBubble
+                    }
                 }
             }
         }
 
-        Row {
+        ReactionRow {
             id: reactionRow
 
-            anchors.right: message.isOutgoing ? parent.right : undefined
-            spacing: 4
-            visible: message.reactions.length > 0
-
-            Repeater {
-                model: message.reactions
-
-                delegate: Rectangle {
-                    id: chip
-
-                    required property var modelData
-
-                    width: Math.max(28, chipText.implicitWidth + 14)
-                    height: 28
-                    radius: 14
-                    color: modelData.isChosen ? Appearance.accent : Appearance.neutralBubble
-                    border.width: 1
-                    border.color: Appearance.separator
-                    Accessible.role: Accessible.Button
-                    Accessible.name: modelData.emoji + " " + modelData.count
-                    Accessible.checkable: true
-                    Accessible.checked: modelData.isChosen
-                    Accessible.ignored: !message.onScreen
-                    Accessible.onPressAction: message.reactionToggled(modelData.emoji, message.messageID)
-
-                    Row {
-                        id: chipText
-
-                        anchors.centerIn: parent
-                        spacing: 4
-
-                        Text {
-                            text: chip.modelData.emoji
-                            font.pixelSize: 13
-                            font.family: Appearance.emojiFontFamily
-                        }
-                        Text {
-                            text: chip.modelData.count
-                            color: chip.modelData.isChosen ? Appearance.accentText : Appearance.text
-                            font.pixelSize: 12
-                        }
-                    }
-
-                    TapHandler {
-                        onTapped: message.reactionToggled(chip.modelData.emoji, message.messageID)
-                    }
-                }
-            }
+            // Placed by x, not by an anchor: a reused row that was outgoing must not
+            // keep the old place.
+            x: message.isOutgoing ? parent.width - width : 0
+            reactions: message.reactions
+            shown: message.onScreen
+            onToggled: emoji => message.reactionToggled(emoji, message.messageID)
         }
     }
 }

@@ -142,7 +142,7 @@ PickerPanel {
                            ? Qt.rgba(Appearance.text.r, Appearance.text.g, Appearance.text.b, 0.08) : "transparent"
                 }
                 contentItem: Text {
-                    text: cell.emoji
+                    text: MessageText.emojiGlyphs(cell.emoji)
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                     font.pixelSize: 22

@@ -65,6 +65,9 @@ Dialog {
             placeholderText: qsTr("Search chats")
             onTextEdited: filtered.searchText = text
             Keys.onDownPressed: list.forceActiveFocus()
+            // Return forwards to the only match; among several, it goes to the list.
+            Keys.onReturnPressed: list.chooseFromSearch()
+            Keys.onEnterPressed: list.chooseFromSearch()
         }
 
         ListView {
@@ -90,6 +93,13 @@ Dialog {
             }
 
             Keys.onReturnPressed: if (currentItem) dialog.chatChosen(currentItem.chatID)
+
+            function chooseFromSearch() {
+                if (count === 1 && itemAtIndex(0))
+                    dialog.chatChosen(itemAtIndex(0).chatID);
+                else if (count > 1)
+                    forceActiveFocus();
+            }
         }
 
         ReadableText {

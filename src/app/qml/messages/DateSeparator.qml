@@ -8,7 +8,7 @@ Item {
 
     property var date
 
-    readonly property string label: Formats.dayLabel(date)
+    readonly property string label: date ? Formats.dayLabel(date) : ""
 
     implicitHeight: 32
     visible: label !== ""

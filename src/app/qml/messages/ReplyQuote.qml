@@ -15,15 +15,19 @@ Item {
 
     signal activated(string messageID)
 
-    readonly property string sender: details.replyToIsOutgoing ? qsTr("You") : details.replyToSender
+    // A delegate between two messages may hold no details for a moment.
+    readonly property var info: details ?? ({})
+    readonly property bool missing: info.replyToMissing === true
+    readonly property string sender: missing ? "" : (info.replyToIsOutgoing ? qsTr("You") : (info.replyToSender ?? ""))
+    readonly property string line: missing ? qsTr("Message not found") : MessageText.displayText(info.replyToText ?? "")
     readonly property color tint: outgoing ? Appearance.accentText : Appearance.accent
 
     implicitWidth: Math.min(280, Math.max(senderText.implicitWidth, lineText.implicitWidth) + 14)
     implicitHeight: 38
     Accessible.role: Accessible.Link
     Accessible.ignored: !quote.shown
-    Accessible.name: qsTr("Reply to %1: %2").arg(sender !== "" ? sender : qsTr("a message")).arg(lineText.text)
-    Accessible.onPressAction: quote.activated(details.replyToMessageID)
+    Accessible.name: qsTr("Reply to %1: %2").arg(sender !== "" ? sender : qsTr("a message")).arg(line)
+    Accessible.onPressAction: quote.activated(info.replyToMessageID ?? "")
 
     Rectangle {
         anchors.fill: parent
@@ -50,7 +54,8 @@ Item {
             id: senderText
 
             width: parent.width
-            text: quote.sender !== "" ? quote.sender : qsTr("Reply")
+            visible: text !== ""
+            text: quote.sender
             elide: Text.ElideRight
             color: quote.tint
             font.pixelSize: 12
@@ -60,7 +65,7 @@ Item {
             id: lineText
 
             width: parent.width
-            text: MessageText.displayText(quote.details.replyToText)
+            text: quote.line
             textFormat: Text.PlainText
             maximumLineCount: 1
             elide: Text.ElideRight
@@ -70,6 +75,6 @@ Item {
     }
 
     TapHandler {
-        onTapped: quote.activated(quote.details.replyToMessageID)
+        onTapped: quote.activated(quote.info.replyToMessageID ?? "")
     }
 }

@@ -84,7 +84,8 @@ Item {
                 width: voice.total > 0 ? parent.width * Math.min(1, voice.elapsed / voice.total) : 0
                 height: parent.height
                 radius: 2
-                color: voice.foreground
+                // The played part in the accent colour (on an outgoing bubble, its text colour).
+                color: voice.outgoing ? Appearance.accentText : Appearance.accent
             }
         }
 
