@@ -57,6 +57,12 @@ template<typename T> bool assign(T &field, const T &value)
     return true;
 }
 
+// A refused file as refusedFiles lists it.
+QVariantMap refusedFile(const QString &path, Attachments::Refusal reason)
+{
+    return {{u"name"_s, QFileInfo(path).fileName()}, {u"reason"_s, QVariant::fromValue(reason)}};
+}
+
 } // namespace
 
 bool localizedCaseInsensitiveContains(const QString &text, const QString &search)
@@ -357,9 +363,25 @@ void ChatViewModel::sendMessage()
     const QString chatID = *m_selectedChatID;
 
     if (!m_pendingAttachments.isEmpty() && liveAttachmentsHandler) {
-        liveAttachmentsHandler(m_pendingAttachments, text, chatID);
+        // A file may have gone or become unreadable while it waited: it is named,
+        // not left to fail unseen.
+        QList<PendingAttachment> sendable;
+        QVariantList refused;
+        for (const PendingAttachment &attachment : std::as_const(m_pendingAttachments)) {
+            if (const auto refusal = Attachments::refusal(attachment.path))
+                refused.append(refusedFile(attachment.path, *refusal));
+            else
+                sendable.append(attachment);
+        }
+        if (!sendable.isEmpty())
+            liveAttachmentsHandler(sendable, text, chatID);
         setPendingAttachments({});
-        setComposerText({});
+        if (!refused.isEmpty()) {
+            m_refusedFiles = refused;
+            Q_EMIT refusedFilesChanged();
+        }
+        if (!sendable.isEmpty())
+            setComposerText({});
         return;
     }
     if (m_pendingDocumentPath && liveDocumentHandler) {
@@ -485,8 +507,7 @@ void ChatViewModel::queueFiles(const QStringList &pathsOrUrls)
     for (const QString &pathOrUrl : pathsOrUrls) {
         const QString path = Attachments::localPath(pathOrUrl);
         if (const auto refusal = path.isEmpty() ? Attachments::Refusal::Unreadable : Attachments::refusal(path)) {
-            refused.append(QVariantMap{{u"name"_s, QFileInfo(path.isEmpty() ? pathOrUrl : path).fileName()},
-                                       {u"reason"_s, QVariant::fromValue(*refusal)}});
+            refused.append(refusedFile(path.isEmpty() ? pathOrUrl : path, *refusal));
             continue;
         }
         const PendingAttachmentKind kind = Attachments::kindFor(path);
@@ -535,6 +556,20 @@ void ChatViewModel::queueStickerAt(int row)
 {
     if (row >= 0 && row < m_recentStickers.size())
         queueSticker(m_recentStickers.at(row));
+}
+
+void ChatViewModel::sendStickerAt(int row)
+{
+    if (row < 0 || row >= m_recentStickers.size())
+        return;
+    const StickerChoice sticker = m_recentStickers.at(row);
+    if (m_pendingAttachments.isEmpty() && !m_pendingDocumentPath && !m_pendingRichMediaPath) {
+        queueSticker(sticker);
+        sendMessage();
+        return;
+    }
+    if (m_canSendMessages && m_selectedChatID && liveStickerHandler)
+        liveStickerHandler(sticker, *m_selectedChatID);
 }
 
 void ChatViewModel::removePendingAttachmentWithID(const QString &id)
