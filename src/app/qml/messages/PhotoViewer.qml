@@ -11,7 +11,7 @@ import Vost.Render
 Popup {
     id: viewer
 
-    // Each item: messageID, path, kind (MessageContent.Kind), fileName.
+    // Each item: messageID, path, kind (MessageContent.Kind), fileName, saveName.
     property var items: []
     property int index: 0
 
@@ -134,12 +134,8 @@ Popup {
                 symbol: "arrow.down.to.line"
                 tint: "white"
                 Accessible.name: qsTr("Save")
-                onClicked: {
-                    const item = viewer.current;
-                    const name = item.fileName !== "" ? item.fileName : item.path.split("/").pop();
-                    viewer.close();
-                    FilePanel.saveCopy(item.path, name);
-                }
+                // The viewer stays open behind the dialog and shows again with the popover.
+                onClicked: FilePanel.saveCopy(viewer.current.path, viewer.current.saveName)
             }
             IconButton {
                 side: 36
