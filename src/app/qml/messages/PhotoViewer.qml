@@ -63,33 +63,43 @@ Popup {
             Accessible.ignored: !visible
         }
 
+        // A GIF plays as pictures; only a video makes a media player, which
+        // brings GStreamer into the process for good.
         Loader {
             anchors.fill: parent
             anchors.margins: 56
             active: viewer.opened && viewer.isVideo
-            sourceComponent: Item {
+            sourceComponent: viewer.current !== null && viewer.current.path.toLowerCase().endsWith(".gif") ? gif : video
+        }
+
+        Component {
+            id: gif
+
+            AnimatedImage {
+                source: LocalFile.url(viewer.current.path)
+                fillMode: Image.PreserveAspectFit
+                Accessible.role: Accessible.Graphic
+                Accessible.name: qsTr("Video %1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
+            }
+        }
+
+        Component {
+            id: video
+
+            Item {
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTr("Video %1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
 
-                readonly property bool isGif: viewer.current.path.toLowerCase().endsWith(".gif")
-
-                AnimatedImage {
-                    anchors.fill: parent
-                    visible: parent.isGif
-                    source: parent.isGif ? LocalFile.url(viewer.current.path) : ""
-                    fillMode: Image.PreserveAspectFit
-                }
                 VideoOutput {
                     id: output
 
                     anchors.fill: parent
-                    visible: !parent.isGif
                 }
                 MediaPlayer {
-                    source: parent.isGif ? "" : LocalFile.url(viewer.current.path)
+                    source: LocalFile.url(viewer.current.path)
                     videoOutput: output
                     audioOutput: AudioOutput {}
-                    Component.onCompleted: if (!parent.isGif) play()
+                    Component.onCompleted: play()
                 }
             }
         }
