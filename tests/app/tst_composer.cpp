@@ -214,29 +214,6 @@ private Q_SLOTS:
         QVERIFY(model.composerText().isEmpty());
     }
 
-    void aFileGoneBeforeSendingIsNamedNotDropped()
-    {
-        QTemporaryDir folder;
-        ChatViewModel model(nullptr);
-        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
-        model.selectChat(u"1"_s);
-        model.setCanSendMessages(true);
-        QList<PendingAttachment> sent;
-        model.liveAttachmentsHandler = [&](const QList<PendingAttachment> &attachments, const QString &,
-                                           const QString &) { sent = attachments; };
-        const QString kept = writeFile(folder, u"kept.txt"_s, "kept");
-        const QString gone = writeFile(folder, u"gone.txt"_s, "gone");
-        model.queueFiles({kept, gone});
-        QVERIFY(QFile::remove(gone));
-        model.sendMessage();
-        QCOMPARE(sent.size(), 1);
-        QCOMPARE(sent.first().path, kept);
-        QCOMPARE(model.refusedFiles().size(), 1);
-        QCOMPARE(model.refusedFiles().first().toMap().value(u"name"_s), u"gone.txt"_s);
-        QCOMPARE(model.refusedFiles().first().toMap().value(u"reason"_s).value<Attachments::Refusal>(),
-                 Attachments::Refusal::Unreadable);
-    }
-
     void theCatalogKeepsWhatAPersonPicks()
     {
         const QList<EmojiEntry> entries = EmojiCatalog::parse(emojiTest);

@@ -363,25 +363,9 @@ void ChatViewModel::sendMessage()
     const QString chatID = *m_selectedChatID;
 
     if (!m_pendingAttachments.isEmpty() && liveAttachmentsHandler) {
-        // A file may have gone or become unreadable while it waited: it is named,
-        // not left to fail unseen.
-        QList<PendingAttachment> sendable;
-        QVariantList refused;
-        for (const PendingAttachment &attachment : std::as_const(m_pendingAttachments)) {
-            if (const auto refusal = Attachments::refusal(attachment.path))
-                refused.append(refusedFile(attachment.path, *refusal));
-            else
-                sendable.append(attachment);
-        }
-        if (!sendable.isEmpty())
-            liveAttachmentsHandler(sendable, text, chatID);
+        liveAttachmentsHandler(m_pendingAttachments, text, chatID);
         setPendingAttachments({});
-        if (!refused.isEmpty()) {
-            m_refusedFiles = refused;
-            Q_EMIT refusedFilesChanged();
-        }
-        if (!sendable.isEmpty())
-            setComposerText({});
+        setComposerText({});
         return;
     }
     if (m_pendingDocumentPath && liveDocumentHandler) {
