@@ -30,6 +30,9 @@ struct DemoFile {
     bool uploading = false;
 };
 
+// The bytes a download of the file writes; empty for a file the user uploaded.
+QByteArray makeBytes(const DemoFile &file);
+
 enum class Presence { Online, Offline, Recently };
 
 struct DemoUser {

@@ -587,7 +587,10 @@ QJsonObject AccountBuilder::media(FileRecipe recipe, const QString &folder, cons
                          : recipe == FileRecipe::Text ? u"text/plain"_s
                          : name.endsWith(u".png"_s)   ? u"image/png"_s
                                                       : u"image/jpeg"_s;
-    const int fileID = a.newFile(recipe, folder, name, image ? 1200 : 0, image ? 900 : 0, seed, image ? 120000 : 3000);
+    const int fileID = a.newFile(recipe, folder, name, image ? 1200 : 0, image ? 900 : 0, seed, 0);
+    // A document card shows the size before the download: it must be what arrives.
+    DemoFile &file = a.files.at(fileID);
+    file.size = makeBytes(file).size();
     return object("messageDocument", {{"document", object("document", {{"file_name", name},
                                                                        {"mime_type", mime},
                                                                        {"minithumbnail", QJsonValue::Null},

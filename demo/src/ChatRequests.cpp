@@ -28,6 +28,8 @@ bool isArchiveList(const QJsonObject &request)
     return typeOf(request.value("chat_list"_L1)) == "chatListArchive"_L1;
 }
 
+} // namespace
+
 QByteArray makeBytes(const DemoFile &file)
 {
     switch (file.recipe) {
@@ -55,8 +57,6 @@ QByteArray makeBytes(const DemoFile &file)
     }
     return {};
 }
-
-} // namespace
 
 void Client::announceChat(DemoChat &chat)
 {

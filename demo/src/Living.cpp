@@ -3,6 +3,8 @@
 #include "Json.h"
 #include "Runtime.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace demo {
@@ -76,6 +78,13 @@ void Client::afterOutgoingSent(DemoChat &chat, const DemoMessage &sent)
         client.update(
             object("updateChatReadOutbox", {{"chat_id", chatID}, {"last_read_outbox_message_id", messageID}}));
     });
+    // An album is answered once, when its last message has gone.
+    const bool albumStillSending =
+        sent.albumID != 0 && std::any_of(chat.messages.cbegin(), chat.messages.cend(), [&sent](const auto &entry) {
+            return entry.second.pending && entry.second.albumID == sent.albumID;
+        });
+    if (albumStillSending)
+        return;
     if (chat.userID == m_account->botID()) {
         const QString type = typeOf(sent.content);
         const QString prompt =

@@ -334,9 +334,14 @@ QByteArray pdfDocument(const QString &title)
 {
     QByteArray safeTitle = title.toLatin1();
     safeTitle.replace('(', ' ').replace(')', ' ').replace('\\', ' ');
-    const QByteArray content = "BT /F1 28 Tf 72 740 Td (" + safeTitle +
-                               ") Tj ET\nBT /F1 14 Tf 72 700 Td (A document of the Vost demo account.) Tj ET\n"
-                               "0.2 0.5 0.9 rg 72 400 451 200 re f\n";
+    QByteArray content = "BT /F1 28 Tf 72 740 Td (" + safeTitle +
+                         ") Tj ET\nBT /F1 14 Tf 72 700 Td (A document of the Vost demo account.) Tj ET\n"
+                         "0.2 0.5 0.9 rg 72 400 451 200 re f\n0 0 0 rg\n";
+    // A page of text, so that the file is of a document's usual size (a few kB).
+    for (int line = 0; line < 20; ++line)
+        content += "BT /F1 10 Tf 72 " + QByteArray::number(380 - line * 14) + " Td (Day " +
+                   QByteArray::number(line / 4 + 1) + ", item " + QByteArray::number(line % 4 + 1) +
+                   ": departure, arrival, the hotel and the plans for the evening.) Tj ET\n";
     const QByteArray objects[] = {
         "<< /Type /Catalog /Pages 2 0 R >>",
         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",

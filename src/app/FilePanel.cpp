@@ -52,6 +52,9 @@ void FilePanel::chooseAttachments()
     auto *dialog = new QFileDialog(nullptr, tr("Attach files"), m_lastFolder);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    // Without the system entries (pipes, sockets, devices) the dialog drops such a
+    // name from the selection without a word; let it through to be refused aloud.
+    dialog->setFilter(dialog->filter() | QDir::System);
     connect(dialog, &QFileDialog::filesSelected, this, &FilePanel::filesChosen);
     present(dialog);
 }

@@ -18,6 +18,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -90,6 +92,14 @@ private Q_SLOTS:
         const QString disguised = writeImage(folder, u"scan.dat"_s, "PNG");
         const QString text = writeFile(folder, u"notes.txt"_s, "hello");
         const QString svg = writeFile(folder, u"logo.svg"_s, "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+        // Nor does a name make a picture of text, or of a picture cut short.
+        const QString fake = writeFile(folder, u"fake.png"_s, "not a picture at all");
+        QFile whole(png);
+        QVERIFY(whole.open(QIODevice::ReadOnly));
+        const QString truncated = writeFile(folder, u"cut.png"_s, whole.read(12));
+        whole.close();
+        QCOMPARE(Attachments::kindFor(fake), PendingAttachmentKind::Document);
+        QCOMPARE(Attachments::kindFor(truncated), PendingAttachmentKind::Document);
         QCOMPARE(Attachments::kindFor(png), PendingAttachmentKind::Photo);
         QCOMPARE(Attachments::kindFor(jpeg), PendingAttachmentKind::Photo);
         QCOMPARE(Attachments::kindFor(disguised), PendingAttachmentKind::Photo);
@@ -115,6 +125,10 @@ private Q_SLOTS:
         QCOMPARE(Attachments::localPath(u"/tmp/c.png"_s), u"/tmp/c.png"_s);
         QCOMPARE(Attachments::localPath(u"https://example.org/d.png"_s), QString());
         QCOMPARE(Attachments::localPath(u"relative.png"_s), QString());
+        // A pipe is no file to upload; opening it would wait for a writer.
+        const QString pipe = folder.filePath(u"pipe"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QCOMPARE(Attachments::refusal(pipe), Attachments::Refusal::Unreadable);
         const QString locked = writeFile(folder, u"locked"_s, "secret");
         QFile::setPermissions(locked, {});
         if (QFileInfo(locked).isReadable())
@@ -156,6 +170,48 @@ private Q_SLOTS:
         QCOMPARE(sent.size(), 3);
         QVERIFY(model.pendingAttachments().isEmpty());
         QVERIFY(model.refusedFiles().isEmpty());
+    }
+
+    void aStickerLeavesTheQueuedFilesAndTheirCaption()
+    {
+        QTemporaryDir folder;
+        ChatViewModel model(nullptr);
+        model.replaceChats({makeChat(u"1"_s, u"One"_s)});
+        model.selectChat(u"1"_s);
+        model.setCanSendMessages(true);
+        QList<PendingAttachment> sentFiles;
+        QStringList sentTexts;
+        QList<qint64> sentStickers;
+        model.liveAttachmentsHandler = [&](const QList<PendingAttachment> &attachments, const QString &caption,
+                                           const QString &) {
+            sentFiles = attachments;
+            sentTexts.append(caption);
+        };
+        model.liveSendHandler = [&](const QString &text, const QString &, const std::optional<QString> &) {
+            sentTexts.append(text);
+        };
+        model.liveStickerHandler = [&](const StickerChoice &sticker, const QString &) {
+            sentStickers.append(sticker.id);
+        };
+        StickerChoice sticker;
+        sticker.id = 7;
+        model.setRecentStickers({sticker});
+        model.queueFiles({writeImage(folder, u"pasted.png"_s, "PNG")});
+        model.setComposerText(u"The caption"_s);
+        model.sendStickerAt(0);
+        QCOMPARE(sentStickers, QList<qint64>{7});
+        QCOMPARE(model.pendingAttachments().size(), 1);
+        QCOMPARE(model.composerText(), u"The caption"_s);
+        QVERIFY(sentTexts.isEmpty());
+        model.sendMessage();
+        QCOMPARE(sentFiles.size(), 1);
+        QCOMPARE(sentTexts, QStringList{u"The caption"_s});
+        // With nothing queued, the text goes first, then the sticker.
+        model.setComposerText(u"Look"_s);
+        model.sendStickerAt(0);
+        QCOMPARE(sentTexts.last(), u"Look"_s);
+        QCOMPARE(sentStickers.size(), 2);
+        QVERIFY(model.composerText().isEmpty());
     }
 
     void theCatalogKeepsWhatAPersonPicks()

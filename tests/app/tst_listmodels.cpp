@@ -8,10 +8,12 @@
 #include "MessageListModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QImage>
 #include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -323,6 +325,40 @@ private Q_SLOTS:
         QCOMPARE(column(model, MessageListModel::IdRole),
                  (QStringList{u"34"_s, u"315"_s, u"31"_s, u"30"_s, u"28"_s, u"27"_s}));
     }
+
+    void aSavedCopyIsOfferedUnderANameAPersonKnows()
+    {
+        QTemporaryDir folder;
+        const auto write = [&folder](const QString &name, const QByteArray &data) {
+            QFile file(folder.filePath(name));
+            if (file.open(QIODevice::WriteOnly))
+                file.write(data);
+            return file.fileName();
+        };
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        const QString jpeg = folder.filePath(u"photo_12_y.jpg"_s);
+        QVERIFY(picture.save(jpeg, "JPEG"));
+        // TDLib's name says JPEG, the bytes say PNG.
+        const QString png = folder.filePath(u"photo_13_x.jpg"_s);
+        QVERIFY(picture.save(png, "PNG"));
+        MessageDetails details;
+        details.kind = MessageContent::Kind::Photo;
+        details.date = QDateTime(QDate(2026, 11, 24), QTime(14, 3));
+        QCOMPARE(MessageListModel::saveName(details, jpeg), u"Photo 2026-11-24 14.03.jpg"_s);
+        QCOMPARE(MessageListModel::saveName(details, png), u"Photo 2026-11-24 14.03.png"_s);
+        details.kind = MessageContent::Kind::Animation;
+        QCOMPARE(MessageListModel::saveName(details, write(u"animation_4.gif"_s, "GIF89a")),
+                 u"GIF 2026-11-24 14.03.gif"_s);
+        // A file with a name of its own keeps it.
+        details.fileName = u"Dance.mp4"_s;
+        QCOMPARE(MessageListModel::saveName(details, jpeg), u"Dance.mp4"_s);
+        details.fileName.clear();
+        details.date = {};
+        details.kind = MessageContent::Kind::Photo;
+        QCOMPARE(MessageListModel::saveName(details, jpeg), u"Photo.jpg"_s);
+    }
+
     void stickersAndContactsFollowTheViewModel()
     {
         ChatViewModel viewModel(nullptr);

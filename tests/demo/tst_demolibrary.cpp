@@ -1,4 +1,5 @@
 // The demo library's answers, driven directly through TDLib's JSON entry points.
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -148,6 +149,39 @@ private Q_SLOTS:
         QCOMPARE(waitFor(ofType(u"updateChatAction"_s))["action"_L1]["@type"_L1].toString(), u"chatActionTyping"_s);
         const QJsonObject reply = waitFor(ofType(u"updateNewMessage"_s));
         QVERIFY(reply["message"_L1]["content"_L1]["text"_L1]["text"_L1].toString().contains(u"hello"_s));
+    }
+
+    void answersAnAlbumOnce()
+    {
+        QImage picture(16, 16, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        const QString path = m_data.filePath(u"blue.png"_s);
+        QVERIFY(picture.save(path));
+        const QJsonObject photo{
+            {u"@type"_s, u"inputMessagePhoto"_s},
+            {u"photo"_s, QJsonObject{{u"@type"_s, u"inputPhoto"_s},
+                                     {u"photo"_s, QJsonObject{{u"@type"_s, u"inputFileLocal"_s}, {u"path"_s, path}}}}},
+            {u"caption"_s, QJsonObject{{u"@type"_s, u"formattedText"_s}, {u"text"_s, u""_s}}}};
+        request(QJsonObject{{u"@type"_s, u"sendMessageAlbum"_s},
+                            {u"chat_id"_s, 5000000001LL},
+                            {u"input_message_contents"_s, QJsonArray{photo, photo, photo}}});
+        // A text after the album: its answer comes after whatever the album gets.
+        request(R"({"@type":"sendMessage","chat_id":5000000001,)"
+                R"("input_message_content":{"@type":"inputMessageText",)"
+                R"("text":{"@type":"formattedText","text":"after the album","entities":[]}}})");
+        QStringList answers;
+        const auto fromBot = [](const QJsonObject &o) {
+            return o["@type"_L1] == "updateNewMessage"_L1 && !o["message"_L1]["is_outgoing"_L1].toBool() &&
+                   o["message"_L1]["chat_id"_L1].toInteger() == 5000000001LL;
+        };
+        while (true) {
+            const QJsonObject answer = waitFor(fromBot);
+            const QString text = answer["message"_L1]["content"_L1]["text"_L1]["text"_L1].toString();
+            if (text.contains(u"after the album"_s))
+                break;
+            answers.append(text);
+        }
+        QCOMPARE(answers, QStringList{u"Nice photo! 📸"_s});
     }
 
     void closes()

@@ -116,6 +116,61 @@ class Messages(VostTestCase):
                                recursive=True)
         self.assertTrue(downloaded)
         wait_until(lambda: filecmp.cmp(target, downloaded[0], shallow=False), what="the same bytes")
+        self.assertTrue(vost.running())
+
+    def save_from(self, vost, viewer, target=None):
+        """Presses the viewer's Save; cancels the dialog, or saves to target. The
+        popover and the viewer are back afterwards; returns the suggested name."""
+        vost.find("push button", "Save", within=viewer).press()
+        wait_until(lambda: not vost.popover_shown(), what="the popover out of the save dialog's way")
+        dialog = vost.find("dialog", "Save", timeout=15)
+        name = vost.find("text", within=dialog)
+        suggested = name.text()
+        if target is None:
+            vost.find("push button", "Cancel", within=dialog).press()
+        else:
+            vost.fill(name, target)
+            vost.key("Return")
+            wait_until(lambda: os.path.exists(target), what="the saved copy")
+        wait_until(vost.popover_shown, what="the popover back after the dialog")
+        vost.find("dialog", "Photo viewer")
+        self.assertTrue(vost.running())
+        return suggested
+
+    def test_the_viewer_stays_through_saving_a_gif_and_a_photo(self):
+        vost, messages = self.open_emma()
+        # The GIF is newer than the album: the wheel reaches it first.
+        animation = self.scroll_to(vost, messages, KINDS["animation"])
+        gif = vost.find("image", "GIF", within=animation, timeout=15)
+
+        def open_gif():
+            # Pressing before the file is here does nothing.
+            gif.press()
+            return vost.all("dialog", "Photo viewer")
+        wait_until(open_gif, timeout=15, what="the GIF in the viewer")
+        viewer = vost.find("dialog", "Photo viewer")
+        target = os.path.join(self.desktop.work, "saved-animation.gif")
+        self.save_from(vost, viewer, target)
+        self.save_from(vost, viewer)
+        # A GIF plays without a media player.
+        self.assertFalse(vost.media_player_loaded())
+        vost.key("Escape")
+        vost.absent("dialog", "Photo viewer")
+        album = self.scroll_to(vost, messages, KINDS["album"])
+        photos = wait_until(lambda: len(vost.all("image", "Photo", within=album)) == 3 and
+                                    vost.all("image", "Photo", within=album), what="three photos in the album")
+        vost.absent("progress bar", within=album, timeout=15)
+        photos[0].press()
+        viewer = vost.find("dialog", "Photo viewer")
+        # A name from the message's date, with the picture's extension.
+        suggested = self.save_from(vost, viewer)
+        self.assertRegex(suggested, r"^Photo \d{4}-\d\d-\d\d \d\d\.\d\d\.jpg$")
+        target = os.path.join(self.desktop.work, "saved-photo.jpg")
+        self.save_from(vost, viewer, target)
+        self.assertGreater(os.path.getsize(target), 0)
+        vost.key("Escape")
+        vost.absent("dialog", "Photo viewer")
+        self.assertTrue(vost.running())
 
     def test_a_voice_note_plays_and_its_time_advances(self):
         vost, messages = self.open_emma()

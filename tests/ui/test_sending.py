@@ -57,6 +57,68 @@ class Files(VostTestCase):
         self.assertEqual(len(vost.all("image", "Photo", within=album)), 2)
         vost.find("list item", "You: Document itinerary.pdf", contains=True, timeout=15)
 
+    def attach(self, vost, names):
+        """Picks names in the desktop's file dialog; the popover comes back after it."""
+        vost.find("push button", "Attach").press()
+        wait_until(lambda: not vost.popover_shown(), what="the popover out of the dialog's way")
+        dialog = vost.find("dialog", "Attach files", timeout=15)
+        vost.fill(vost.find("text", within=dialog), names)
+        vost.key("Return")
+        wait_until(vost.popover_shown, what="the popover back after the dialog")
+
+    def test_an_unreadable_file_is_refused_and_a_text_named_png_goes_as_a_document(self):
+        folder = self.make_files()
+        # Nobody reads from a pipe that nothing writes to, not even root.
+        os.mkfifo(os.path.join(folder, "locked.bin"))
+        with open(os.path.join(folder, "fake.png"), "w") as fake:
+            fake.write("Only text, whatever the name says.\n" * 20)
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        self.attach(vost, '"red.png" "locked.bin" "fake.png"')
+        strip = vost.find("panel", "Files to send")
+        vost.find("list item", "Photo red.png", within=strip)
+        vost.find("list item", "Document fake.png", contains=True, within=strip)
+        vost.find("alert", "locked.bin can’t be read.")
+        self.assertEqual(dishonest_nodes(strip), [])
+        vost.find("push button", "Remove red.png", within=strip).press()
+        vost.find("push button", "Send").press()
+        vost.absent("panel", "Files to send")
+        # The bot thanks for a file; a photo would have been "Nice photo!".
+        vost.find("list item", "Vost Helper: Got your file, thanks!", contains=True, timeout=15)
+
+    def test_a_long_strip_shows_that_it_scrolls(self):
+        folder = self.make_files()
+        names = [f"p{i:02}.png" for i in range(12)]
+        for name in names:
+            make_picture(os.path.join(folder, name), "orange")
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        self.attach(vost, " ".join(f'"{name}"' for name in names))
+        strip = vost.find("panel", "Files to send")
+        bar = vost.find("scroll bar", "Scroll files to send", within=strip)
+        check = vost.find("check box", "Send as file", within=strip)
+        # The check box stays beside the row, inside the strip, whatever scrolls.
+        x, _, width, _ = strip.extents()
+        bar_x, _, bar_width, _ = bar.extents()
+        check_x, _, check_width, _ = check.extents()
+        self.assertLessEqual(check_x + check_width, x + width)
+        self.assertLessEqual(bar_x + bar_width, check_x)
+        self.assertEqual(dishonest_nodes(strip), [])
+
+    def test_the_popover_comes_back_after_a_cancelled_dialog(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        vost.find("push button", "Attach").press()
+        wait_until(lambda: not vost.popover_shown(), what="the popover out of the dialog's way")
+        dialog = vost.find("dialog", "Attach files", timeout=15)
+        vost.find("push button", "Cancel", within=dialog).press()
+        wait_until(vost.popover_shown, what="the popover back after the dialog")
+        # Still there, and working, a moment later.
+        vost.fill(vost.find("text", "Message"), "Still here")
+        vost.key("Return")
+        vost.find("list item", "You: Still here", contains=True, timeout=15)
+        self.assertTrue(vost.popover_shown())
+
     def test_a_pasted_picture_waits_to_be_sent(self):
         folder = self.make_files()
         vost = self.open_signed_in()
@@ -67,6 +129,14 @@ class Files(VostTestCase):
         vost.key("ctrl+v")
         vost.find("list item", "Photo Pasted image", contains=True)
         self.assertEqual(vost.find("text", "Message").text(), "")
+        # A sticker sent meanwhile leaves it waiting.
+        vost.find("push button", "Stickers").press()
+        picker = vost.find("dialog", "Sticker picker")
+        vost.find("push button", "Sticker 😄", within=picker).press()
+        vost.find("list item", "You: Sticker 😄", contains=True, timeout=15)
+        vost.find("list item", "Photo Pasted image", contains=True, within=vost.find("panel", "Files to send"))
+        vost.find("push button", "Send").press()
+        vost.find("list item", "You: Photo, ", contains=True, timeout=15)
 
 
 class Pickers(VostTestCase):

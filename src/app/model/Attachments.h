@@ -22,10 +22,12 @@ Q_ENUM_NS(Refusal)
 inline constexpr qint64 maximumFileSize = 2'000'000'000;
 inline constexpr qint64 maximumPhotoSize = 10'000'000;
 
-// Why the file cannot be sent, or none when it can.
+// Why the file cannot be sent, or none when it can: it is a regular file that
+// opens and reads.
 std::optional<Refusal> refusal(const QString &path);
-// A picture Telegram shows as a photo: by its content and name, a still image
-// format (an animated GIF or a vector SVG is a document).
+// A picture Telegram shows as a photo: by its content alone, a still image that
+// Qt can read (an animated GIF, a vector SVG or anything that does not decode is
+// a document).
 bool isPhotoImage(const QString &path);
 PendingAttachmentKind kindFor(const QString &path);
 // A local path from a path or a file URL ("file:///..."); "" for other URLs.

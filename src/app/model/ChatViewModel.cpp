@@ -57,6 +57,12 @@ template<typename T> bool assign(T &field, const T &value)
     return true;
 }
 
+// A refused file as refusedFiles lists it.
+QVariantMap refusedFile(const QString &path, Attachments::Refusal reason)
+{
+    return {{u"name"_s, QFileInfo(path).fileName()}, {u"reason"_s, QVariant::fromValue(reason)}};
+}
+
 } // namespace
 
 bool localizedCaseInsensitiveContains(const QString &text, const QString &search)
@@ -495,8 +501,7 @@ void ChatViewModel::queueFiles(const QStringList &pathsOrUrls)
     for (const QString &pathOrUrl : pathsOrUrls) {
         const QString path = Attachments::localPath(pathOrUrl);
         if (const auto refusal = path.isEmpty() ? Attachments::Refusal::Unreadable : Attachments::refusal(path)) {
-            refused.append(QVariantMap{{u"name"_s, QFileInfo(path.isEmpty() ? pathOrUrl : path).fileName()},
-                                       {u"reason"_s, QVariant::fromValue(*refusal)}});
+            refused.append(refusedFile(path.isEmpty() ? pathOrUrl : path, *refusal));
             continue;
         }
         const PendingAttachmentKind kind = Attachments::kindFor(path);
@@ -545,6 +550,20 @@ void ChatViewModel::queueStickerAt(int row)
 {
     if (row >= 0 && row < m_recentStickers.size())
         queueSticker(m_recentStickers.at(row));
+}
+
+void ChatViewModel::sendStickerAt(int row)
+{
+    if (row < 0 || row >= m_recentStickers.size())
+        return;
+    const StickerChoice sticker = m_recentStickers.at(row);
+    if (m_pendingAttachments.isEmpty() && !m_pendingDocumentPath && !m_pendingRichMediaPath) {
+        queueSticker(sticker);
+        sendMessage();
+        return;
+    }
+    if (m_canSendMessages && m_selectedChatID && liveStickerHandler)
+        liveStickerHandler(sticker, *m_selectedChatID);
 }
 
 void ChatViewModel::removePendingAttachmentWithID(const QString &id)

@@ -172,6 +172,9 @@ public:
     static QStringList reactionPalette();
     void setStickerError(const QString &error);
     Q_INVOKABLE void queueStickerAt(int row);
+    // Sends a recent sticker at once. Files waiting to be sent stay queued, with
+    // the text that will caption them; with none waiting, the text goes first.
+    Q_INVOKABLE void sendStickerAt(int row);
     Q_INVOKABLE void removePendingAttachmentWithID(const QString &id);
     // Asks for the page before the oldest loaded message, once per oldest message.
     Q_INVOKABLE void loadOlderMessages();

@@ -6,6 +6,8 @@
 
 #include <QColor>
 #include <QDebug>
+#include <QFileInfo>
+#include <QMimeDatabase>
 
 using namespace Qt::StringLiterals;
 
@@ -203,7 +205,8 @@ QVariantList MessageListModel::media() const
             found.append(QVariantMap{{u"messageID"_s, message.id},
                                      {u"path"_s, *message.mediaPath},
                                      {u"kind"_s, int(details.kind)},
-                                     {u"fileName"_s, details.fileName}});
+                                     {u"fileName"_s, details.fileName},
+                                     {u"saveName"_s, saveName(details, *message.mediaPath)}});
     };
     // Rows are newest first; the viewer goes from the oldest.
     for (auto row = m_rows.crbegin(); row != m_rows.crend(); ++row) {
@@ -215,6 +218,39 @@ QVariantList MessageListModel::media() const
         }
     }
     return found;
+}
+
+QString MessageListModel::saveName(const MessageDetails &details, const QString &path)
+{
+    if (!details.fileName.isEmpty())
+        return details.fileName;
+    QString what;
+    switch (details.kind) {
+    case MessageContent::Kind::Photo:
+        what = tr("Photo");
+        break;
+    case MessageContent::Kind::Animation:
+        what = tr("GIF");
+        break;
+    case MessageContent::Kind::Video:
+        what = tr("Video");
+        break;
+    default:
+        what = tr("File");
+        break;
+    }
+    // Dots rather than colons: a colon is not allowed in every file system.
+    const QString when =
+        details.date.isValid() ? details.date.toLocalTime().toString(u"yyyy-MM-dd HH.mm"_s) : QString();
+    // The local file's extension when its content agrees ("jpg" rather than
+    // "jpeg"), else the content's own.
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent);
+    const QString own = QFileInfo(path).suffix().toLower();
+    QString suffix = type.suffixes().contains(own) ? own : type.preferredSuffix();
+    if (suffix.isEmpty())
+        suffix = own;
+    const QString name = when.isEmpty() ? what : what + u' ' + when;
+    return suffix.isEmpty() ? name : name + u'.' + suffix;
 }
 
 double MessageListModel::progressOf(qint64 fileID) const

@@ -100,8 +100,13 @@ public:
     // The row showing the message (an album's row for any of its messages), or -1.
     Q_INVOKABLE int rowOf(const QString &messageID) const;
     // The photos and videos of the loaded messages whose files are here, oldest
-    // first, for the viewer: messageID, path, kind (MessageContent.Kind), fileName.
+    // first, for the viewer: messageID, path, kind (MessageContent.Kind), fileName
+    // and saveName.
     Q_INVOKABLE QVariantList media() const;
+    // The name a saved copy of a message's file is offered under: the file's own
+    // name when it has one, else what it is and when it was sent ("Photo
+    // 2026-11-24 14.03.jpg"), with the extension its content calls for.
+    static QString saveName(const MessageDetails &details, const QString &path);
 
     // Rows for a chat's messages (given oldest first), newest first: the divider
     // before dividerID, groups by sender, an album's messages in one row. details

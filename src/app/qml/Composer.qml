@@ -265,8 +265,9 @@ FocusScope {
             session: composer.host.session
             stickers: composer.host.recentStickerList
             onChosen: row => {
-                composer.viewModel.queueStickerAt(row);
-                composer.sendComposed();
+                // What waits in the strip stays there: the sticker goes on its own.
+                composer.viewModel.sendStickerAt(row);
+                composer.sent();
                 close();
             }
             onClosed: if (!emoji.opened) field.forceActiveFocus()

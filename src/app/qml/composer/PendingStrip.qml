@@ -20,137 +20,204 @@ Column {
     Accessible.name: qsTr("Files to send")
     Accessible.ignored: !visible
 
-    Flickable {
+    // The files scroll sideways under a scroll bar, faded at an edge where more
+    // are hidden; "Send as file" stays in view beside them.
+    Item {
         width: parent.width
-        height: items.length > 0 ? 60 : 0
-        contentWidth: row.width
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
+        height: strip.items.length > 0 ? 70 : 0
+        visible: strip.items.length > 0
 
-        Row {
-            id: row
+        Flickable {
+            id: files
 
-            spacing: 6
-            height: parent.height
+            anchors {
+                left: parent.left
+                right: asFiles.visible ? asFiles.left : parent.right
+                rightMargin: asFiles.visible ? 8 : 0
+                top: parent.top
+                bottom: parent.bottom
+            }
+            contentWidth: row.width
+            contentHeight: height
+            flickableDirection: Flickable.HorizontalFlick
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
 
-            Repeater {
-                model: strip.items
+            // A mouse's wheel turns the row too.
+            WheelHandler {
+                acceptedDevices: PointerDevice.Mouse
+                enabled: files.contentWidth > files.width
+                onWheel: event => {
+                    files.contentX = Math.max(0, Math.min(files.contentWidth - files.width,
+                                                          files.contentX - event.angleDelta.y));
+                }
+            }
 
-                delegate: Item {
-                    id: entry
+            ScrollBar.horizontal: ScrollBar {
+                policy: files.contentWidth > files.width ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+                Accessible.name: qsTr("Scroll files to send")
+                Accessible.ignored: policy === ScrollBar.AlwaysOff
+            }
 
-                    required property var modelData
+            Row {
+                id: row
 
-                    readonly property bool isPhoto: modelData.kind === "photo"
+                spacing: 6
+                height: 60
 
-                    width: isPhoto ? 56 : chip.width
-                    height: 56
-                    y: 2
-                    Accessible.role: Accessible.ListItem
-                    Accessible.name: isPhoto ? qsTr("Photo %1").arg(modelData.name)
-                                             : qsTr("Document %1, %2").arg(modelData.name).arg(Formats.dataSize(modelData.size))
+                Repeater {
+                    model: strip.items
 
-                    Rectangle {
-                        anchors.fill: parent
-                        visible: entry.isPhoto
-                        radius: 8
-                        color: Appearance.neutralBubble
-                        clip: true
+                    delegate: Item {
+                        id: entry
 
-                        Image {
-                            anchors.fill: parent
-                            source: entry.isPhoto ? entry.modelData.url : ""
-                            sourceSize: Qt.size(112, 112)
-                            fillMode: Image.PreserveAspectCrop
-                            asynchronous: true
-                        }
-                    }
+                        required property var modelData
 
-                    Rectangle {
-                        id: chip
+                        readonly property bool isPhoto: modelData.kind === "photo"
 
-                        visible: !entry.isPhoto
-                        width: Math.min(220, chipRow.implicitWidth + 40)
+                        width: isPhoto ? 56 : chip.width
                         height: 56
-                        radius: 8
-                        color: Appearance.neutralBubble
+                        y: 2
+                        Accessible.role: Accessible.ListItem
+                        Accessible.name: isPhoto ? qsTr("Photo %1").arg(modelData.name)
+                                                 : qsTr("Document %1, %2").arg(modelData.name).arg(Formats.dataSize(modelData.size))
 
-                        Row {
-                            id: chipRow
+                        Rectangle {
+                            anchors.fill: parent
+                            visible: entry.isPhoto
+                            radius: 8
+                            color: Appearance.neutralBubble
+                            clip: true
 
+                            Image {
+                                anchors.fill: parent
+                                source: entry.isPhoto ? entry.modelData.url : ""
+                                sourceSize: Qt.size(112, 112)
+                                fillMode: Image.PreserveAspectCrop
+                                asynchronous: true
+                            }
+                        }
+
+                        Rectangle {
+                            id: chip
+
+                            visible: !entry.isPhoto
+                            width: Math.min(220, chipRow.implicitWidth + 40)
+                            height: 56
+                            radius: 8
+                            color: Appearance.neutralBubble
+
+                            Row {
+                                id: chipRow
+
+                                anchors {
+                                    left: parent.left
+                                    leftMargin: 10
+                                    verticalCenter: parent.verticalCenter
+                                }
+                                spacing: 8
+
+                                SymbolIcon {
+                                    width: 20
+                                    height: 20
+                                    anchors.verticalCenter: parent.verticalCenter
+                                    name: "doc"
+                                    color: Appearance.accent
+                                }
+                                Column {
+                                    anchors.verticalCenter: parent.verticalCenter
+
+                                    Text {
+                                        width: Math.min(implicitWidth, 150)
+                                        text: entry.modelData.name
+                                        elide: Text.ElideMiddle
+                                        color: Appearance.text
+                                        font.pixelSize: 13
+                                    }
+                                    Text {
+                                        text: Formats.dataSize(entry.modelData.size)
+                                        color: Appearance.secondaryText
+                                        font.pixelSize: 12
+                                    }
+                                }
+                            }
+                        }
+
+                        IconButton {
                             anchors {
-                                left: parent.left
-                                leftMargin: 10
-                                verticalCenter: parent.verticalCenter
+                                top: parent.top
+                                right: parent.right
+                                margins: -2
                             }
-                            spacing: 8
+                            side: 20
+                            symbol: "xmark"
+                            tint: Appearance.accentText
+                            Accessible.name: qsTr("Remove %1").arg(entry.modelData.name)
+                            onClicked: strip.viewModel.removePendingAttachmentWithID(entry.modelData.id)
 
-                            SymbolIcon {
-                                width: 20
-                                height: 20
-                                anchors.verticalCenter: parent.verticalCenter
-                                name: "doc"
-                                color: Appearance.accent
+                            background: Rectangle {
+                                radius: 10
+                                color: Qt.rgba(0, 0, 0, 0.55)
+                                border.width: parent.visualFocus ? 2 : 0
+                                border.color: Appearance.accent
                             }
-                            Column {
-                                anchors.verticalCenter: parent.verticalCenter
-
-                                Text {
-                                    width: Math.min(implicitWidth, 150)
-                                    text: entry.modelData.name
-                                    elide: Text.ElideMiddle
-                                    color: Appearance.text
-                                    font.pixelSize: 13
-                                }
-                                Text {
-                                    text: Formats.dataSize(entry.modelData.size)
-                                    color: Appearance.secondaryText
-                                    font.pixelSize: 12
-                                }
-                            }
-                        }
-                    }
-
-                    IconButton {
-                        anchors {
-                            top: parent.top
-                            right: parent.right
-                            margins: -2
-                        }
-                        side: 20
-                        symbol: "xmark"
-                        tint: Appearance.accentText
-                        Accessible.name: qsTr("Remove %1").arg(entry.modelData.name)
-                        onClicked: strip.viewModel.removePendingAttachmentWithID(entry.modelData.id)
-
-                        background: Rectangle {
-                            radius: 10
-                            color: Qt.rgba(0, 0, 0, 0.55)
-                            border.width: parent.visualFocus ? 2 : 0
-                            border.color: Appearance.accent
                         }
                     }
                 }
             }
+        }
 
-            CheckBox {
-                id: asFiles
+        Rectangle {
+            anchors {
+                left: files.left
+                top: files.top
+            }
+            width: 24
+            height: 60
+            visible: !files.atXBeginning
+            gradient: Gradient {
+                orientation: Gradient.Horizontal
+                GradientStop { position: 0; color: Appearance.background }
+                GradientStop { position: 1; color: "transparent" }
+            }
+        }
+        Rectangle {
+            anchors {
+                right: files.right
+                top: files.top
+            }
+            width: 24
+            height: 60
+            visible: !files.atXEnd
+            gradient: Gradient {
+                orientation: Gradient.Horizontal
+                GradientStop { position: 0; color: "transparent" }
+                GradientStop { position: 1; color: Appearance.background }
+            }
+        }
 
-                anchors.verticalCenter: parent.verticalCenter
-                visible: strip.hasPictures
-                text: qsTr("Send as file")
-                checked: strip.viewModel.picturesSentAsFiles
-                font.pixelSize: 13
-                Accessible.name: text
-                Accessible.ignored: !visible
-                Accessible.onToggleAction: toggleFiles()
-                Accessible.onPressAction: toggleFiles()
-                onToggled: toggleFiles()
+        CheckBox {
+            id: asFiles
 
-                function toggleFiles() {
-                    strip.viewModel.picturesSentAsFiles = !strip.viewModel.picturesSentAsFiles;
-                    checked = Qt.binding(() => strip.viewModel.picturesSentAsFiles);
-                }
+            anchors {
+                right: parent.right
+                top: parent.top
+                topMargin: 16
+            }
+            width: implicitWidth
+            visible: strip.hasPictures
+            text: qsTr("Send as file")
+            checked: strip.viewModel.picturesSentAsFiles
+            font.pixelSize: 13
+            Accessible.name: text
+            Accessible.ignored: !visible
+            Accessible.onToggleAction: toggleFiles()
+            Accessible.onPressAction: toggleFiles()
+            onToggled: toggleFiles()
+
+            function toggleFiles() {
+                strip.viewModel.picturesSentAsFiles = !strip.viewModel.picturesSentAsFiles;
+                checked = Qt.binding(() => strip.viewModel.picturesSentAsFiles);
             }
         }
     }

@@ -11,7 +11,7 @@ import Vost.Render
 Popup {
     id: viewer
 
-    // Each item: messageID, path, kind (MessageContent.Kind), fileName.
+    // Each item: messageID, path, kind (MessageContent.Kind), fileName, saveName.
     property var items: []
     property int index: 0
 
@@ -63,33 +63,43 @@ Popup {
             Accessible.ignored: !visible
         }
 
+        // A GIF plays as pictures; only a video makes a media player, which
+        // brings GStreamer into the process for good.
         Loader {
             anchors.fill: parent
             anchors.margins: 56
             active: viewer.opened && viewer.isVideo
-            sourceComponent: Item {
+            sourceComponent: viewer.current !== null && viewer.current.path.toLowerCase().endsWith(".gif") ? gif : video
+        }
+
+        Component {
+            id: gif
+
+            AnimatedImage {
+                source: LocalFile.url(viewer.current.path)
+                fillMode: Image.PreserveAspectFit
+                Accessible.role: Accessible.Graphic
+                Accessible.name: qsTr("Video %1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
+            }
+        }
+
+        Component {
+            id: video
+
+            Item {
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTr("Video %1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
 
-                readonly property bool isGif: viewer.current.path.toLowerCase().endsWith(".gif")
-
-                AnimatedImage {
-                    anchors.fill: parent
-                    visible: parent.isGif
-                    source: parent.isGif ? LocalFile.url(viewer.current.path) : ""
-                    fillMode: Image.PreserveAspectFit
-                }
                 VideoOutput {
                     id: output
 
                     anchors.fill: parent
-                    visible: !parent.isGif
                 }
                 MediaPlayer {
-                    source: parent.isGif ? "" : LocalFile.url(viewer.current.path)
+                    source: LocalFile.url(viewer.current.path)
                     videoOutput: output
                     audioOutput: AudioOutput {}
-                    Component.onCompleted: if (!parent.isGif) play()
+                    Component.onCompleted: play()
                 }
             }
         }
@@ -134,12 +144,8 @@ Popup {
                 symbol: "arrow.down.to.line"
                 tint: "white"
                 Accessible.name: qsTr("Save")
-                onClicked: {
-                    const item = viewer.current;
-                    const name = item.fileName !== "" ? item.fileName : item.path.split("/").pop();
-                    viewer.close();
-                    FilePanel.saveCopy(item.path, name);
-                }
+                // The viewer stays open behind the dialog and shows again with the popover.
+                onClicked: FilePanel.saveCopy(viewer.current.path, viewer.current.saveName)
             }
             IconButton {
                 side: 36
