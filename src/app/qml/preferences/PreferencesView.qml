@@ -199,9 +199,7 @@ FocusScope {
                         font.weight: Font.DemiBold
                     }
                     ReadableText {
-                        text: page.host.session.currentAccountPhoneNumber.startsWith("+")
-                              ? page.host.session.currentAccountPhoneNumber
-                              : "+" + page.host.session.currentAccountPhoneNumber
+                        text: PhoneNumbers.international(page.host.session.currentAccountPhoneNumber)
                         color: Appearance.secondaryText
                         font.pixelSize: 12
                     }
