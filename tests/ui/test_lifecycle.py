@@ -98,6 +98,7 @@ class Lifecycle(VostTestCase):
         vost.open_chat("Emma Wilson")
         self.assertEqual(vost.find("text", "Message").text(), "Written before a crash")
         # Sent text is gone from the composer, and stays gone after a restart.
+        vost.focus(vost.find("text", "Message"))
         vost.key("Return")
         vost.find("list item", "Written before a crash", contains=True, within=vost.find("list", "Messages"))
         self.assertEqual(vost.find("text", "Message").text(), "")
