@@ -175,7 +175,8 @@ Rectangle {
 
     Text {
         anchors {
-            left: titleText.left
+            left: avatar.right
+            leftMargin: 10
             right: pill.visible ? pill.left : parent.right
             rightMargin: 10
             top: titleText.bottom
