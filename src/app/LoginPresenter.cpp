@@ -1,5 +1,7 @@
 #include "LoginPresenter.h"
 
+#include "app/ErrorTexts.h"
+#include "app/PhoneNumbers.h"
 #include "session/TelegramSession.h"
 #include "tdlib/AppBundle.h"
 
@@ -135,12 +137,9 @@ void LoginPresenter::setSession(QObject *session)
         disconnect(m_session, nullptr, this, nullptr);
     m_session = telegramSession;
     if (m_session) {
-        connect(m_session, &TelegramSession::stepChanged, this, [this] {
-            m_submitted = false;
-            Q_EMIT stepChanged();
-            Q_EMIT fieldTextChanged();
-            Q_EMIT errorMessageChanged();
-        });
+        connect(m_session, &TelegramSession::stepChanged, this, &LoginPresenter::restartStep);
+        // A code for a new number (or the same one again) ends the number's change.
+        connect(m_session, &TelegramSession::codeInfoChanged, this, &LoginPresenter::restartStep);
         connect(m_session, &TelegramSession::errorMessageChanged, this, &LoginPresenter::errorMessageChanged);
         connect(m_session, &TelegramSession::startupStatusChanged, this, &LoginPresenter::startupStatusChanged);
     }
@@ -156,6 +155,58 @@ Step LoginPresenter::step() const
     return m_session ? m_session->step() : Step::idle();
 }
 
+Step::Case LoginPresenter::shownStep() const
+{
+    const Case kind = step().kind();
+    return kind == Case::VerificationCode && m_changingNumber ? Case::PhoneNumber : kind;
+}
+
+void LoginPresenter::restartStep()
+{
+    m_submitted = false;
+    m_changingNumber = false;
+    Q_EMIT stepChanged();
+    Q_EMIT fieldTextChanged();
+    Q_EMIT errorMessageChanged();
+}
+
+void LoginPresenter::changeNumber()
+{
+    if (!canChangeNumber())
+        return;
+    m_submitted = false;
+    m_changingNumber = true;
+    Q_EMIT stepChanged();
+    Q_EMIT fieldTextChanged();
+    Q_EMIT errorMessageChanged();
+}
+
+QString LoginPresenter::codeDestination() const
+{
+    if (!m_session || shownStep() != Case::VerificationCode)
+        return {};
+    const CodeInfo info = m_session->codeInfo();
+    const QString number = PhoneNumbers::international(info.phoneNumber);
+    switch (info.delivery) {
+    case CodeInfo::Delivery::TelegramApp:
+        return tr("We’ve sent the code for %1 to the Telegram app on your other device.").arg(number);
+    case CodeInfo::Delivery::Sms:
+        return tr("We’ve sent the code to %1 by SMS.").arg(number);
+    case CodeInfo::Delivery::Call:
+        return tr("Telegram is calling %1 to tell you the code.").arg(number);
+    case CodeInfo::Delivery::FlashCall:
+    case CodeInfo::Delivery::MissedCall:
+        return tr("Telegram is calling %1: the last digits of the calling number are the code.").arg(number);
+    case CodeInfo::Delivery::Fragment:
+        return tr("The code for %1 is waiting on fragment.com.").arg(number);
+    case CodeInfo::Delivery::PhoneApp:
+        return tr("The code for %1 was sent to Telegram on your phone.").arg(number);
+    case CodeInfo::Delivery::Unknown:
+        break;
+    }
+    return number.isEmpty() ? QString() : tr("The code was sent for %1.").arg(number);
+}
+
 bool LoginPresenter::isStarting() const
 {
     const Case kind = step().kind();
@@ -164,7 +215,7 @@ bool LoginPresenter::isStarting() const
 
 QString *LoginPresenter::currentText()
 {
-    switch (step().kind()) {
+    switch (shownStep()) {
     case Case::Password:
         return &m_password;
     case Case::VerificationCode:
@@ -201,7 +252,7 @@ QString LoginPresenter::errorMessage() const
         return {};
     if (m_session->step().kind() == Case::Unavailable)
         return m_session->step().text();
-    return m_submitted ? m_session->errorMessageText() : QString();
+    return m_submitted ? ErrorTexts::sentence(m_session->errorMessageText()) : QString();
 }
 
 QString LoginPresenter::startupStatus() const
@@ -214,7 +265,7 @@ void LoginPresenter::submit()
     if (!m_session || !hasField())
         return;
     m_submitted = true;
-    switch (step().kind()) {
+    switch (shownStep()) {
     case Case::Password:
         m_session->submitPassword(m_password);
         break;

@@ -40,6 +40,11 @@ class LoginPresenter : public QObject
     Q_PROPERTY(bool hasField READ hasField NOTIFY stepChanged)
     Q_PROPERTY(bool isSecure READ isSecure NOTIFY stepChanged)
     Q_PROPERTY(QString placeholder READ placeholder NOTIFY stepChanged)
+    // The phone step takes digits, "+" and the separators people type.
+    Q_PROPERTY(bool isPhoneNumber READ isPhoneNumber NOTIFY stepChanged)
+    // On the code step: the number and where its code went.
+    Q_PROPERTY(QString codeDestination READ codeDestination NOTIFY stepChanged)
+    Q_PROPERTY(bool canChangeNumber READ canChangeNumber NOTIFY stepChanged)
     Q_PROPERTY(bool showsHint READ showsHint NOTIFY stepChanged)
     Q_PROPERTY(QString hintLine READ hintLine NOTIFY stepChanged)
     Q_PROPERTY(bool isStarting READ isStarting NOTIFY stepChanged)
@@ -59,12 +64,15 @@ public:
     void setSession(QObject *session);
 
     Step step() const;
-    QString icon() const { return LoginTexts::icon(step().kind()); }
-    QString title() const { return LoginTexts::title(step().kind()); }
-    QString instructions() const { return LoginTexts::instructions(step().kind()); }
-    bool hasField() const { return LoginTexts::field(step().kind()) != LoginTexts::Field::None; }
-    bool isSecure() const { return LoginTexts::field(step().kind()) == LoginTexts::Field::Secure; }
-    QString placeholder() const { return LoginTexts::placeholder(step().kind()); }
+    QString icon() const { return LoginTexts::icon(shownStep()); }
+    QString title() const { return LoginTexts::title(shownStep()); }
+    QString instructions() const { return LoginTexts::instructions(shownStep()); }
+    bool hasField() const { return LoginTexts::field(shownStep()) != LoginTexts::Field::None; }
+    bool isSecure() const { return LoginTexts::field(shownStep()) == LoginTexts::Field::Secure; }
+    bool isPhoneNumber() const { return shownStep() == Step::Case::PhoneNumber; }
+    QString placeholder() const { return LoginTexts::placeholder(shownStep()); }
+    QString codeDestination() const;
+    bool canChangeNumber() const { return shownStep() == Step::Case::VerificationCode; }
     bool showsHint() const { return step().kind() == Step::Case::Password && !step().hint().isEmpty(); }
     QString hintLine() const { return LoginTexts::hintLine(step().hint()); }
     bool isStarting() const;
@@ -79,6 +87,9 @@ public:
 
     // Run by "Continue" and by Return in the field.
     Q_INVOKABLE void submit();
+    // "Use a different number": the phone step again while TDLib waits for the
+    // code; TDLib takes a new number in that state and sends a code for it.
+    Q_INVOKABLE void changeNumber();
 
     // "Vost " and the version of the running application.
     static QString mainVersionLine();
@@ -91,11 +102,16 @@ Q_SIGNALS:
     void startupStatusChanged();
 
 private:
+    // The step whose texts and field are shown: the session's, or the phone
+    // step while a new number is being typed.
+    Step::Case shownStep() const;
     QString *currentText();
+    void restartStep();
 
     QPointer<TelegramSession> m_session;
     // The user submitted this step's text: the session's errors now answer it.
     bool m_submitted = false;
+    bool m_changingNumber = false;
     QString m_phoneNumber;
     QString m_verificationCode;
     QString m_password;

@@ -91,6 +91,8 @@ void TelegramSession::handleAuthorizationState(const TdObject &state)
     } else if (type == "authorizationStateWaitPhoneNumber"_L1) {
         setStep(Step::phoneNumber());
     } else if (type == "authorizationStateWaitCode"_L1) {
+        m_codeInfo = CodeInfo::from(state.value("code_info"_L1).toObject());
+        Q_EMIT codeInfoChanged();
         setStep(Step::verificationCode());
     } else if (type == "authorizationStateWaitPassword"_L1) {
         const QJsonValue hint = state.value("password_hint"_L1);

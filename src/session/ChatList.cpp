@@ -78,6 +78,7 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
     if (const auto lastRead = int64From(object.value("last_read_inbox_message_id"_L1)))
         record.lastReadInbox = *lastRead;
     const TdObject type = object.value("type"_L1).toObject();
+    chat.isSecret = typeOf(type) == "chatTypeSecret"_L1;
     if (typeOf(type) == "chatTypePrivate"_L1) {
         if (const auto userID = int64From(type.value("user_id"_L1))) {
             if (record.privateChatUser)

@@ -72,6 +72,7 @@ struct Chat {
     bool isArchived = false;
     bool isPinned = false;
     bool isMarkedUnread = false;
+    bool isSecret = false; // an end-to-end encrypted chat ("chatTypeSecret")
     QString draftText;
     QString avatarText;
     std::optional<QString> avatarSymbol;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/CodeInfo.h"
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
 #include "session/Step.h"
@@ -75,6 +76,8 @@ public:
     bool isReady() const { return m_step.kind() == Step::Case::Ready; }
     std::optional<QString> errorMessage() const { return m_errorMessage; }
     QString errorMessageText() const { return m_errorMessage.value_or(QString()); }
+    // Where the login code went; set on each "authorizationStateWaitCode".
+    CodeInfo codeInfo() const { return m_codeInfo; }
     QString startupStatus() const { return m_startupStatus; }
     QString currentAccountName() const { return m_currentAccountName; }
     QString currentAccountPhoneNumber() const { return m_currentAccountPhoneNumber; }
@@ -166,6 +169,8 @@ Q_SIGNALS:
     // A file shown in a message is arriving: progress from 0 to 1.
     void downloadProgressChanged(qint64 fileID, double progress);
     void stepChanged();
+    // Each time TDLib waits for a code, even for the same number again.
+    void codeInfoChanged();
     void errorMessageChanged();
     void startupStatusChanged();
     void currentAccountNameChanged();
@@ -328,6 +333,7 @@ private:
 
     // Published
     Step m_step;
+    CodeInfo m_codeInfo;
     std::optional<QString> m_errorMessage;
     QString m_startupStatus;
     QString m_lastEventType; // the event type behind the status text, when it names one

@@ -6,6 +6,7 @@
 
 #include "session/NotificationCenter.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -53,6 +54,7 @@ private Q_SLOTS:
 
     void init()
     {
+        QFile::remove(TypedTexts::defaultPath());
         m_requests.clear();
         m_session = std::make_unique<TelegramSession>(
             [this](const QString &type, const TdObject &) { m_requests.append(type); });
@@ -122,6 +124,57 @@ private Q_SLOTS:
         model->setSelectedChatID(u"1"_s);
         QCOMPARE(model->composerText(), QString());
         QVERIFY(!m_requests.contains(u"setChatDraftMessage"_s));
+    }
+
+    void typedTextIsKeptOnThisComputerAfterAPause()
+    {
+        const QString path = TypedTexts::defaultPath();
+        {
+            TypedTexts texts(path);
+            texts.setText(u"1"_s, u"half a thought"_s);
+            texts.setText(u"2"_s, u"for two"_s);
+            // Not on every keystroke: the file waits for a pause in the typing.
+            QVERIFY(!QFile::exists(path));
+            QTRY_VERIFY(QFile::exists(path));
+            texts.setText(u"2"_s, u"for two, and more"_s);
+        } // quitting writes what is unsaved
+        TypedTexts again(path);
+        QCOMPARE(again.text(u"1"_s), u"half a thought"_s);
+        QCOMPARE(again.text(u"2"_s), u"for two, and more"_s);
+        QCOMPARE(again.text(u"3"_s), QString());
+        again.setText(u"1"_s, QString());
+        again.flush();
+        QCOMPARE(TypedTexts(path).text(u"1"_s), QString());
+        again.clear();
+        QVERIFY(!QFile::exists(path));
+        // A damaged file is no typed text, and no failure.
+        QFile damaged(path);
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        damaged.write("{\"1\": [\"not text\"], \"2\": ");
+        damaged.close();
+        QCOMPARE(TypedTexts(path).text(u"1"_s), QString());
+    }
+
+    void typedTextSurvivesARestartAndGoesWhenSent()
+    {
+        m_session->handleResponse(newChat(1, u"One"_s, 1, 0));
+        m_root->applyPendingChanges();
+        m_root->start();
+        ChatViewModel *model = m_root->viewModel();
+        model->setSelectedChatID(u"1"_s);
+        model->setComposerText(u"see you at"_s);
+        m_root.reset(); // the application quits
+        m_root = std::make_unique<AppRootView>(*m_credentials, *m_session);
+        m_root->start();
+        model = m_root->viewModel();
+        model->setSelectedChatID(u"1"_s);
+        QCOMPARE(model->composerText(), u"see you at"_s);
+        model->sendMessage();
+        QCOMPARE(model->composerText(), QString());
+        QVERIFY(m_requests.contains(u"sendMessage"_s));
+        QVERIFY(!m_requests.contains(u"setChatDraftMessage"_s));
+        m_root.reset();
+        QCOMPARE(TypedTexts(TypedTexts::defaultPath()).text(u"1"_s), QString());
     }
 
     void popoverVisibilityRefreshesChatsAndOpenChatSelects()

@@ -384,6 +384,47 @@ private Q_SLOTS:
         viewModel.setContacts({});
         QCOMPARE(contacts.count(), 0);
     }
+
+    void foundPeopleLeaveOutTheContactsListedAboveThem()
+    {
+        ChatViewModel viewModel(nullptr);
+        ContactListModel found(&viewModel, ContactListModel::Source::SearchResults);
+        QAbstractItemModelTester tester(&found, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const ContactChoice emma{1, u"Emma Wilson"_s, u"emma_w"_s, u"EW"_s, std::nullopt, false};
+        const ContactChoice james{2, u"James Wilson"_s, {}, u"JW"_s, std::nullopt, false};
+        const ContactChoice liam{3, u"Liam Chen"_s, u"wilson_fan"_s, u"LC"_s, std::nullopt, false};
+        viewModel.setContacts({emma, james, liam});
+        found.setListedText(u"wilson"_s);
+        // Telegram found all three; the name filter lists Emma and James already.
+        viewModel.setContactResults({emma, james, liam});
+        QCOMPARE(column(found, ContactListModel::IdRole), (QStringList{u"3"_s}));
+        // Found by her username only, Emma is not listed above: she shows here.
+        found.setListedText(u"emma_w"_s);
+        viewModel.setContactResults({emma});
+        QCOMPARE(column(found, ContactListModel::IdRole), (QStringList{u"1"_s}));
+        // A contact removed from the roster is no longer listed above.
+        found.setListedText(u"Wilson"_s);
+        viewModel.setContactResults({emma, james});
+        QCOMPARE(found.count(), 0);
+        viewModel.setContacts({emma});
+        QCOMPARE(column(found, ContactListModel::IdRole), (QStringList{u"2"_s}));
+    }
+
+    void aSecretChatSaysSo()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel chats(&viewModel);
+        Chat open;
+        open.id = u"1"_s;
+        open.title = u"Mia Taylor"_s;
+        Chat secret = open;
+        secret.id = u"2"_s;
+        secret.isSecret = true;
+        viewModel.replaceChats({open, secret});
+        QCOMPARE(chats.index(0).data(ChatListModel::IsSecretRole).toBool(), false);
+        QCOMPARE(chats.index(1).data(ChatListModel::IsSecretRole).toBool(), true);
+        QCOMPARE(chats.roleNames().value(ChatListModel::IsSecretRole), QByteArray("isSecret"));
+    }
 };
 
 QTEST_GUILESS_MAIN(ListModelsTest)

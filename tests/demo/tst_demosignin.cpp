@@ -2,6 +2,7 @@
 #include "session/TelegramSession.h"
 #include "tdlib/AppBundle.h"
 
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -58,6 +59,34 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(session.errorMessageText(), u"PASSWORD_HASH_INVALID"_s, 5000);
         session.submitPassword(u"vostdemo"_s);
         QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::ready(), 5000);
+        session.logOutAndChangeAccount();
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
+    }
+
+    void aDifferentNumberWhileWaitingForTheCode()
+    {
+        TelegramSession session;
+        session.setBundle(AppBundle(QStringLiteral(VOST_DEMO_BUNDLE)));
+        session.start(12345, u"demo-hash"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
+        session.submitPhoneNumber(u"+1 555 0101"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::verificationCode(), 5000);
+        QCOMPARE(session.codeInfo().phoneNumber, u"+15550101"_s);
+        QCOMPARE(session.codeInfo().delivery, CodeInfo::Delivery::TelegramApp);
+
+        QSignalSpy codes(&session, &TelegramSession::codeInfoChanged);
+        session.submitPhoneNumber(u"+1 555 0199"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.errorMessageText(), u"PHONE_NUMBER_INVALID"_s, 5000);
+        QCOMPARE(session.step(), Step::verificationCode());
+        QCOMPARE(codes.size(), 0);
+        session.submitPhoneNumber(u"+1 555 0100"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.codeInfo().phoneNumber, u"+15550100"_s, 5000);
+        QCOMPARE(codes.size(), 1);
+        QCOMPARE(session.errorMessageText(), QString());
+        // The code now signs in the new number, which has no password.
+        session.submitVerificationCode(u"22222"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::ready(), 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(session.currentAccountPhoneNumber(), u"15550100"_s, 5000);
         session.logOutAndChangeAccount();
         QTRY_COMPARE_WITH_TIMEOUT(session.step(), Step::phoneNumber(), 5000);
     }

@@ -45,6 +45,16 @@ class ChatList(VostTestCase):
         vost.fill(vost.find("text", "Search"), "zzzz")
         vost.find("paragraph", "No results")
 
+    def test_a_secret_chat_is_marked_as_one(self):
+        vost = self.open_signed_in()
+        vost.fill(vost.find("text", "Search"), "mia")
+        rows = wait_until(lambda: len(vost.chat_rows()) == 2 and vost.chat_rows(), what="Mia Taylor's two chats")
+        self.assertEqual([row.name.split(",")[0] for row in rows], ["Mia Taylor", "Mia Taylor"])
+        self.assertEqual(sorted(row.name.split(", ")[1] == "secret chat" for row in rows), [False, True])
+        secret = next(row for row in rows if "secret chat" in row.name)
+        secret.press()
+        vost.find("panel", "Conversation with Mia Taylor")
+
     def test_a_row_opens_its_chat_by_its_press_action(self):
         vost = self.open_signed_in()
         vost.find("list item", "Olivia Martinez", contains=True).press()

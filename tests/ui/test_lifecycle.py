@@ -70,6 +70,46 @@ class Lifecycle(VostTestCase):
         self.assertEqual(first.process.wait(10), 0)
         self.assert_signed_in(second)
 
+    def test_typed_text_outlives_a_quit_from_the_tray_menu_and_a_crash(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        vost.fill(vost.find("text", "Message"), "Half a thought")
+        vost.click_tray(button=3)
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the right click")
+        vost.key("Up", "Return")  # "Quit Vost"
+        self.assertEqual(vost.process.wait(10), 0)
+
+        vost = self.start_again()
+        vost.open_popover()
+        vost.wait_for_chats()
+        vost.open_chat("Emma Wilson")
+        self.assertEqual(vost.find("text", "Message").text(), "Half a thought")
+        vost.fill(vost.find("text", "Message"), "Written before a crash")
+        # Kept once the typing pauses, so that a crash right after loses nothing.
+        typed = os.path.join(self.desktop.env["HOME"], ".local", "share", "Corvella", "Vost", "typed-texts.json")
+        wait_until(lambda: os.path.exists(typed) and "Written before a crash" in open(typed).read(),
+                   what="the typed text kept")
+        vost.process.kill()
+        vost.process.wait()
+
+        vost = self.start_again()
+        vost.open_popover()
+        vost.wait_for_chats()
+        vost.open_chat("Emma Wilson")
+        self.assertEqual(vost.find("text", "Message").text(), "Written before a crash")
+        # Sent text is gone from the composer, and stays gone after a restart.
+        vost.focus(vost.find("text", "Message"))
+        vost.key("Return")
+        vost.find("list item", "Written before a crash", contains=True, within=vost.find("list", "Messages"))
+        self.assertEqual(vost.find("text", "Message").text(), "")
+        vost.key("ctrl+q")
+        self.assertEqual(vost.process.wait(10), 0)
+        vost = self.start_again()
+        vost.open_popover()
+        vost.wait_for_chats()
+        vost.open_chat("Emma Wilson")
+        self.assertEqual(vost.find("text", "Message").text(), "")
+
     def test_many_starts_and_quits_leave_an_intact_account_and_nothing_running(self):
         cycles = int(os.environ.get("VOST_CYCLES", "10"))
         home = self.desktop.env["HOME"]

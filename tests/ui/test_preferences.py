@@ -50,6 +50,18 @@ class Preferences(VostTestCase):
         vost.find("push button", "Back").press()
         vost.absent("panel", "Preferences")
 
+    def test_the_number_reads_in_international_form_and_the_version_line_can_be_seen(self):
+        vost, page = self.open_preferences()
+        vost.find("paragraph", "+1 555 0100", within=page)
+        version = vost.find("paragraph", "Vost 0.1", contains=True, within=page)
+        left, top, width, height = vost.window().extents()
+
+        def in_view():
+            x, y, w, h = version.extents()
+            return h > 0 and y >= top and y + h <= top + height and x >= left and x + w <= left + width
+        # The whole page fits the popover as it opens, down to its last line.
+        self.assertTrue(in_view(), f"the version line at {version.extents()} inside {vost.window().extents()}")
+
     def test_dark_applies_at_once_and_is_remembered(self):
         vost, page = self.open_preferences()
         light = brightness(self.desktop.screenshot(os.path.join(self.desktop.work, "light.png"),

@@ -3,6 +3,10 @@
 
 from vostui import CODE_FIELD, DEMO_CODE, DEMO_PHONE, PHONE_FIELD, VostTestCase, dishonest_nodes, main, walk
 
+BAD_NUMBER = "That phone number isn’t valid. Enter it with + and the country code, for example +44 7700 900123."
+BAD_CODE = "That code isn’t right. Check it and try again."
+BAD_PASSWORD = "That password isn’t right. Try again."
+
 
 class SignIn(VostTestCase):
     signed_in = False
@@ -38,7 +42,7 @@ class SignIn(VostTestCase):
         self.assertEqual(dishonest_nodes(screen), [])
         vost.fill(vost.find("text", PHONE_FIELD), "+1 555 0199")
         vost.key("Return")
-        self.assertEqual(vost.find("alert", timeout=10).name, "PHONE_NUMBER_INVALID")
+        self.assertEqual(vost.find("alert", timeout=10).name, BAD_NUMBER)
         # The right number moves on to the code, where the old error is gone.
         vost.fill(vost.find("text", PHONE_FIELD), DEMO_PHONE)
         vost.key("Return")
@@ -46,7 +50,7 @@ class SignIn(VostTestCase):
         self.assertEqual(vost.all("alert"), [])
         vost.fill(vost.find("text", CODE_FIELD), "11111")
         vost.key("Return")
-        self.assertEqual(vost.find("alert", timeout=10).name, "PHONE_CODE_INVALID")
+        self.assertEqual(vost.find("alert", timeout=10).name, BAD_CODE)
 
     def test_two_step_password_shows_its_hint(self):
         vost, _ = self.sign_in_screen()
@@ -57,8 +61,46 @@ class SignIn(VostTestCase):
         password = vost.find("password text", timeout=15)
         self.assertEqual(password.description, "Two-step verification password")
         vost.find("paragraph", "Hint: the app's name, then demo")
+        vost.fill(password, "vost")
+        vost.key("Return")
+        self.assertEqual(vost.find("alert", timeout=10).name, BAD_PASSWORD)
         vost.fill(password, "vostdemo")
         vost.key("Return")
+        vost.wait_for_chats()
+
+    def test_the_phone_field_takes_digits_only(self):
+        vost, _ = self.sign_in_screen()
+        field = vost.find("text", PHONE_FIELD)
+        vost.fill(field, "12ab")
+        self.assertEqual(field.text(), "12")
+        vost.fill(field, "x+1 (555) 01-00y")
+        self.assertEqual(field.text(), "+1 (555) 01-00")
+        vost.fill(field, "12")
+        vost.key("Return")
+        self.assertEqual(vost.find("alert", timeout=10).name, BAD_NUMBER)
+
+    def test_the_code_screen_names_the_number_and_a_different_one_can_be_used(self):
+        vost, _ = self.sign_in_screen()
+        vost.fill(vost.find("text", PHONE_FIELD), "+1 555 0101")
+        vost.key("Return")
+        vost.find("text", CODE_FIELD, timeout=15)
+        vost.find("paragraph", "We’ve sent the code for +1 555 0101 to the Telegram app on your other device.")
+        vost.find("push button", "Use a different number").press()
+        vost.find("heading", "Sign in to Telegram")
+        field = vost.find("text", PHONE_FIELD)
+        vost.absent("push button", "Use a different number")
+        # A wrong number is answered on this screen; the right one gets its own code.
+        vost.fill(field, "+1 555 0199")
+        vost.key("Return")
+        self.assertEqual(vost.find("alert", timeout=10).name, BAD_NUMBER)
+        vost.fill(field, DEMO_PHONE)
+        vost.key("Return")
+        vost.find("paragraph", "We’ve sent the code for +1 555 0100 to the Telegram app on your other device.",
+                  timeout=15)
+        self.assertEqual(vost.all("alert"), [])
+        vost.fill(vost.find("text", CODE_FIELD), DEMO_CODE)
+        vost.key("Return")
+        # +1 555 0101 would have asked for its password: the new number signed in.
         vost.wait_for_chats()
 
     def test_continue_waits_for_text(self):

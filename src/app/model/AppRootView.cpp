@@ -3,6 +3,7 @@
 #include "session/Initials.h"
 #include "session/NotificationCenter.h"
 
+#include <QCoreApplication>
 #include <QtNumeric>
 
 #include <limits>
@@ -30,6 +31,7 @@ AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<Teleg
     , m_stickerList(new StickerListModel(m_viewModel, this))
     , m_contactList(new ContactListModel(m_viewModel, this))
     , m_contactResultList(new ContactListModel(m_viewModel, ContactListModel::Source::SearchResults, this))
+    , m_typedTexts(new TypedTexts(TypedTexts::defaultPath(), this))
     , m_applyTimer(new QTimer(this))
 {
     m_applyTimer->setSingleShot(true);
@@ -85,6 +87,18 @@ void AppRootView::connectSession()
         }
     });
     connect(m_viewModel, &ChatViewModel::selectedChatIDChanged, this, &AppRootView::selectedChatChanged);
+    connect(m_viewModel, &ChatViewModel::composerTextChanged, this, [this] {
+        // An edit in progress is not typed text: it goes with its message.
+        if (!m_viewModel->editingMessage() && m_composerChatID == m_viewModel->selectedChatID().value_or(QString()))
+            m_typedTexts->setText(m_composerChatID, m_viewModel->composerText());
+    });
+    // Back at the phone number, the account is gone: so is what was typed in its chats.
+    connect(session, &TelegramSession::stepChanged, this, [this] {
+        if (m_session.step().kind() == Step::Case::PhoneNumber)
+            m_typedTexts->clear();
+    });
+    if (QCoreApplication *application = QCoreApplication::instance())
+        connect(application, &QCoreApplication::aboutToQuit, m_typedTexts, &TypedTexts::flush);
 
     NotificationCenter &center = NotificationCenter::defaultCenter();
     center.observe(QString::fromLatin1(NotificationName::popoverVisibilityDidChange), this,
@@ -248,15 +262,10 @@ void AppRootView::keepTypedText()
     if (selected == m_composerChatID)
         return;
     // An edit in progress is not typed text: it goes with its message.
-    const QString typed = m_viewModel->editingMessage() ? QString() : m_viewModel->composerText();
-    if (!m_composerChatID.isEmpty()) {
-        if (typed.isEmpty())
-            m_typedTexts.remove(m_composerChatID);
-        else
-            m_typedTexts.insert(m_composerChatID, typed);
-    }
+    if (!m_viewModel->editingMessage())
+        m_typedTexts->setText(m_composerChatID, m_viewModel->composerText());
     m_composerChatID = selected;
-    m_viewModel->setComposerText(m_typedTexts.take(selected));
+    m_viewModel->setComposerText(m_typedTexts->text(selected));
 }
 
 void AppRootView::selectedChatChanged()

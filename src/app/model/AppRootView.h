@@ -4,14 +4,15 @@
 #include "ChatViewModel.h"
 #include "ChoiceListModels.h"
 #include "MessageListModel.h"
+#include "TypedTexts.h"
 
 #include "session/CredentialStore.h"
 #include "session/TelegramSession.h"
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
 #include <QSet>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -119,7 +120,7 @@ private:
 
     // What the user left typed in each chat, kept on this computer only (never
     // sent as a draft), and the chat the composer's text belongs to now.
-    QHash<QString, QString> m_typedTexts;
+    TypedTexts *m_typedTexts;
     QString m_composerChatID;
 
     bool m_chatsPending = false;

@@ -15,8 +15,9 @@ bool sameRow(const Chat &a, const Chat &b)
 {
     return a.title == b.title && a.subtitle == b.subtitle && a.preview == b.preview && a.timestamp == b.timestamp &&
            a.unreadCount == b.unreadCount && a.isMuted == b.isMuted && a.isArchived == b.isArchived &&
-           a.isPinned == b.isPinned && a.isMarkedUnread == b.isMarkedUnread && a.draftText == b.draftText &&
-           a.avatarText == b.avatarText && a.avatarSymbol == b.avatarSymbol && a.avatarPath == b.avatarPath;
+           a.isPinned == b.isPinned && a.isMarkedUnread == b.isMarkedUnread && a.isSecret == b.isSecret &&
+           a.draftText == b.draftText && a.avatarText == b.avatarText && a.avatarSymbol == b.avatarSymbol &&
+           a.avatarPath == b.avatarPath;
 }
 
 } // namespace
@@ -140,6 +141,8 @@ QVariant ChatListModel::data(const QModelIndex &index, int role) const
         return !m_selectedID.isEmpty() && chat.id == m_selectedID;
     case IsTypingRole:
         return chat.subtitle.endsWith(u"typing…"_s, Qt::CaseInsensitive);
+    case IsSecretRole:
+        return chat.isSecret;
     default:
         return {};
     }
@@ -164,5 +167,6 @@ QHash<int, QByteArray> ChatListModel::roleNames() const
             {AvatarUrlRole, "avatarUrl"},
             {AvatarColorRole, "avatarColor"},
             {IsSelectedRole, "isSelected"},
-            {IsTypingRole, "isTyping"}};
+            {IsTypingRole, "isTyping"},
+            {IsSecretRole, "isSecret"}};
 }

@@ -21,7 +21,7 @@ class ChatViewModel;
 // as 0), isMuted, isPinned, isArchived, isMarkedUnread, draftText (smileys as emoji), avatarText,
 // avatarSymbol ("" when none), avatarPath ("" when none), avatarUrl (file URL or
 // empty), avatarColor (color), isSelected, isTyping (the subtitle says someone is
-// typing).
+// typing), isSecret (an end-to-end encrypted chat).
 class ChatListModel : public RowListModel
 {
     Q_OBJECT
@@ -49,6 +49,7 @@ public:
         AvatarColorRole,
         IsSelectedRole,
         IsTypingRole,
+        IsSecretRole,
     };
     Q_ENUM(Role)
 

@@ -2,6 +2,7 @@
 
 #include "ChatViewModel.h"
 
+#include <QSet>
 #include <QUrl>
 
 StickerListModel::StickerListModel(ChatViewModel *viewModel, QObject *parent)
@@ -76,11 +77,31 @@ ContactListModel::ContactListModel(ChatViewModel *viewModel, Source source, QObj
     connect(viewModel,
             source == Source::Roster ? &ChatViewModel::contactsChanged : &ChatViewModel::contactResultsChanged, this,
             &ContactListModel::refresh);
+    if (source == Source::SearchResults)
+        connect(viewModel, &ChatViewModel::contactsChanged, this, &ContactListModel::refresh);
 }
 
-const QList<ContactChoice> &ContactListModel::sourceRows() const
+QList<ContactChoice> ContactListModel::sourceRows() const
 {
-    return m_source == Source::Roster ? m_viewModel->contacts() : m_viewModel->contactResults();
+    if (m_source == Source::Roster)
+        return m_viewModel->contacts();
+    QSet<qint64> listed;
+    for (const ContactChoice &contact : m_viewModel->contacts()) {
+        if (localizedCaseInsensitiveContains(contact.name, m_listedText))
+            listed.insert(contact.id);
+    }
+    QList<ContactChoice> found = m_viewModel->contactResults();
+    found.removeIf([&listed](const ContactChoice &contact) { return listed.contains(contact.id); });
+    return found;
+}
+
+void ContactListModel::setListedText(const QString &text)
+{
+    if (text == m_listedText)
+        return;
+    m_listedText = text;
+    refresh();
+    Q_EMIT listedTextChanged();
 }
 
 void ContactListModel::refresh()

@@ -51,7 +51,8 @@ private:
 };
 
 // The view model's contacts (the roster), or the people Telegram found for the
-// last contact search, for the new-chat view.
+// last contact search, for the new-chat view. The found people leave out the
+// contacts whose name holds listedText: the roster's name filter lists them already.
 // Roles: userID (text; openContact(userID) on the view model opens the chat),
 // name, username, initials, avatarPath ("" when none), isOnline.
 class ContactListModel : public RowListModel
@@ -60,6 +61,7 @@ class ContactListModel : public RowListModel
     QML_ELEMENT
     QML_UNCREATABLE("The root view owns the contact list.")
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(QString listedText READ listedText WRITE setListedText NOTIFY listedTextChanged)
 
 public:
     enum Role { IdRole = Qt::UserRole + 1, NameRole, UsernameRole, InitialsRole, AvatarPathRole, IsOnlineRole };
@@ -74,16 +76,20 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
     int count() const { return int(m_rows.size()); }
+    QString listedText() const { return m_listedText; }
+    void setListedText(const QString &text);
 
 Q_SIGNALS:
     void countChanged();
+    void listedTextChanged();
 
 private:
     void refresh();
 
-    const QList<ContactChoice> &sourceRows() const;
+    QList<ContactChoice> sourceRows() const;
 
     QPointer<ChatViewModel> m_viewModel;
     Source m_source = Source::Roster;
+    QString m_listedText;
     QList<ContactChoice> m_rows;
 };

@@ -2,7 +2,8 @@ import QtQuick
 import Vost.App
 
 // One chat in the sidebar, 60 high: avatar, title, preview or draft, time,
-// unread pill and the muted, pinned and archived marks. For a screen reader it is
+// unread pill, a lock before the title of a secret chat, and the muted, pinned
+// and archived marks. For a screen reader it is
 // one item whose name says all of that, and whose Press action opens the chat.
 Rectangle {
     id: row
@@ -24,6 +25,7 @@ Rectangle {
     required property color avatarColor
     required property bool isSelected
     required property bool isTyping
+    required property bool isSecret
 
     // The chat is on its way out of the list.
     property bool deleting: false
@@ -45,6 +47,8 @@ Rectangle {
     Accessible.role: Accessible.ListItem
     Accessible.name: {
         const parts = [title];
+        if (isSecret)
+            parts.push(qsTr("secret chat"));
         if (isPinned)
             parts.push(qsTr("pinned"));
         if (isMuted)
@@ -123,12 +127,27 @@ Rectangle {
         }
     }
 
-    Text {
-        id: titleText
+    SymbolIcon {
+        id: lock
 
         anchors {
             left: avatar.right
             leftMargin: 10
+            verticalCenter: titleText.verticalCenter
+        }
+        visible: row.isSecret
+        width: visible ? 12 : 0
+        height: 12
+        name: "lock.fill"
+        color: Appearance.text
+    }
+
+    Text {
+        id: titleText
+
+        anchors {
+            left: lock.right
+            leftMargin: lock.visible ? 4 : 0
             right: marks.left
             rightMargin: 4
             top: parent.top
@@ -156,7 +175,8 @@ Rectangle {
 
     Text {
         anchors {
-            left: titleText.left
+            left: avatar.right
+            leftMargin: 10
             right: pill.visible ? pill.left : parent.right
             rightMargin: 10
             top: titleText.bottom

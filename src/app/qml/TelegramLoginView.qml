@@ -19,6 +19,12 @@ FocusScope {
         onStepChanged: field.forceActiveFocus()
     }
 
+    RegularExpressionValidator {
+        id: phoneCharacters
+
+        regularExpression: /\+?[0-9 ()\-]*/
+    }
+
     Rectangle {
         anchors.fill: parent
         color: Appearance.background
@@ -60,6 +66,15 @@ FocusScope {
                 horizontalAlignment: Text.AlignHCenter
                 text: presenter.instructions
             }
+
+            ReadableText {
+                Layout.fillWidth: true
+                horizontalAlignment: Text.AlignHCenter
+                visible: text !== ""
+                text: presenter.codeDestination
+                color: Appearance.text
+                Accessible.ignored: !visible
+            }
         }
 
         LoginField {
@@ -71,6 +86,9 @@ FocusScope {
             focus: true
             secure: presenter.isSecure
             placeholderText: presenter.placeholder
+            // Digits, a leading "+" and the spaces, dashes and brackets people write numbers with.
+            validator: presenter.isPhoneNumber ? phoneCharacters : null
+            inputMethodHints: presenter.isPhoneNumber ? Qt.ImhDialableCharactersOnly : Qt.ImhNone
             text: presenter.fieldText
             onTextEdited: presenter.fieldText = text
             onAccepted: presenter.submit()
@@ -99,6 +117,14 @@ FocusScope {
             enabled: presenter.canContinue
             text: qsTr("Continue")
             onClicked: presenter.submit()
+        }
+
+        PlainButton {
+            Layout.alignment: Qt.AlignHCenter
+            visible: presenter.canChangeNumber
+            text: qsTr("Use a different number")
+            Accessible.ignored: !visible
+            onClicked: presenter.changeNumber()
         }
 
         ReadableText {

@@ -115,6 +115,13 @@ FocusScope {
             Keys.onDownPressed: contacts.forceActiveFocus()
         }
 
+        // The contacts the name filter lists are not found again below it.
+        Binding {
+            target: view.host.contactResultList
+            property: "listedText"
+            value: search.text
+        }
+
         // Telegram is asked once the typing pauses.
         Timer {
             id: telegramSearch

@@ -5,7 +5,7 @@ import Vost.App
 
 // The two ways to someone not in the contacts: "Add contact" by phone number, and
 // "Open username". While the session works on one, a spinner shows and neither
-// can be sent again; its error shows under the forms, as the session words it.
+// can be sent again; its error shows under the forms in words a person reads.
 ColumnLayout {
     id: forms
 
@@ -107,7 +107,7 @@ ColumnLayout {
         ReadableText {
             Layout.fillWidth: true
             visible: forms.session.conversationError !== ""
-            text: forms.session.conversationError
+            text: ErrorTexts.sentence(forms.session.conversationError)
             color: Appearance.badge
             font.pixelSize: 13
             Accessible.role: Accessible.AlertMessage

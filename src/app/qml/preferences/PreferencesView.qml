@@ -90,10 +90,12 @@ FocusScope {
             top: header.bottom
             bottom: parent.bottom
         }
-        contentHeight: content.implicitHeight + 40
+        contentHeight: content.implicitHeight + 2 * content.y
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {
+            // Shown for good when the page is taller than the popover: it says there is more below.
+            policy: scroller.contentHeight > scroller.height ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded
             Accessible.name: qsTr("Scroll preferences")
             Accessible.ignored: !visible || size >= 1
         }
@@ -102,12 +104,12 @@ FocusScope {
             id: content
 
             x: 40
-            y: 20
+            y: 14
             width: Math.min(560, scroller.width - 80)
             spacing: 8
 
             component SectionTitle: Text {
-                Layout.topMargin: 14
+                Layout.topMargin: 10
                 color: Appearance.secondaryText
                 font.pixelSize: 12
                 font.weight: Font.DemiBold
@@ -199,9 +201,7 @@ FocusScope {
                         font.weight: Font.DemiBold
                     }
                     ReadableText {
-                        text: page.host.session.currentAccountPhoneNumber.startsWith("+")
-                              ? page.host.session.currentAccountPhoneNumber
-                              : "+" + page.host.session.currentAccountPhoneNumber
+                        text: PhoneNumbers.international(page.host.session.currentAccountPhoneNumber)
                         color: Appearance.secondaryText
                         font.pixelSize: 12
                     }
@@ -220,7 +220,7 @@ FocusScope {
             }
 
             ReadableText {
-                Layout.topMargin: 20
+                Layout.topMargin: 10
                 text: qsTr("Vost %1").arg(AppPreferences.version)
                 color: Appearance.secondaryText
                 font.pixelSize: 12
