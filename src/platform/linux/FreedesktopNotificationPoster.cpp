@@ -104,7 +104,7 @@ void FreedesktopNotificationPoster::send(const Request &request)
 {
     const bool bodyIsMarkup = m_capabilities && m_capabilities->contains(u"body-markup"_s);
     const QVariantMap hints{
-        {u"desktop-entry"_s, u"vost"_s},
+        {u"desktop-entry"_s, QStringLiteral(VOST_APP_ID)},
         {u"category"_s, u"im.received"_s},
         // We play our own sound.
         {u"suppress-sound"_s, true},
