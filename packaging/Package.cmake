@@ -13,8 +13,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${VOST_HOMEPAGE_URL})
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "compact Telegram client for the system tray
-Vost lives in the system tray: one chat-bubble icon with a red badge that
+# The summary above is the synopsis; this is the extended description.
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Vost lives in the system tray: one chat-bubble icon with a red badge that
 counts the unread messages. A click opens a small window holding the whole
 client: chats, conversations with photos, documents, voice messages and
 stickers, the composer, contacts, sign-in and preferences. New messages bring
@@ -36,6 +36,6 @@ gstreamer1.0-plugins-base, gstreamer1.0-plugins-good")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-libav, fonts-noto-color-emoji")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
-# Warnings of lintian's that do not apply, each with its reason.
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/lintian-overrides DESTINATION share/lintian/overrides RENAME vost)
+# No maintainer scripts; lintian's overrides (each with its reason).
+set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/FinishPackage.cmake)
 include(CPack)
