@@ -22,6 +22,7 @@
 #include "tdlib/DemoBundle.h"
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QCommandLineParser>
 #include <QCursor>
 #include <QFileInfo>
