@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Vost's two entry points on a fresh Debian 12 machine:
-#   ./run.sh app   set up, build and start the client
-#   ./run.sh test  set up, build and run every test (but the slow soak: -L slow)
+# Vost's entry points on a fresh Debian 12 machine:
+#   ./run.sh app      set up, build and start the client
+#   ./run.sh test     set up (with the test tools), build and run every test (but
+#                     the slow soak: -L slow)
 #   ./run.sh test --sanitize  the same tests but the UI cases under ASan and UBSan,
 #                             the tests where threads meet under TSan, then each
 #                             fuzz target for VOST_FUZZ_SECONDS (60)
+#   ./run.sh install  set up, build and install into ~/.local (VOST_PREFIX picks another)
+#   ./run.sh package  set up, build and make build/vost_<version>_amd64.deb
 # Set-up installs the missing Debian packages, then CMake installs TDLib and the
 # Lottie player from npm into the build tree. VOST_TELEGRAM_API_ID and
 # VOST_TELEGRAM_API_HASH, when set, are built into the client.
@@ -15,16 +18,29 @@ BUILD_DIR=${VOST_BUILD_DIR:-build}
 BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
+# What building Vost needs, and what it loads when it runs: Qt's platform plugin,
+# QML modules, image formats, the media backend's GStreamer plugins, the emoji font.
 DEBIAN_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
+    librsvg2-bin
     qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev libgl-dev qt6-qpa-plugins
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
     qml6-module-qtmultimedia qt6-image-formats-plugins
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-libav
-    fonts-noto-color-emoji xvfb xauth dbus trayer xdotool
-    at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel
+    fonts-noto-color-emoji
 )
+# What the tests add: a virtual screen and session bus, tray hosts (trayer, Xfce's
+# and LXQt's panels), a notification server, a sound server, the accessibility bus
+# and its Python client, pointer and keyboard, screenshots and the clipboard; the
+# package's builder and checkers.
+TEST_PACKAGES=(
+    xvfb xauth dbus trayer xdotool at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip
+    pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel
+    dpkg-dev fakeroot lintian desktop-file-utils appstream
+)
+# What making the Debian package adds.
+PACKAGE_PACKAGES=(dpkg-dev fakeroot)
 
 install_packages() {
     local missing=()
@@ -65,7 +81,7 @@ sanitized_tests() {
     SANITIZE=ON
     # Lightly optimised, line tables only, Qt's assertions on: quick to build.
     BUILD_TYPE=(-DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1" "-DCMAKE_C_FLAGS_DEBUG=-O1 -g1")
-    DEBIAN_PACKAGES+=(clang libclang-rt-14-dev)
+    DEBIAN_PACKAGES+=("${TEST_PACKAGES[@]}" clang libclang-rt-14-dev)
     build
     # GCC 12's leak checker misreads glibc 2.36's table of dynamically loaded
     # thread-local blocks once enough libraries are loaded, and crashes ("Tracer
@@ -105,6 +121,7 @@ test)
         sanitized_tests "$@"
         exit
     fi
+    DEBIAN_PACKAGES+=("${TEST_PACKAGES[@]}")
     build
     # Without a selection of its own, the run leaves out the slow soak cases.
     [ $# -eq 0 ] && set -- -LE slow
@@ -112,8 +129,21 @@ test)
     exec xvfb-run -a -s "-screen 0 1280x800x24" \
         ctest --test-dir "$BUILD_DIR" --output-on-failure --timeout 300 "$@"
     ;;
+install)
+    shift
+    build
+    prefix=${VOST_PREFIX:-$HOME/.local}
+    cmake --install "$BUILD_DIR" --prefix "$prefix" --strip
+    echo "Installed Vost in $prefix: run $prefix/bin/vost, or choose it in the menu."
+    ;;
+package)
+    shift
+    DEBIAN_PACKAGES+=("${PACKAGE_PACKAGES[@]}")
+    build
+    (cd "$BUILD_DIR" && cpack -G DEB)
+    ;;
 *)
-    echo "usage: ./run.sh app|test" >&2
+    echo "usage: ./run.sh app|test|install|package" >&2
     exit 2
     ;;
 esac

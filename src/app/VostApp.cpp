@@ -22,6 +22,7 @@
 #include "tdlib/DemoBundle.h"
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QCommandLineParser>
 #include <QCursor>
 #include <QFileInfo>
@@ -87,7 +88,44 @@ int unreadCountFrom(const QVariant &object)
     }
 }
 
+void nameApplication()
+{
+    QCoreApplication::setApplicationName(u"Vost"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VOST_VERSION));
+    QCoreApplication::setOrganizationName(u"Corvella"_s);
+}
+
+// The options the program takes; returns --demo.
+QCommandLineOption describeOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(
+        QCoreApplication::translate("VostApp", "A compact Telegram client for the system tray."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    QCommandLineOption demo(u"demo"_s, QCoreApplication::translate("VostApp", "Use the offline demo account."));
+    parser.addOption(demo);
+    return demo;
+}
+
 } // namespace
+
+std::optional<int> VostApp::answerWithoutStarting(int &argc, char **argv)
+{
+    static const QByteArrayList informationOptions{"-h", "--help", "--help-all", "-v", "--version"};
+    bool asked = false;
+    for (int i = 1; i < argc && !asked; ++i)
+        asked = informationOptions.contains(QByteArray(argv[i]));
+    if (!asked)
+        return std::nullopt;
+    // No QApplication: the answer needs no display.
+    QCoreApplication core(argc, argv);
+    nameApplication();
+    QCommandLineParser parser;
+    describeOptions(parser);
+    // Prints the help or the version (or what is wrong) and ends the process.
+    parser.process(core);
+    return 0;
+}
 
 int VostApp::run(QApplication &application)
 {
@@ -97,16 +135,13 @@ int VostApp::run(QApplication &application)
     // threshold after the first such block is freed, and later ones stay in its heaps.
     mallopt(M_MMAP_THRESHOLD, 256 * 1024);
 #endif
-    QApplication::setApplicationName(u"Vost"_s);
-    QApplication::setOrganizationName(u"Corvella"_s);
-    QApplication::setDesktopFileName(u"vost"_s);
+    nameApplication();
+    // Wayland compositors and docks match the window to the desktop entry by it.
+    QApplication::setDesktopFileName(QStringLiteral(VOST_APP_ID));
     QApplication::setQuitOnLastWindowClosed(false);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"A compact Telegram client for the system tray."_s);
-    parser.addHelpOption();
-    const QCommandLineOption demoOption(u"demo"_s, u"Use the offline demo account."_s);
-    parser.addOption(demoOption);
+    const QCommandLineOption demoOption = describeOptions(parser);
     parser.process(application);
 
     // TDLib locks its database: one client per user.

@@ -35,6 +35,9 @@ public:
         bool demo = false;
     };
 
+    // Answers --help and --version, or a command line it cannot read, before a
+    // display or a client is needed; the exit code when it did.
+    static std::optional<int> answerWithoutStarting(int &argc, char **argv);
     // Everything main() does after making the QApplication; returns the exit code.
     static int run(QApplication &application);
 

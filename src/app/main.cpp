@@ -10,6 +10,8 @@ Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
 
 int main(int argc, char *argv[])
 {
+    if (const std::optional<int> exitCode = VostApp::answerWithoutStarting(argc, argv))
+        return *exitCode;
     VostRender::chooseSceneGraph();
     QApplication application(argc, argv);
     return VostApp::run(application);

@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(call.body, u"See &lt;this&gt; &amp; that 🙂"_s);
         QVERIFY(call.actions.size() % 2 == 0);
         QCOMPARE(call.actions.indexOf(u"default"_s) % 2, 0);
-        QCOMPARE(call.hints.value(u"desktop-entry"_s), QVariant(u"vost"_s));
+        QCOMPARE(call.hints.value(u"desktop-entry"_s), QVariant(u"com.corvella.Vost"_s));
         QCOMPARE(call.hints.value(u"category"_s), QVariant(u"im.received"_s));
         QCOMPARE(call.hints.value(u"suppress-sound"_s), QVariant(true));
         QCOMPARE(call.expireTimeout, -1);

@@ -91,7 +91,7 @@ class Preferences(VostTestCase):
 
     def test_starting_at_login_writes_and_removes_the_autostart_entry(self):
         vost, page = self.open_preferences()
-        entry = os.path.join(self.desktop.env["HOME"], ".config", "autostart", "vost.desktop")
+        entry = os.path.join(self.desktop.env["HOME"], ".config", "autostart", "com.corvella.Vost.desktop")
         self.assertFalse(os.path.exists(entry))
         vost.find("check box", "Start Vost when I sign in to my computer", within=page).press()
         wait_until(lambda: os.path.exists(entry), what="the autostart entry")

@@ -108,7 +108,7 @@ void FreedesktopNotificationPoster::send(const Request &request)
     // Typed smileys show as emoji on the desktop as everywhere else a message text is shown.
     const QString body = SmileyText::render(request.body);
     const QVariantMap hints{
-        {u"desktop-entry"_s, u"vost"_s},
+        {u"desktop-entry"_s, QStringLiteral(VOST_APP_ID)},
         {u"category"_s, u"im.received"_s},
         // We play our own sound.
         {u"suppress-sound"_s, true},

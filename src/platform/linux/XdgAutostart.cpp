@@ -10,9 +10,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString autostartFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart/"_s;
+}
+
+// Named like the application's desktop entry, so that session managers that
+// list autostart entries show Vost's name and icon.
 QString entryPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart/vost.desktop"_s;
+    return autostartFolder() + QStringLiteral(VOST_APP_ID) + u".desktop"_s;
+}
+
+// Where versions before the application id wrote the entry.
+QString earlierEntryPath()
+{
+    return autostartFolder() + u"vost.desktop"_s;
 }
 
 // The Exec key quotes arguments with double quotes, escaping ", `, $ and \.
@@ -29,12 +42,15 @@ namespace Autostart {
 
 bool isEnabled()
 {
-    return QFile::exists(entryPath());
+    return QFile::exists(entryPath()) || QFile::exists(earlierEntryPath());
 }
 
 bool setEnabled(bool enabled)
 {
     const QString path = entryPath();
+    const QString earlier = earlierEntryPath();
+    if (QFile::exists(earlier) && !QFile::remove(earlier))
+        return false;
     if (!enabled)
         return !QFile::exists(path) || QFile::remove(path);
     if (!QDir().mkpath(QFileInfo(path).absolutePath()))
@@ -42,14 +58,15 @@ bool setEnabled(bool enabled)
     QFile entry(path);
     if (!entry.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
-    const QString text = u"[Desktop Entry]\n"
-                         u"Type=Application\n"
-                         u"Name=Vost\n"
-                         u"Comment=Telegram in the system tray\n"
-                         u"Exec=%1\n"
-                         u"Icon=vost\n"
-                         u"Terminal=false\n"
-                         u"X-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(QCoreApplication::applicationFilePath()));
+    const QString text =
+        u"[Desktop Entry]\n"
+        u"Type=Application\n"
+        u"Name=Vost\n"
+        u"Comment=Telegram in the system tray\n"
+        u"Exec=%1\n"
+        u"Icon=" VOST_APP_ID "\n"
+        u"Terminal=false\n"
+        u"X-GNOME-Autostart-enabled=true\n"_s.arg(quotedForExec(QCoreApplication::applicationFilePath()));
     return entry.write(text.toUtf8()) > 0;
 }
 
