@@ -8,96 +8,80 @@
 using namespace Qt::StringLiterals;
 using Case = Step::Case;
 
-QString LoginTexts::icon(Step::Case step)
+namespace {
+// What the sign-in screen shows at each step; the steps before the session is
+// ready to ask anything share the first row.
+struct StepTexts {
+    const char *icon;
+    const char *title;
+    const char *instructions;
+    LoginTexts::Field field;
+    const char *placeholder;
+};
+
+constexpr StepTexts preparing{"paperplane.fill", "Preparing Telegram", "Starting the secure TDLib connection…",
+                              LoginTexts::Field::None, ""};
+
+constexpr StepTexts phoneNumber{
+    "paperplane.fill", "Sign in to Telegram",
+    "Enter the telephone number associated with your Telegram account, including its international country code.",
+    LoginTexts::Field::Plain, "Telephone number, including country code"};
+
+constexpr StepTexts verificationCode{
+    "number.square.fill", "Enter your verification code",
+    "Telegram sent a code to one of your existing Telegram sessions or by another supported method.",
+    LoginTexts::Field::Plain, "Telegram verification code"};
+
+constexpr StepTexts password{"lock.fill", "Two-step verification",
+                             "Your account uses an additional password. Enter it to complete sign-in.",
+                             LoginTexts::Field::Secure, "Two-step verification password"};
+
+constexpr StepTexts unavailable{"exclamationmark.triangle.fill", "Telegram is unavailable",
+                                "The app could not start its Telegram connection.", LoginTexts::Field::None, ""};
+
+const StepTexts &textsFor(Case step)
 {
     switch (step) {
-    case Case::Password:
-        return u"lock.fill"_s;
-    case Case::Unavailable:
-        return u"exclamationmark.triangle.fill"_s;
+    case Case::PhoneNumber:
+        return phoneNumber;
     case Case::VerificationCode:
-        return u"number.square.fill"_s;
+        return verificationCode;
+    case Case::Password:
+        return password;
+    case Case::Unavailable:
+        return unavailable;
     case Case::Idle:
     case Case::Starting:
-    case Case::PhoneNumber:
     case Case::Ready:
         break;
     }
-    return u"paperplane.fill"_s;
+    return preparing;
+}
+} // namespace
+
+QString LoginTexts::icon(Step::Case step)
+{
+    return QString::fromUtf8(textsFor(step).icon);
 }
 
 QString LoginTexts::title(Step::Case step)
 {
-    switch (step) {
-    case Case::Password:
-        return u"Two-step verification"_s;
-    case Case::Unavailable:
-        return u"Telegram is unavailable"_s;
-    case Case::PhoneNumber:
-        return u"Sign in to Telegram"_s;
-    case Case::VerificationCode:
-        return u"Enter your verification code"_s;
-    case Case::Idle:
-    case Case::Starting:
-    case Case::Ready:
-        break;
-    }
-    return u"Preparing Telegram"_s;
+    return QString::fromUtf8(textsFor(step).title);
 }
 
 QString LoginTexts::instructions(Step::Case step)
 {
-    switch (step) {
-    case Case::Password:
-        return u"Your account uses an additional password. Enter it to complete sign-in."_s;
-    case Case::Unavailable:
-        return u"The app could not start its Telegram connection."_s;
-    case Case::PhoneNumber:
-        return u"Enter the telephone number associated with your Telegram account, including its international "
-               "country code."_s;
-    case Case::VerificationCode:
-        return u"Telegram sent a code to one of your existing Telegram sessions or by another supported method."_s;
-    case Case::Idle:
-    case Case::Starting:
-    case Case::Ready:
-        break;
-    }
-    return u"Starting the secure TDLib connection…"_s;
+    return QString::fromUtf8(textsFor(step).instructions);
 }
 
 LoginTexts::Field LoginTexts::field(Step::Case step)
 {
-    switch (step) {
-    case Case::PhoneNumber:
-    case Case::VerificationCode:
-        return Field::Plain;
-    case Case::Password:
-        return Field::Secure;
-    case Case::Unavailable:
-    case Case::Idle:
-    case Case::Starting:
-    case Case::Ready:
-        break;
-    }
-    return Field::None;
+    return textsFor(step).field;
 }
 
 QString LoginTexts::placeholder(Step::Case step)
 {
-    switch (step) {
-    case Case::PhoneNumber:
-        return u"Telephone number, including country code"_s;
-    case Case::VerificationCode:
-        return u"Telegram verification code"_s;
-    case Case::Password:
-        return u"Two-step verification password"_s;
-    case Case::Unavailable:
-    case Case::Idle:
-    case Case::Starting:
-    case Case::Ready:
-        break;
-    }
-    return {};
+    return QString::fromUtf8(textsFor(step).placeholder);
 }
 
 QString LoginTexts::hintLine(const QString &hint)

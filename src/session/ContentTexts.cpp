@@ -19,40 +19,66 @@ std::optional<QString> caption(const TdObject &content)
     return text.toString();
 }
 
+namespace {
+
+// Each kind of content: how a message of it reads (its caption, where it can
+// have one, stands in for the text) and how the chat list previews it (kinds
+// without a preview of their own show "Message").
+struct ContentKind {
+    QLatin1String type;
+    const char *text;
+    const char *preview;
+    bool hasCaption;
+};
+
+constexpr ContentKind contentKinds[] = {
+    {"messagePhoto"_L1, "📷 Photo", "Photo", true},
+    {"messageVideo"_L1, "🎬 Video", "Video", true},
+    {"messageVoiceNote"_L1, "🎤 Voice message", "Voice message", false},
+    {"messageVideoNote"_L1, "Video message", "Video message", false},
+    {"messageSticker"_L1, "Sticker", "Sticker", false},
+    {"messageAnimation"_L1, "Animation", "Animation", true},
+    {"messageDocument"_L1, "📎 Document", "Document", true},
+    {"messageAudio"_L1, "🎵 Audio", "Audio", true},
+    {"messageCall"_L1, "Call", "Call", false},
+    {"messageLocation"_L1, "📍 Location", nullptr, false},
+    {"messageContact"_L1, "Contact", nullptr, false},
+    {"messagePoll"_L1, "Poll", nullptr, false},
+};
+
+const ContentKind *contentKind(const QString &type)
+{
+    for (const ContentKind &kind : contentKinds) {
+        if (type == kind.type)
+            return &kind;
+    }
+    return nullptr;
+}
+
+// The text of a text message or an animated emoji; nothing for other kinds.
+std::optional<QString> typedText(const QString &type, const TdObject &content)
+{
+    if (type == "messageText"_L1)
+        return textOr(content.value("text"_L1).toObject().value("text"_L1), u"Message"_s);
+    if (type == "messageAnimatedEmoji"_L1)
+        return textOr(content.value("emoji"_L1), u"Emoji"_s);
+    return std::nullopt;
+}
+
+} // namespace
+
 QString messageText(const TdObject &content)
 {
     const QString type = typeOf(content);
     if (type.isEmpty())
         return u"Message"_s;
-    if (type == "messageText"_L1)
-        return textOr(content.value("text"_L1).toObject().value("text"_L1), u"Message"_s);
-    if (type == "messageAnimatedEmoji"_L1)
-        return textOr(content.value("emoji"_L1), u"Emoji"_s);
-    if (type == "messagePhoto"_L1)
-        return caption(content).value_or(u"📷 Photo"_s);
-    if (type == "messageVideo"_L1)
-        return caption(content).value_or(u"🎬 Video"_s);
-    if (type == "messageVoiceNote"_L1)
-        return u"🎤 Voice message"_s;
-    if (type == "messageVideoNote"_L1)
-        return u"Video message"_s;
-    if (type == "messageSticker"_L1)
-        return u"Sticker"_s;
-    if (type == "messageAnimation"_L1)
-        return caption(content).value_or(u"Animation"_s);
-    if (type == "messageDocument"_L1)
-        return caption(content).value_or(u"📎 Document"_s);
-    if (type == "messageAudio"_L1)
-        return caption(content).value_or(u"🎵 Audio"_s);
-    if (type == "messageCall"_L1)
-        return u"Call"_s;
-    if (type == "messageLocation"_L1)
-        return u"📍 Location"_s;
-    if (type == "messageContact"_L1)
-        return u"Contact"_s;
-    if (type == "messagePoll"_L1)
-        return u"Poll"_s;
-    return u"Unsupported message"_s;
+    if (std::optional<QString> text = typedText(type, content))
+        return *text;
+    const ContentKind *kind = contentKind(type);
+    if (!kind)
+        return u"Unsupported message"_s;
+    const QString text = QString::fromUtf8(kind->text);
+    return kind->hasCaption ? caption(content).value_or(text) : text;
 }
 
 QString previewText(const std::optional<TdObject> &message)
@@ -61,22 +87,10 @@ QString previewText(const std::optional<TdObject> &message)
         return u"No messages yet"_s;
     const TdObject content = message->value("content"_L1).toObject();
     const QString type = typeOf(content);
-    if (type == "messageText"_L1)
-        return textOr(content.value("text"_L1).toObject().value("text"_L1), u"Message"_s);
-    if (type == "messageAnimatedEmoji"_L1)
-        return textOr(content.value("emoji"_L1), u"Emoji"_s);
-    static const QHash<QString, QString> plain{
-        {u"messagePhoto"_s, u"Photo"_s},
-        {u"messageVideo"_s, u"Video"_s},
-        {u"messageVoiceNote"_s, u"Voice message"_s},
-        {u"messageVideoNote"_s, u"Video message"_s},
-        {u"messageSticker"_s, u"Sticker"_s},
-        {u"messageAnimation"_s, u"Animation"_s},
-        {u"messageDocument"_s, u"Document"_s},
-        {u"messageAudio"_s, u"Audio"_s},
-        {u"messageCall"_s, u"Call"_s},
-    };
-    return plain.value(type, u"Message"_s);
+    if (std::optional<QString> text = typedText(type, content))
+        return *text;
+    const ContentKind *kind = contentKind(type);
+    return kind && kind->preview ? QString::fromUtf8(kind->preview) : u"Message"_s;
 }
 
 QString draftText(const QJsonValue &draft)
