@@ -1,7 +1,7 @@
 #include "AppPreferences.h"
 
 #include "platform/Autostart.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 using namespace Qt::StringLiterals;
 

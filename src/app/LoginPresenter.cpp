@@ -3,7 +3,7 @@
 #include "app/ErrorTexts.h"
 #include "app/PhoneNumbers.h"
 #include "session/TelegramSession.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 using namespace Qt::StringLiterals;
 using Case = Step::Case;

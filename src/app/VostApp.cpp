@@ -18,7 +18,7 @@
 #include "session/NotificationService.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 #include "tdlib/DemoBundle.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "render/PageFetchClient.h"
 
-#include "tdlib/HelperProcess.h"
+#include "bundle/HelperProcess.h"
 
 #include <QCoreApplication>
 #include <QProcess>

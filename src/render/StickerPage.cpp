@@ -1,6 +1,6 @@
 #include "render/StickerPage.h"
 
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QFile>
 #include <QStringDecoder>

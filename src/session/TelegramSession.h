@@ -5,7 +5,7 @@
 #include "session/ModelTypes.h"
 #include "session/Step.h"
 #include "session/StoredMessage.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 #include "tdlib/TdJson.h"
 
 #include <QDateTime>

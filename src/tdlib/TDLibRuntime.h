@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QByteArray>
 #include <QString>

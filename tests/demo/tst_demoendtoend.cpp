@@ -2,7 +2,7 @@
 // receive loop and the session's stores, with the demo library in deterministic
 // mode. The functions run in order on one signed-in session.
 #include "session/TelegramSession.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -3,7 +3,7 @@
 
 #include "../support/ChildProcesses.h"
 #include "platform/linux/GeneratedSoundPlayer.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,7 +6,7 @@
 
 #include "render/PageFetchClient.h"
 #include "render/PageFetchProtocol.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,7 +1,7 @@
 #include "platform/linux/GeneratedSoundPlayer.h"
 
-#include "tdlib/AppBundle.h"
-#include "tdlib/HelperProcess.h"
+#include "bundle/AppBundle.h"
+#include "bundle/HelperProcess.h"
 
 #include <QFileInfo>
 #include <QProcess>

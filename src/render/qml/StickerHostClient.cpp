@@ -1,7 +1,7 @@
 #include "StickerHostClient.h"
 
 #include "StickerHostView.h"
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QCoreApplication>
 #include <QLocalServer>

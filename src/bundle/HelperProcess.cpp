@@ -1,6 +1,6 @@
-#include "tdlib/HelperProcess.h"
+#include "bundle/HelperProcess.h"
 
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QDebug>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "tdlib/AppBundle.h"
+#include "bundle/AppBundle.h"
 
 #include <QCoreApplication>
 #include <QDir>
