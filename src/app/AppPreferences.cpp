@@ -1,7 +1,7 @@
 #include "AppPreferences.h"
 
-#include "platform/Autostart.h"
 #include "bundle/AppBundle.h"
+#include "platform/Autostart.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,8 @@
 
 #include "app/ErrorTexts.h"
 #include "app/PhoneNumbers.h"
-#include "session/TelegramSession.h"
 #include "bundle/AppBundle.h"
+#include "session/TelegramSession.h"
 
 using namespace Qt::StringLiterals;
 using Case = Step::Case;

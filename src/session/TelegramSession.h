@@ -1,11 +1,11 @@
 #pragma once
 
+#include "bundle/AppBundle.h"
 #include "session/CodeInfo.h"
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
 #include "session/Step.h"
 #include "session/StoredMessage.h"
-#include "bundle/AppBundle.h"
 #include "tdlib/TdJson.h"
 
 #include <QDateTime>

@@ -1,8 +1,8 @@
 // The whole client against the demo account, end to end: the real loader, the real
 // receive loop and the session's stores, with the demo library in deterministic
 // mode. The functions run in order on one signed-in session.
-#include "session/TelegramSession.h"
 #include "bundle/AppBundle.h"
+#include "session/TelegramSession.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 // Signing in to the demo account through the real loader, receive loop and session.
-#include "session/TelegramSession.h"
 #include "bundle/AppBundle.h"
+#include "session/TelegramSession.h"
 
 #include <QSignalSpy>
 #include <QStandardPaths>

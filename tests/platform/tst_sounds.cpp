@@ -2,8 +2,8 @@
 // there is no audio device.
 
 #include "../support/ChildProcesses.h"
-#include "platform/linux/GeneratedSoundPlayer.h"
 #include "bundle/AppBundle.h"
+#include "platform/linux/GeneratedSoundPlayer.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,9 +4,9 @@
 #include "../support/ChildProcesses.h"
 #include "LoopbackHttpServer.h"
 
+#include "bundle/AppBundle.h"
 #include "render/PageFetchClient.h"
 #include "render/PageFetchProtocol.h"
-#include "bundle/AppBundle.h"
 
 #include <QDir>
 #include <QProcess>
