@@ -1,6 +1,6 @@
 #include "FilePanel.h"
 
-#include "session/NotificationCenter.h"
+#include "AppEvents.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -34,7 +34,7 @@ void FilePanel::present(QFileDialog *dialog)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, &FilePanel::finish);
     Q_EMIT isOpenChanged();
-    NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::filePanelWillPresent));
+    Q_EMIT AppEvents::shared().filePanelWillPresent();
     dialog->open();
 }
 
@@ -44,7 +44,7 @@ void FilePanel::finish()
         m_lastFolder = m_dialog->directory().absolutePath();
     m_dialog.clear();
     Q_EMIT isOpenChanged();
-    NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::filePanelDidFinish));
+    Q_EMIT AppEvents::shared().filePanelDidFinish();
 }
 
 void FilePanel::chooseAttachments()
@@ -62,9 +62,8 @@ void FilePanel::chooseAttachments()
 void FilePanel::saveCopy(const QString &sourcePath, const QString &suggestedName)
 {
     const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-    auto *dialog = new QFileDialog(nullptr, tr("Save"),
-                                   QDir(QFileInfo(downloads).isDir() ? downloads : m_lastFolder)
-                                       .filePath(suggestedName));
+    auto *dialog = new QFileDialog(
+        nullptr, tr("Save"), QDir(QFileInfo(downloads).isDir() ? downloads : m_lastFolder).filePath(suggestedName));
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     connect(dialog, &QFileDialog::fileSelected, this, [this, sourcePath](const QString &target) {

@@ -1,6 +1,6 @@
 #include "PopoverWindow.h"
 
-#include "session/NotificationCenter.h"
+#include "AppEvents.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -144,6 +144,6 @@ bool PopoverWindow::hasOpenPopup() const
 void PopoverWindow::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && event->modifiers().testFlag(Qt::ControlModifier))
-        NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::commandClick));
+        Q_EMIT AppEvents::shared().commandClick();
     QQuickView::mousePressEvent(event);
 }

@@ -1,5 +1,6 @@
 #include "VostApp.h"
 
+#include "AppEvents.h"
 #include "AppPreferences.h"
 #include "AppRootView.h"
 #include "MediaImageProvider.h"
@@ -9,6 +10,7 @@
 #include "SingleInstance.h"
 #include "StatusItemImage.h"
 #include "StickerEngine.h"
+#include "bundle/AppBundle.h"
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "platform/TerminationSignals.h"
@@ -18,7 +20,6 @@
 #include "session/NotificationService.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
-#include "bundle/AppBundle.h"
 #include "tdlib/DemoBundle.h"
 
 #include <QApplication>
@@ -72,20 +73,6 @@ QColor panelTextColor()
     if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains("GNOME"_L1, Qt::CaseInsensitive))
         return Qt::white;
     return QGuiApplication::palette().color(QPalette::WindowText);
-}
-
-int unreadCountFrom(const QVariant &object)
-{
-    switch (object.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Long:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return int(std::clamp<qlonglong>(object.toLongLong(), 0, std::numeric_limits<int>::max()));
-    default:
-        return 0;
-    }
 }
 
 void nameApplication()
@@ -234,8 +221,7 @@ bool VostApp::launch()
         return false;
     }
     connect(m_popover.get(), &QWindow::visibleChanged, this, [this](bool visible) {
-        NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::popoverVisibilityDidChange),
-                                                 visible);
+        Q_EMIT AppEvents::shared().popoverVisibilityDidChange(visible);
         if (!visible)
             releasePopoverMemory();
     });
@@ -279,15 +265,14 @@ bool VostApp::launch()
     m_deactivationTimer->setInterval(deactivationCloseDelayMs);
     connect(m_deactivationTimer, &QTimer::timeout, this, &VostApp::closeAfterDeactivation);
 
-    NotificationCenter &center = NotificationCenter::defaultCenter();
-    center.observe(QString::fromLatin1(NotificationName::openTelegramChat), this,
-                   [this](const QVariant &) { openChatFromNotification(); });
-    center.observe(QString::fromLatin1(NotificationName::unreadCountDidChange), this,
-                   [this](const QVariant &object) { updateStatusItem(unreadCountFrom(object)); });
-    center.observe(QString::fromLatin1(NotificationName::filePanelWillPresent), this,
-                   [this](const QVariant &) { suspendPopoverForFilePanel(); });
-    center.observe(QString::fromLatin1(NotificationName::filePanelDidFinish), this,
-                   [this](const QVariant &) { restorePopoverAfterFilePanel(); });
+    connect(&NotificationCenter::defaultCenter(), &NotificationCenter::openTelegramChat, this,
+            &VostApp::openChatFromNotification);
+    const AppEvents &events = AppEvents::shared();
+    connect(&events, &AppEvents::unreadCountDidChange, this, [this](qint64 total) {
+        updateStatusItem(int(std::clamp<qint64>(total, 0, std::numeric_limits<int>::max())));
+    });
+    connect(&events, &AppEvents::filePanelWillPresent, this, &VostApp::suspendPopoverForFilePanel);
+    connect(&events, &AppEvents::filePanelDidFinish, this, &VostApp::restorePopoverAfterFilePanel);
     connect(qApp, &QCoreApplication::aboutToQuit, m_session, &TelegramSession::shutDown);
 
     if (QSystemTrayIcon::isSystemTrayAvailable()) {

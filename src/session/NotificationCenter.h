@@ -1,18 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QVariant>
 
-// Process-wide notifications between the parts of the application, on the main thread.
-namespace NotificationName {
-inline constexpr auto unreadCountDidChange = "vostUnreadCountDidChange";
-inline constexpr auto openTelegramChat = "openTelegramChat";
-inline constexpr auto popoverVisibilityDidChange = "vostPopoverVisibilityDidChange";
-inline constexpr auto filePanelWillPresent = "VostFilePanelWillPresent";
-inline constexpr auto filePanelDidFinish = "VostFilePanelDidFinish";
-inline constexpr auto commandClick = "VostCommandClick";
-} // namespace NotificationName
-
+// What the session announces to the rest of the process, on the main thread.
 class NotificationCenter : public QObject
 {
     Q_OBJECT
@@ -20,19 +10,7 @@ class NotificationCenter : public QObject
 public:
     static NotificationCenter &defaultCenter();
 
-    void post(const QString &name, const QVariant &object = {});
-
-    // Calls the observer, in the context's thread and lifetime, for each post of name.
-    template<typename Context, typename Observer>
-    QMetaObject::Connection observe(const QString &name, Context *context, Observer observer)
-    {
-        return connect(this, &NotificationCenter::posted, context,
-                       [name, observer](const QString &postedName, const QVariant &object) {
-                           if (postedName == name)
-                               observer(object);
-                       });
-    }
-
 Q_SIGNALS:
-    void posted(const QString &name, const QVariant &object);
+    // A desktop notification of a message in chatID was clicked: the chat is to be shown.
+    void openTelegramChat(const QString &chatID);
 };

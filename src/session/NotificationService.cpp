@@ -35,5 +35,5 @@ void NotificationService::didReceive(const QString &chatID)
 {
     if (m_activate)
         m_activate();
-    NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::openTelegramChat), chatID);
+    Q_EMIT NotificationCenter::defaultCenter().openTelegramChat(chatID);
 }

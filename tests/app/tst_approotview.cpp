@@ -4,6 +4,7 @@
 
 #include "AppRootView.h"
 
+#include "AppEvents.h"
 #include "session/NotificationCenter.h"
 
 #include <QFile>
@@ -87,7 +88,7 @@ private Q_SLOTS:
 
     void sessionChangesAreAppliedOncePerTurn()
     {
-        QSignalSpy posted(&NotificationCenter::defaultCenter(), &NotificationCenter::posted);
+        QSignalSpy posted(&AppEvents::shared(), &AppEvents::unreadCountDidChange);
         for (int i = 1; i <= 50; ++i)
             m_session->handleResponse(newChat(i, u"Chat %1"_s.arg(i), i, 1));
         QVERIFY(m_root->hasPendingChanges());
@@ -98,8 +99,7 @@ private Q_SLOTS:
         QCOMPARE(m_root->viewModel()->selectedChatID(), u"50"_s);
         QCOMPARE(m_root->chatList()->count(), 50);
         QCOMPARE(posted.size(), 1);
-        QCOMPARE(posted.first().at(0).toString(), u"vostUnreadCountDidChange"_s);
-        QCOMPARE(posted.first().at(1).toLongLong(), 50);
+        QCOMPARE(posted.first().at(0).toLongLong(), 50);
         // Selecting the first chat asked for its history.
         QVERIFY(m_requests.contains(u"openChat"_s));
     }
@@ -184,29 +184,28 @@ private Q_SLOTS:
         m_root->applyPendingChanges();
         QVERIFY(!m_root->isPopoverVisible());
         m_requests.clear();
-        NotificationCenter &center = NotificationCenter::defaultCenter();
-        center.post(u"vostPopoverVisibilityDidChange"_s, u"yes"_s); // not a boolean: hidden
+        AppEvents &events = AppEvents::shared();
+        Q_EMIT events.popoverVisibilityDidChange(false);
         QVERIFY(!m_root->isPopoverVisible());
         QVERIFY(m_requests.isEmpty());
         // Before sign-in there is nothing to refresh.
-        center.post(u"vostPopoverVisibilityDidChange"_s, true);
+        Q_EMIT events.popoverVisibilityDidChange(true);
         QVERIFY(m_root->isPopoverVisible());
         QVERIFY(!m_requests.contains(u"loadChats"_s));
-        center.post(u"vostPopoverVisibilityDidChange"_s, false);
+        Q_EMIT events.popoverVisibilityDidChange(false);
         m_session->handleResponse(
             R"({"@type":"updateAuthorizationState","authorization_state":{"@type":"authorizationStateReady"}})"_ba);
         for (const char *list : {"chatListMain", "chatListArchive"})
             m_session->handleResponse(u"{\"@type\":\"error\",\"code\":404,\"@extra\":{\"purpose\":\"load_chat_list\","
                                       u"\"list\":\"%1\"}}"_s.arg(QLatin1StringView(list)));
         m_requests.clear();
-        center.post(u"vostPopoverVisibilityDidChange"_s, true);
+        Q_EMIT events.popoverVisibilityDidChange(true);
         QVERIFY(m_requests.contains(u"loadChats"_s));
 
-        center.post(u"openTelegramChat"_s, 1); // not text: ignored
         QCOMPARE(m_root->viewModel()->selectedChatID(), u"2"_s);
-        center.post(u"openTelegramChat"_s, u"1"_s);
+        Q_EMIT NotificationCenter::defaultCenter().openTelegramChat(u"1"_s);
         QCOMPARE(m_root->viewModel()->selectedChatID(), u"1"_s);
-        center.post(u"vostPopoverVisibilityDidChange"_s);
+        Q_EMIT events.popoverVisibilityDidChange(false);
         QVERIFY(!m_root->isPopoverVisible());
     }
 
@@ -217,10 +216,10 @@ private Q_SLOTS:
         const qint64 most = std::numeric_limits<qint64>::max();
         QCOMPARE(AppRootView::unreadTotal({chatWithUnread(most), chatWithUnread(1), chatWithUnread(5)}), most);
 
-        QSignalSpy posted(&NotificationCenter::defaultCenter(), &NotificationCenter::posted);
+        QSignalSpy posted(&AppEvents::shared(), &AppEvents::unreadCountDidChange);
         m_root->publishUnreadCount({chatWithUnread(2), chatWithUnread(4)});
         QCOMPARE(posted.size(), 1);
-        QCOMPARE(posted.first().at(1).toLongLong(), 6);
+        QCOMPARE(posted.first().at(0).toLongLong(), 6);
     }
 
     void openingAContactStartsOneConversation()

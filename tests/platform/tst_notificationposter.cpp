@@ -65,8 +65,8 @@ private Q_SLOTS:
     {
         QStandardPaths::setTestModeEnabled(true);
         QVERIFY2(QDBusConnection::sessionBus().isConnected(), "needs a session bus: run under dbus-run-session");
-        NotificationCenter::defaultCenter().observe(QString::fromLatin1(NotificationName::openTelegramChat), this,
-                                                    [this](const QVariant &object) { m_opened.append(object); });
+        connect(&NotificationCenter::defaultCenter(), &NotificationCenter::openTelegramChat, this,
+                [this](const QString &chatID) { m_opened.append(chatID); });
         NotificationService::shared().setActivator([this] { ++m_activations; });
     }
 

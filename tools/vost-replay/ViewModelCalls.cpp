@@ -6,8 +6,8 @@
 
 #include "AppRootView.h"
 
+#include "AppEvents.h"
 #include "session/CredentialStore.h"
-#include "session/NotificationCenter.h"
 
 #include <QEvent>
 
@@ -106,15 +106,9 @@ void registerViewModelCalls(ReplayDriver &driver, TelegramSession &session)
         message.id = text(a, 1);
         model.toggleReaction(text(a, 0), message);
     });
-    call(u"setPopoverVisible"_s, [](const QJsonArray &a) {
-        NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::popoverVisibilityDidChange),
-                                                 a.at(0).toBool());
-    });
-    call(u"postNotification"_s, [](const QJsonArray &a) {
-        const QJsonValue object = a.at(1);
-        NotificationCenter::defaultCenter().post(
-            text(a, 0), object.isNull() || object.isUndefined() ? QVariant() : object.toVariant());
-    });
+    call(u"setPopoverVisible"_s,
+         [](const QJsonArray &a) { Q_EMIT AppEvents::shared().popoverVisibilityDidChange(a.at(0).toBool()); });
+    call(u"postNotification"_s, [&driver](const QJsonArray &a) { post(driver, text(a, 0), a.at(1)); });
 
     state(u"vm.chats"_s, [&model] { return QJsonValue(toJsonArray(model.chats())); });
     state(u"vm.filteredChats"_s, [&model] { return QJsonValue(toJsonArray(model.filteredChats())); });

@@ -5,7 +5,6 @@
 
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
-#include "session/NotificationCenter.h"
 #include "session/NotificationService.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
@@ -174,11 +173,7 @@ int main(int argc, char *argv[])
         session.setClock([now] { return now; });
     }
 
-    QObject::connect(&NotificationCenter::defaultCenter(), &NotificationCenter::posted, &driver,
-                     [&driver](const QString &name, const QVariant &object) {
-                         driver.emitLine({{"posted"_L1, QJsonObject{{"name"_L1, name},
-                                                                    {"object"_L1, QJsonValue::fromVariant(object)}}}});
-                     });
+    registerPostedEvents(driver);
 
     RecordingNotificationPoster notificationPoster(driver);
     NotificationService::shared().setPoster(&notificationPoster);

@@ -1,5 +1,6 @@
 #include "AppRootView.h"
 
+#include "AppEvents.h"
 #include "session/Initials.h"
 #include "session/NotificationCenter.h"
 
@@ -100,11 +101,9 @@ void AppRootView::connectSession()
     if (QCoreApplication *application = QCoreApplication::instance())
         connect(application, &QCoreApplication::aboutToQuit, m_typedTexts, &TypedTexts::flush);
 
-    NotificationCenter &center = NotificationCenter::defaultCenter();
-    center.observe(QString::fromLatin1(NotificationName::popoverVisibilityDidChange), this,
-                   [this](const QVariant &object) { popoverVisibilityChanged(object); });
-    center.observe(QString::fromLatin1(NotificationName::openTelegramChat), this,
-                   [this](const QVariant &object) { openChatRequested(object); });
+    connect(&AppEvents::shared(), &AppEvents::popoverVisibilityDidChange, this, &AppRootView::popoverVisibilityChanged);
+    connect(&NotificationCenter::defaultCenter(), &NotificationCenter::openTelegramChat, this,
+            &AppRootView::openChatRequested);
 }
 
 QString AppRootView::accountInitials() const
@@ -243,8 +242,7 @@ qint64 AppRootView::unreadTotal(const QList<Chat> &chats)
 
 void AppRootView::publishUnreadCount(const QList<Chat> &chats)
 {
-    NotificationCenter::defaultCenter().post(QString::fromLatin1(NotificationName::unreadCountDidChange),
-                                             QVariant::fromValue(unreadTotal(chats)));
+    Q_EMIT AppEvents::shared().unreadCountDidChange(unreadTotal(chats));
 }
 
 void AppRootView::markReadIfVisible(const QString &chatID)
@@ -287,10 +285,9 @@ void AppRootView::selectedChatChanged()
     m_session.loadMessages(chatID);
 }
 
-void AppRootView::popoverVisibilityChanged(const QVariant &object)
+void AppRootView::popoverVisibilityChanged(bool visible)
 {
     applyPendingChanges();
-    const bool visible = object.metaType().id() == QMetaType::Bool && object.toBool();
     if (visible != m_isPopoverVisible) {
         m_isPopoverVisible = visible;
         Q_EMIT isPopoverVisibleChanged();
@@ -305,12 +302,9 @@ void AppRootView::popoverVisibilityChanged(const QVariant &object)
         markReadIfVisible(*selected);
 }
 
-void AppRootView::openChatRequested(const QVariant &object)
+void AppRootView::openChatRequested(const QString &chatID)
 {
-    if (object.metaType().id() != QMetaType::QString)
-        return;
     applyPendingChanges();
-    const QString chatID = object.toString();
     m_viewModel->setSelectedChatID(chatID);
     m_session.loadMessages(chatID);
 }

@@ -98,8 +98,8 @@ private:
     void fillHandlers();
     void selectedChatChanged();
     void keepTypedText();
-    void popoverVisibilityChanged(const QVariant &object);
-    void openChatRequested(const QVariant &object);
+    void popoverVisibilityChanged(bool visible);
+    void openChatRequested(const QString &chatID);
     void markReadIfVisible(const QString &chatID);
 
     // The session is either owned (ownedSession) or given (session).

@@ -1,0 +1,7 @@
+#include "AppEvents.h"
+
+AppEvents &AppEvents::shared()
+{
+    static AppEvents events;
+    return events;
+}
