@@ -2,6 +2,7 @@
 
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
+#include "session/StickerStore.h"
 #include "session/TelegramSession.h"
 #include "tdlib/ReceiveLoop.h"
 #include "tdlib/TDLibRuntime.h"
@@ -211,10 +212,7 @@ void TelegramSession::resetAccountState()
     Q_EMIT contactsChanged();
     m_contactResults.clear();
     Q_EMIT contactResultsChanged();
-    m_recentStickers.clear();
-    Q_EMIT recentStickersChanged();
-    setRecentStickersLoaded(false);
-    setStickerError(std::nullopt);
+    m_stickers->reset();
 
     m_removedChatIDs.clear();
     m_privateChatsByUser.clear();
@@ -235,12 +233,8 @@ void TelegramSession::resetAccountState()
     m_loadingChatLists.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
-    m_pendingRecentStickers.clear();
     m_rosterOrder.clear();
     m_rosterRank.clear();
     m_contactNames.clear();
     m_currentUserID.reset();
-    m_requestedTrendingStickers = false;
-    // Late answers to the old account's sticker requests no longer match.
-    m_stickerRequestID = QUuid::createUuid().toString(QUuid::WithoutBraces);
 }

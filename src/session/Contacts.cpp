@@ -6,6 +6,7 @@
 #include "session/ContentTexts.h"
 #include "session/Initials.h"
 #include "session/TelegramSession.h"
+#include "session/UserStore.h"
 
 #include <QTimer>
 
@@ -335,13 +336,13 @@ TelegramSession::ContactName TelegramSession::contactName(const TdObject &user)
 
 ContactChoice TelegramSession::makeContactChoice(qint64 userID, const ContactName &name) const
 {
-    const auto stored = m_telegramUsers.constFind(userID);
+    const User *stored = m_users->user(userID);
     return {userID,
             name.name,
             name.username,
             initials(name.name),
-            stored != m_telegramUsers.cend() ? stored->avatarPath : std::nullopt,
-            m_onlineUsers.contains(userID)};
+            stored ? stored->avatarPath : std::nullopt,
+            m_users->isOnline(userID)};
 }
 
 void TelegramSession::publishRosterContact(const TdObject &user)

@@ -3,6 +3,8 @@
 #include "session/TelegramSession.h"
 
 #include "session/SoundManager.h"
+#include "session/StickerStore.h"
+#include "session/UserStore.h"
 #include "tdlib/ReceiveLoop.h"
 #include "tdlib/TDLibRuntime.h"
 
@@ -29,9 +31,20 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
     , m_startupStatus(u"Waiting to start"_s)
-    , m_stickerRequestID(QUuid::createUuid().toString(QUuid::WithoutBraces))
+    , m_users(new UserStore(storeSender(), this))
+    , m_stickers(new StickerStore(storeSender(), this))
     , m_conversationTimeout(new QTimer(this))
 {
+    connect(m_users, &UserStore::presenceChanged, this, &TelegramSession::refreshPresence);
+    connect(m_users, &UserStore::userStored, this, &TelegramSession::republishChatsWithMessages);
+    connect(m_users, &UserStore::avatarArrived, this, [this](qint64 userID) {
+        republishChatsWithMessages();
+        refreshContactEntries(userID);
+    });
+    connect(m_stickers, &StickerStore::recentStickersChanged, this, &TelegramSession::recentStickersChanged);
+    connect(m_stickers, &StickerStore::recentStickersLoadedChanged, this,
+            &TelegramSession::recentStickersLoadedChanged);
+    connect(m_stickers, &StickerStore::stickerErrorChanged, this, &TelegramSession::stickerErrorChanged);
     m_conversationTimeout->setSingleShot(true);
     connect(m_conversationTimeout, &QTimer::timeout, this, [this] {
         failConversation(u"Telegram took too long to respond. A submitted contact may already be saved. Check "
@@ -42,6 +55,31 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
 TelegramSession::~TelegramSession()
 {
     shutDown();
+}
+
+SendRequest TelegramSession::storeSender()
+{
+    return [this](const QString &type, const TdObject &fields) { send(type, fields); };
+}
+
+const QList<StickerChoice> &TelegramSession::recentStickers() const
+{
+    return m_stickers->recentStickers();
+}
+
+bool TelegramSession::recentStickersLoaded() const
+{
+    return m_stickers->recentStickersLoaded();
+}
+
+std::optional<QString> TelegramSession::stickerError() const
+{
+    return m_stickers->stickerError();
+}
+
+void TelegramSession::loadStickers(const QString &query, const QString &source)
+{
+    m_stickers->load(query, source);
 }
 
 QDate TelegramSession::localToday()

@@ -3,6 +3,7 @@
 #include "session/CodeInfo.h"
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
+#include "session/SendRequest.h"
 #include "session/Step.h"
 #include "session/StoredMessage.h"
 #include "tdlib/AppBundle.h"
@@ -26,6 +27,8 @@ class QEventLoop;
 class QTimer;
 class ReceiveLoop;
 class SoundManager;
+class StickerStore;
+class UserStore;
 class TDLibRuntime;
 
 // The application's one model object: it owns the TDLib client, follows TDLib's
@@ -126,9 +129,9 @@ public:
     // Stickers. source: "all", "recent", "installed" or "trending".
     Q_INVOKABLE void loadStickers(const QString &query, const QString &source);
     void sendSticker(const StickerChoice &sticker, const QString &chatID);
-    const QList<StickerChoice> &recentStickers() const { return m_recentStickers; }
-    bool recentStickersLoaded() const { return m_recentStickersLoaded; }
-    std::optional<QString> stickerError() const { return m_stickerError; }
+    const QList<StickerChoice> &recentStickers() const;
+    bool recentStickersLoaded() const;
+    std::optional<QString> stickerError() const;
 
     // Contacts and conversations
     Q_INVOKABLE void refreshContacts();
@@ -188,6 +191,8 @@ Q_SIGNALS:
 private:
     // Channel
     void send(const QString &type, const TdObject &fields = {});
+    // How the stores send: through send, so observers see their requests too.
+    SendRequest storeSender();
     void startClient();
     void quietTDLibLog();
     friend class ChannelTest;
@@ -261,14 +266,9 @@ private:
 
     // Users, presence and typing
     void storeUser(const TdObject &user);
-    void requestMissingUsers(const QList<TdObject> &messages);
     void refreshPresence(qint64 userID);
-    QString presenceSubtitle(std::optional<qint64> privateChatUser, const QString &fallback) const;
     void updateTypingStatus(const TdObject &update);
-    void setUserOnline(qint64 userID, bool online);
-    std::optional<QString> prepareAvatar(const QJsonValue &photo, const std::function<void(qint64)> &recordOwner);
     std::optional<QString> prepareChatAvatar(const QJsonValue &photo, const QString &chatID);
-    std::optional<QString> prepareUserAvatar(const QJsonValue &photo, qint64 userID);
     void republishChatsWithMessages();
 
     // Outgoing
@@ -277,16 +277,6 @@ private:
     void sendAttachmentGroup(const QList<PendingAttachment> &attachments, const QString &caption,
                              const QString &chatID);
     void sendFile(const QString &path, const QString &caption, const QString &chatID, PendingAttachmentKind kind);
-
-    // Stickers
-    bool routeStickerAnswer(const QString &type, const TdObject &extra, const TdObject &object);
-    void requestTrendingStickers();
-    void requestStickerSets(const QJsonArray &sets);
-    void prepareStickerChoices(const QJsonArray &stickers, bool reset);
-    void addRecentSticker(const StickerChoice &choice);
-    void completePendingStickers(qint64 fileID, const QString &path);
-    void setRecentStickersLoaded(bool loaded);
-    void setStickerError(const std::optional<QString> &error);
 
     // Contacts and conversations
     bool routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object);
@@ -430,24 +420,13 @@ private:
     QHash<qint64, QString> m_downloadedMediaPaths;
     QHash<qint64, double> m_downloadProgress; // of files shown in messages, 0 to 1
     QHash<qint64, QString> m_chatAvatarOwners;
-    QHash<qint64, qint64> m_userAvatarOwners;
 
-    // Users
-    QHash<qint64, User> m_telegramUsers;
-    QSet<qint64> m_requestedUserIDs;
-    QSet<qint64> m_onlineUsers;
+    UserStore *m_users;
     QSet<qint64> m_contactUserIDs;
 
     QHash<QString, QStringList> m_imageDiagnosticEvents;
 
-    // Stickers
-    QList<StickerChoice> m_recentStickers;
-    bool m_recentStickersLoaded = false;
-    std::optional<QString> m_stickerError;
-    QString m_stickerRequestID;
-    QHash<qint64, QList<StickerChoice>> m_pendingRecentStickers;
-    bool m_requestedTrendingStickers = false;
-    QSet<qint64> m_requestedStickerSets;
+    StickerStore *m_stickers;
 
     // Contacts and conversations
     QList<ContactChoice> m_contacts;
