@@ -1,6 +1,7 @@
 // The one entry point for every TDLib answer and update: answers are routed by the
 // purpose their request was tagged with, everything else by its type.
 
+#include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
@@ -69,7 +70,7 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
         }
         return false;
     }
-    if (routeContactAnswer(purpose, type, object))
+    if (m_contacts->handleAnswer(purpose, type, object))
         return true;
     if (purpose == "current_user"_L1 && type == "user"_L1) {
         storeCurrentUser(object);

@@ -27,6 +27,7 @@ class QEventLoop;
 class QTimer;
 class ReceiveLoop;
 class SoundManager;
+class ContactStore;
 class StickerStore;
 class UserStore;
 class TDLibRuntime;
@@ -146,16 +147,16 @@ public:
     Q_INVOKABLE void deleteContact(qint64 userID);
     // Stops waiting for the conversation in progress; a late answer is ignored.
     Q_INVOKABLE void cancelConversation();
-    const QList<ContactChoice> &contacts() const { return m_contacts; }
-    const QList<ContactChoice> &contactResults() const { return m_contactResults; }
-    std::optional<QString> conversationError() const { return m_conversationError; }
-    QString conversationErrorText() const { return m_conversationError.value_or(QString()); }
-    bool creatingConversation() const { return m_creatingConversation; }
-    const QSet<QString> &deletingChats() const { return m_deletingChats; }
+    const QList<ContactChoice> &contacts() const;
+    const QList<ContactChoice> &contactResults() const;
+    std::optional<QString> conversationError() const;
+    QString conversationErrorText() const { return conversationError().value_or(QString()); }
+    bool creatingConversation() const;
+    const QSet<QString> &deletingChats() const;
     // For the views: the chats being deleted, and whether a chat is with one person.
-    QStringList deletingChatIDs() const { return m_deletingChats.values(); }
+    QStringList deletingChatIDs() const { return deletingChats().values(); }
     Q_INVOKABLE bool isPrivateChat(const QString &chatID) const { return privateChatUser(chatID).has_value(); }
-    std::optional<QString> newlyOpenedChatID() const { return m_newlyOpenedChatID; }
+    std::optional<QString> newlyOpenedChatID() const;
 
     // One raw answer or update as TDLib delivered it.
     void handleResponse(const QByteArray &json);
@@ -279,23 +280,8 @@ private:
     void sendFile(const QString &path, const QString &caption, const QString &chatID, PendingAttachmentKind kind);
 
     // Contacts and conversations
-    bool routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object);
-    void failConversation(const QString &text);
-    void setConversationError(const std::optional<QString> &error);
-    void setCreatingConversation(bool creating);
     void openConversationChat(const TdObject &chat);
     void forgetChat(const QString &chatID);
-    // A contact's name and username, read once from its user object.
-    struct ContactName {
-        QString name;
-        QString username;
-    };
-    static ContactName contactName(const TdObject &user);
-    ContactChoice makeContactChoice(qint64 userID, const ContactName &name) const;
-    void publishRosterContact(const TdObject &user);
-    void rankRoster();
-    void publishContactResult(const TdObject &user, const QString &query);
-    void refreshContactEntries(qint64 userID);
 
     // Notifications
     void notifyIfNeeded(const TdObject &message);
@@ -422,25 +408,9 @@ private:
     QHash<qint64, QString> m_chatAvatarOwners;
 
     UserStore *m_users;
-    QSet<qint64> m_contactUserIDs;
 
     QHash<QString, QStringList> m_imageDiagnosticEvents;
 
     StickerStore *m_stickers;
-
-    // Contacts and conversations
-    QList<ContactChoice> m_contacts;
-    QList<qint64> m_rosterOrder;
-    QHash<qint64, qsizetype> m_rosterRank; // each contact's place in m_rosterOrder
-    // The names behind contact entries; kept as texts, as a parsed user object
-    // holds far more than the entry shows.
-    QHash<qint64, ContactName> m_contactNames;
-    QList<ContactChoice> m_contactResults;
-    QString m_contactQuery;
-    std::optional<QString> m_conversationError;
-    bool m_creatingConversation = false;
-    QSet<QString> m_deletingChats;
-    std::optional<QString> m_newlyOpenedChatID;
-    std::optional<QString> m_conversationRequestID;
-    QTimer *m_conversationTimeout;
+    ContactStore *m_contacts;
 };

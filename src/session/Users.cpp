@@ -1,5 +1,6 @@
 // Users as shown, presence and typing in chat subtitles, and profile photos.
 
+#include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/Initials.h"
 #include "session/TelegramSession.h"
@@ -9,21 +10,7 @@ using namespace Qt::StringLiterals;
 
 void TelegramSession::storeUser(const TdObject &object)
 {
-    const std::optional<qint64> id = int64From(object.value("id"_L1));
-    if (!id)
-        return;
-    const QJsonValue isContact = object.value("is_contact"_L1);
-    if (isContact.isBool()) {
-        if (isContact.toBool()) {
-            m_contactUserIDs.insert(*id);
-        } else {
-            m_contactUserIDs.remove(*id);
-            if (m_contacts.removeIf([id](const ContactChoice &c) { return c.id == *id; }) > 0)
-                Q_EMIT contactsChanged();
-        }
-    }
-    if (const auto contact = m_contactNames.find(*id); contact != m_contactNames.end())
-        *contact = contactName(object);
+    m_contacts->noteUser(object);
     m_users->store(object);
 }
 
@@ -42,7 +29,7 @@ void TelegramSession::refreshPresence(qint64 userID)
         const QString subtitle = online ? u"Online"_s : baseSubtitle(chatID).value_or(u"Private conversation"_s);
         updateChat(chatID, [&subtitle](Chat &chat) { chat.subtitle = subtitle; });
     }
-    refreshContactEntries(userID);
+    m_contacts->refreshEntries(userID);
 }
 
 void TelegramSession::updateTypingStatus(const TdObject &update)
