@@ -1,7 +1,9 @@
 // Start-up, TDLib's authorization states, sign-in and logging out.
 
+#include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
+#include "session/StickerStore.h"
 #include "session/TelegramSession.h"
 #include "tdlib/ReceiveLoop.h"
 #include "tdlib/TDLibRuntime.h"
@@ -183,7 +185,6 @@ void TelegramSession::resetAccountState()
 {
     // The user cache, read markers, avatar owners, base subtitles and muted chats
     // are kept on purpose: they describe Telegram, not the account that left.
-    cancelConversation();
     for (auto &[id, record] : m_chatRecords) {
         record.chat.reset();
         record.listKey.reset();
@@ -202,23 +203,11 @@ void TelegramSession::resetAccountState()
     for (const QString &chatID : chatsWithMessages)
         Q_EMIT messagesChanged(chatID);
     setCurrentAccount(QString(), QString());
-    m_deletingChats.clear();
-    Q_EMIT deletingChatsChanged();
-    setConversationError(std::nullopt);
-    m_newlyOpenedChatID.reset();
-    Q_EMIT newlyOpenedChatIDChanged();
-    m_contacts.clear();
-    Q_EMIT contactsChanged();
-    m_contactResults.clear();
-    Q_EMIT contactResultsChanged();
-    m_recentStickers.clear();
-    Q_EMIT recentStickersChanged();
-    setRecentStickersLoaded(false);
-    setStickerError(std::nullopt);
+    m_contacts->reset();
+    m_stickers->reset();
 
     m_removedChatIDs.clear();
     m_privateChatsByUser.clear();
-    m_contactUserIDs.clear();
     m_explicitlyOpenedChats.clear();
     m_rawMessagesByChat.clear();
     m_messageMediaOwners.clear();
@@ -235,12 +224,5 @@ void TelegramSession::resetAccountState()
     m_loadingChatLists.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
-    m_pendingRecentStickers.clear();
-    m_rosterOrder.clear();
-    m_rosterRank.clear();
-    m_contactNames.clear();
     m_currentUserID.reset();
-    m_requestedTrendingStickers = false;
-    // Late answers to the old account's sticker requests no longer match.
-    m_stickerRequestID = QUuid::createUuid().toString(QUuid::WithoutBraces);
 }

@@ -5,6 +5,7 @@
 #include "session/DateTexts.h"
 #include "session/Initials.h"
 #include "session/TelegramSession.h"
+#include "session/UserStore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -88,7 +89,7 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
         }
     }
     QString baseSubtitle = chatSubtitle(type);
-    chat.subtitle = presenceSubtitle(record.privateChatUser, baseSubtitle);
+    chat.subtitle = m_users->presenceSubtitle(record.privateChatUser, baseSubtitle);
     record.baseSubtitle = std::move(baseSubtitle);
     chat.avatarText = initials(chat.title);
     record.isMuted = chat.isMuted;

@@ -1,9 +1,12 @@
 // The one entry point for every TDLib answer and update: answers are routed by the
 // purpose their request was tagged with, everything else by its type.
 
+#include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
+#include "session/StickerStore.h"
 #include "session/TelegramSession.h"
+#include "session/UserStore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +36,7 @@ void TelegramSession::handle(const TdObject &object, const QString &type)
     }
     // Read once: every event passes here, and updates carry no tag at all.
     const TdObject extra = object.value("@extra"_L1).toObject();
-    if (routeStickerAnswer(type, extra, object))
+    if (m_stickers->handleAnswer(type, extra, object))
         return;
     const QJsonValue purpose = extra.value("purpose"_L1);
     if (purpose.isString() && routeByPurpose(purpose.toString(), type, object))
@@ -67,7 +70,7 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
         }
         return false;
     }
-    if (routeContactAnswer(purpose, type, object))
+    if (m_contacts->handleAnswer(purpose, type, object))
         return true;
     if (purpose == "current_user"_L1 && type == "user"_L1) {
         storeCurrentUser(object);
@@ -187,7 +190,7 @@ bool TelegramSession::routeByTypeWithoutChat(const QString &type, const TdObject
         storeUser(object);
     } else if (type == "updateUserStatus"_L1) {
         if (const auto userID = int64From(object.value("user_id"_L1)))
-            setUserOnline(*userID, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
+            m_users->setOnline(*userID, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
     } else if (type == "updateFile"_L1) {
         trackDownload(object.value("file"_L1).toObject());
         applyDownloadedFile(object.value("file"_L1).toObject());

@@ -2,10 +2,11 @@
 // downloads of the files that are shown.
 
 #include "session/ContentTexts.h"
+#include "session/StickerStore.h"
 #include "session/TelegramSession.h"
+#include "session/UserStore.h"
 
 #include <QFileInfo>
-
 
 using namespace Qt::StringLiterals;
 
@@ -88,11 +89,7 @@ std::optional<QString> TelegramSession::resolvedMediaPath(const TdObject &file, 
 
 void TelegramSession::downloadFile(qint64 fileID)
 {
-    // A sync asks for thousands of avatars: the fixed fields are made once.
-    static const TdObject fixed{{"priority"_L1, 1}, {"offset"_L1, 0}, {"limit"_L1, 0}, {"synchronous"_L1, false}};
-    TdObject request = fixed;
-    request.insert("file_id"_L1, fileID);
-    send(u"downloadFile"_s, request);
+    requestDownload(storeSender(), fileID);
 }
 
 void TelegramSession::trackDownload(const TdObject &file)
@@ -101,8 +98,8 @@ void TelegramSession::trackDownload(const TdObject &file)
     if (!fileID || !m_messageMediaOwners.contains(*fileID))
         return;
     const TdObject local = file.value("local"_L1).toObject();
-    const qint64 size = std::max(int64From(file.value("size"_L1)).value_or(0),
-                                 int64From(file.value("expected_size"_L1)).value_or(0));
+    const qint64 size =
+        std::max(int64From(file.value("size"_L1)).value_or(0), int64From(file.value("expected_size"_L1)).value_or(0));
     const qint64 downloaded = int64From(local.value("downloaded_size"_L1)).value_or(0);
     const double progress = local.value("is_downloading_completed"_L1).toBool() ? 1.0
                             : size > 0 ? std::clamp(double(downloaded) / double(size), 0.0, 1.0)
@@ -121,15 +118,9 @@ void TelegramSession::applyDownloadedFile(const TdObject &file)
         return;
     if (const auto chat = m_chatAvatarOwners.constFind(*fileID); chat != m_chatAvatarOwners.cend())
         updateChat(*chat, [&path](Chat &c) { c.avatarPath = path; });
-    if (const auto userID = m_userAvatarOwners.constFind(*fileID); userID != m_userAvatarOwners.cend()) {
-        if (const auto user = m_telegramUsers.find(*userID); user != m_telegramUsers.end()) {
-            user->avatarPath = path;
-            republishChatsWithMessages();
-            refreshContactEntries(*userID);
-        }
-    }
+    m_users->applyDownloadedFile(*fileID, *path);
     m_downloadedMediaPaths.insert(*fileID, *path);
-    completePendingStickers(*fileID, *path);
+    m_stickers->applyDownloadedFile(*fileID, *path);
     for (const QString &chatID : m_messageMediaOwners.value(*fileID))
         publishMessages(chatID);
 }

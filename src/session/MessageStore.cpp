@@ -4,6 +4,7 @@
 #include "session/ContentTexts.h"
 #include "session/DateTexts.h"
 #include "session/TelegramSession.h"
+#include "session/UserStore.h"
 
 #include <QTimer>
 
@@ -40,7 +41,7 @@ void TelegramSession::publishMessages(const QString &chatID)
     messages.reserve(storedMessages.size());
     for (const StoredMessage &message : std::as_const(storedMessages))
         messages.append(message.object());
-    requestMissingUsers(messages);
+    m_users->requestMissingUsers(messages);
     QList<Message> published;
     QList<MessageDetails> details;
     published.reserve(messages.size());
@@ -54,8 +55,8 @@ void TelegramSession::publishMessages(const QString &chatID)
         return record && record->chat ? record->chat->title : QString();
     };
     const auto userName = [this](qint64 userID) {
-        const auto user = m_telegramUsers.constFind(userID);
-        return user == m_telegramUsers.cend() ? QString() : user->name;
+        const User *user = m_users->user(userID);
+        return user ? user->name : QString();
     };
     const QHash<qint64, TdObject> &replied = m_repliedMessages[chatID];
     const QSet<qint64> &missing = m_missingRepliedMessages[chatID];
@@ -92,14 +93,12 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
 
     const std::optional<qint64> senderUserID = int64From(raw.value("sender_id"_L1).toObject().value("user_id"_L1));
     if (message.isOutgoing) {
-        auto found = m_currentUserID ? m_telegramUsers.constFind(*m_currentUserID) : m_telegramUsers.cend();
-        if (found == m_telegramUsers.cend() && senderUserID)
-            found = m_telegramUsers.constFind(*senderUserID);
-        const bool known = found != m_telegramUsers.cend();
-        message.sender = User{newViewID(), u"You"_s, known ? found->initials : u"YO"_s, AvatarColor::Blue,
-                              known ? found->avatarPath : std::nullopt};
-    } else if (const auto sender = senderUserID ? m_telegramUsers.constFind(*senderUserID) : m_telegramUsers.cend();
-               sender != m_telegramUsers.cend()) {
+        const User *found = m_currentUserID ? m_users->user(*m_currentUserID) : nullptr;
+        if (!found && senderUserID)
+            found = m_users->user(*senderUserID);
+        message.sender = User{newViewID(), u"You"_s, found ? found->initials : u"YO"_s, AvatarColor::Blue,
+                              found ? found->avatarPath : std::nullopt};
+    } else if (const User *sender = senderUserID ? m_users->user(*senderUserID) : nullptr) {
         message.sender = *sender;
     } else {
         message.sender = User{newViewID(), u"Telegram"_s, u"TG"_s, AvatarColor::Teal, std::nullopt};

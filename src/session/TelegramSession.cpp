@@ -2,7 +2,10 @@
 
 #include "session/TelegramSession.h"
 
+#include "session/ContactStore.h"
 #include "session/SoundManager.h"
+#include "session/StickerStore.h"
+#include "session/UserStore.h"
 #include "tdlib/ReceiveLoop.h"
 #include "tdlib/TDLibRuntime.h"
 
@@ -29,19 +32,60 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
     , m_startupStatus(u"Waiting to start"_s)
-    , m_stickerRequestID(QUuid::createUuid().toString(QUuid::WithoutBraces))
-    , m_conversationTimeout(new QTimer(this))
+    , m_users(new UserStore(storeSender(), this))
+    , m_stickers(new StickerStore(storeSender(), this))
+    , m_contacts(new ContactStore(storeSender(), *m_users, this))
 {
-    m_conversationTimeout->setSingleShot(true);
-    connect(m_conversationTimeout, &QTimer::timeout, this, [this] {
-        failConversation(u"Telegram took too long to respond. A submitted contact may already be saved. Check "
-                         u"Contacts or try again."_s);
+    connect(m_users, &UserStore::presenceChanged, this, &TelegramSession::refreshPresence);
+    connect(m_users, &UserStore::userStored, this, &TelegramSession::republishChatsWithMessages);
+    connect(m_users, &UserStore::avatarArrived, this, [this](qint64 userID) {
+        republishChatsWithMessages();
+        m_contacts->refreshEntries(userID);
     });
+    connect(m_stickers, &StickerStore::recentStickersChanged, this, &TelegramSession::recentStickersChanged);
+    connect(m_stickers, &StickerStore::recentStickersLoadedChanged, this,
+            &TelegramSession::recentStickersLoadedChanged);
+    connect(m_stickers, &StickerStore::stickerErrorChanged, this, &TelegramSession::stickerErrorChanged);
+    connect(m_contacts, &ContactStore::contactsChanged, this, &TelegramSession::contactsChanged);
+    connect(m_contacts, &ContactStore::contactResultsChanged, this, &TelegramSession::contactResultsChanged);
+    connect(m_contacts, &ContactStore::conversationErrorChanged, this, &TelegramSession::conversationErrorChanged);
+    connect(m_contacts, &ContactStore::creatingConversationChanged, this,
+            &TelegramSession::creatingConversationChanged);
+    connect(m_contacts, &ContactStore::deletingChatsChanged, this, &TelegramSession::deletingChatsChanged);
+    connect(m_contacts, &ContactStore::newlyOpenedChatIDChanged, this, &TelegramSession::newlyOpenedChatIDChanged);
+    connect(m_contacts, &ContactStore::userReceived, this, &TelegramSession::storeUser);
+    connect(m_contacts, &ContactStore::conversationChatReceived, this, &TelegramSession::openConversationChat);
+    connect(m_contacts, &ContactStore::chatDeleted, this, &TelegramSession::forgetChat);
 }
 
 TelegramSession::~TelegramSession()
 {
     shutDown();
+}
+
+SendRequest TelegramSession::storeSender()
+{
+    return [this](const QString &type, const TdObject &fields) { send(type, fields); };
+}
+
+const QList<StickerChoice> &TelegramSession::recentStickers() const
+{
+    return m_stickers->recentStickers();
+}
+
+bool TelegramSession::recentStickersLoaded() const
+{
+    return m_stickers->recentStickersLoaded();
+}
+
+std::optional<QString> TelegramSession::stickerError() const
+{
+    return m_stickers->stickerError();
+}
+
+void TelegramSession::loadStickers(const QString &query, const QString &source)
+{
+    m_stickers->load(query, source);
 }
 
 QDate TelegramSession::localToday()

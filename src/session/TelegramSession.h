@@ -4,6 +4,7 @@
 #include "session/CodeInfo.h"
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
+#include "session/SendRequest.h"
 #include "session/Step.h"
 #include "session/StoredMessage.h"
 #include "tdlib/TdJson.h"
@@ -26,6 +27,9 @@ class QEventLoop;
 class QTimer;
 class ReceiveLoop;
 class SoundManager;
+class ContactStore;
+class StickerStore;
+class UserStore;
 class TDLibRuntime;
 
 // The application's one model object: it owns the TDLib client, follows TDLib's
@@ -126,9 +130,9 @@ public:
     // Stickers. source: "all", "recent", "installed" or "trending".
     Q_INVOKABLE void loadStickers(const QString &query, const QString &source);
     void sendSticker(const StickerChoice &sticker, const QString &chatID);
-    const QList<StickerChoice> &recentStickers() const { return m_recentStickers; }
-    bool recentStickersLoaded() const { return m_recentStickersLoaded; }
-    std::optional<QString> stickerError() const { return m_stickerError; }
+    const QList<StickerChoice> &recentStickers() const;
+    bool recentStickersLoaded() const;
+    std::optional<QString> stickerError() const;
 
     // Contacts and conversations
     Q_INVOKABLE void refreshContacts();
@@ -143,16 +147,16 @@ public:
     Q_INVOKABLE void deleteContact(qint64 userID);
     // Stops waiting for the conversation in progress; a late answer is ignored.
     Q_INVOKABLE void cancelConversation();
-    const QList<ContactChoice> &contacts() const { return m_contacts; }
-    const QList<ContactChoice> &contactResults() const { return m_contactResults; }
-    std::optional<QString> conversationError() const { return m_conversationError; }
-    QString conversationErrorText() const { return m_conversationError.value_or(QString()); }
-    bool creatingConversation() const { return m_creatingConversation; }
-    const QSet<QString> &deletingChats() const { return m_deletingChats; }
+    const QList<ContactChoice> &contacts() const;
+    const QList<ContactChoice> &contactResults() const;
+    std::optional<QString> conversationError() const;
+    QString conversationErrorText() const { return conversationError().value_or(QString()); }
+    bool creatingConversation() const;
+    const QSet<QString> &deletingChats() const;
     // For the views: the chats being deleted, and whether a chat is with one person.
-    QStringList deletingChatIDs() const { return m_deletingChats.values(); }
+    QStringList deletingChatIDs() const { return deletingChats().values(); }
     Q_INVOKABLE bool isPrivateChat(const QString &chatID) const { return privateChatUser(chatID).has_value(); }
-    std::optional<QString> newlyOpenedChatID() const { return m_newlyOpenedChatID; }
+    std::optional<QString> newlyOpenedChatID() const;
 
     // One raw answer or update as TDLib delivered it.
     void handleResponse(const QByteArray &json);
@@ -188,6 +192,8 @@ Q_SIGNALS:
 private:
     // Channel
     void send(const QString &type, const TdObject &fields = {});
+    // How the stores send: through send, so observers see their requests too.
+    SendRequest storeSender();
     void startClient();
     void quietTDLibLog();
     friend class ChannelTest;
@@ -261,14 +267,9 @@ private:
 
     // Users, presence and typing
     void storeUser(const TdObject &user);
-    void requestMissingUsers(const QList<TdObject> &messages);
     void refreshPresence(qint64 userID);
-    QString presenceSubtitle(std::optional<qint64> privateChatUser, const QString &fallback) const;
     void updateTypingStatus(const TdObject &update);
-    void setUserOnline(qint64 userID, bool online);
-    std::optional<QString> prepareAvatar(const QJsonValue &photo, const std::function<void(qint64)> &recordOwner);
     std::optional<QString> prepareChatAvatar(const QJsonValue &photo, const QString &chatID);
-    std::optional<QString> prepareUserAvatar(const QJsonValue &photo, qint64 userID);
     void republishChatsWithMessages();
 
     // Outgoing
@@ -278,34 +279,9 @@ private:
                              const QString &chatID);
     void sendFile(const QString &path, const QString &caption, const QString &chatID, PendingAttachmentKind kind);
 
-    // Stickers
-    bool routeStickerAnswer(const QString &type, const TdObject &extra, const TdObject &object);
-    void requestTrendingStickers();
-    void requestStickerSets(const QJsonArray &sets);
-    void prepareStickerChoices(const QJsonArray &stickers, bool reset);
-    void addRecentSticker(const StickerChoice &choice);
-    void completePendingStickers(qint64 fileID, const QString &path);
-    void setRecentStickersLoaded(bool loaded);
-    void setStickerError(const std::optional<QString> &error);
-
     // Contacts and conversations
-    bool routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object);
-    void failConversation(const QString &text);
-    void setConversationError(const std::optional<QString> &error);
-    void setCreatingConversation(bool creating);
     void openConversationChat(const TdObject &chat);
     void forgetChat(const QString &chatID);
-    // A contact's name and username, read once from its user object.
-    struct ContactName {
-        QString name;
-        QString username;
-    };
-    static ContactName contactName(const TdObject &user);
-    ContactChoice makeContactChoice(qint64 userID, const ContactName &name) const;
-    void publishRosterContact(const TdObject &user);
-    void rankRoster();
-    void publishContactResult(const TdObject &user, const QString &query);
-    void refreshContactEntries(qint64 userID);
 
     // Notifications
     void notifyIfNeeded(const TdObject &message);
@@ -430,38 +406,11 @@ private:
     QHash<qint64, QString> m_downloadedMediaPaths;
     QHash<qint64, double> m_downloadProgress; // of files shown in messages, 0 to 1
     QHash<qint64, QString> m_chatAvatarOwners;
-    QHash<qint64, qint64> m_userAvatarOwners;
 
-    // Users
-    QHash<qint64, User> m_telegramUsers;
-    QSet<qint64> m_requestedUserIDs;
-    QSet<qint64> m_onlineUsers;
-    QSet<qint64> m_contactUserIDs;
+    UserStore *m_users;
 
     QHash<QString, QStringList> m_imageDiagnosticEvents;
 
-    // Stickers
-    QList<StickerChoice> m_recentStickers;
-    bool m_recentStickersLoaded = false;
-    std::optional<QString> m_stickerError;
-    QString m_stickerRequestID;
-    QHash<qint64, QList<StickerChoice>> m_pendingRecentStickers;
-    bool m_requestedTrendingStickers = false;
-    QSet<qint64> m_requestedStickerSets;
-
-    // Contacts and conversations
-    QList<ContactChoice> m_contacts;
-    QList<qint64> m_rosterOrder;
-    QHash<qint64, qsizetype> m_rosterRank; // each contact's place in m_rosterOrder
-    // The names behind contact entries; kept as texts, as a parsed user object
-    // holds far more than the entry shows.
-    QHash<qint64, ContactName> m_contactNames;
-    QList<ContactChoice> m_contactResults;
-    QString m_contactQuery;
-    std::optional<QString> m_conversationError;
-    bool m_creatingConversation = false;
-    QSet<QString> m_deletingChats;
-    std::optional<QString> m_newlyOpenedChatID;
-    std::optional<QString> m_conversationRequestID;
-    QTimer *m_conversationTimeout;
+    StickerStore *m_stickers;
+    ContactStore *m_contacts;
 };

@@ -1,10 +1,9 @@
-// The sticker picker's data: recent, installed and trending stickers, and search
-// by emoji or keyword. Each load has an identifier of its own; answers to an
-// abandoned load change nothing.
+#include "session/StickerStore.h"
 
 #include "session/ContentTexts.h"
 #include "session/Emoji.h"
-#include "session/TelegramSession.h"
+
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +17,20 @@ TdObject regularStickers()
     return {{"@type"_L1, u"stickerTypeRegular"_s}};
 }
 
+QString newRequestID()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
 } // namespace
 
-void TelegramSession::setRecentStickersLoaded(bool loaded)
+StickerStore::StickerStore(SendRequest send, QObject *parent)
+    : QObject(parent)
+    , m_send(std::move(send))
+    , m_requestID(newRequestID())
+{}
+
+void StickerStore::setRecentStickersLoaded(bool loaded)
 {
     if (m_recentStickersLoaded == loaded)
         return;
@@ -28,7 +38,7 @@ void TelegramSession::setRecentStickersLoaded(bool loaded)
     Q_EMIT recentStickersLoadedChanged();
 }
 
-void TelegramSession::setStickerError(const std::optional<QString> &error)
+void StickerStore::setStickerError(const std::optional<QString> &error)
 {
     if (m_stickerError == error)
         return;
@@ -36,59 +46,68 @@ void TelegramSession::setStickerError(const std::optional<QString> &error)
     Q_EMIT stickerErrorChanged();
 }
 
-void TelegramSession::loadStickers(const QString &query, const QString &source)
+void StickerStore::reset()
 {
-    m_stickerRequestID = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    m_recentStickers.clear();
+    Q_EMIT recentStickersChanged();
+    setRecentStickersLoaded(false);
+    setStickerError(std::nullopt);
+    m_pendingStickers.clear();
+    m_requestedStickerSets.clear();
+    m_requestID = newRequestID();
+}
+
+void StickerStore::load(const QString &query, const QString &source)
+{
+    m_requestID = newRequestID();
     setStickerError(std::nullopt);
     setRecentStickersLoaded(false);
     m_recentStickers.clear();
     Q_EMIT recentStickersChanged();
-    m_pendingRecentStickers.clear();
-    m_requestedTrendingStickers = false;
+    m_pendingStickers.clear();
     m_requestedStickerSets.clear();
 
     const QString trimmed = query.trimmed();
     if (!trimmed.isEmpty()) {
         const bool byEmoji = containsEmoji(trimmed);
-        send(u"searchStickers"_s, {{"sticker_type"_L1, regularStickers()},
-                                   {"emojis"_L1, byEmoji ? trimmed : QString()},
-                                   {"query"_L1, byEmoji ? QString() : trimmed},
-                                   {"input_language_codes"_L1, QJsonArray()},
-                                   {"offset"_L1, 0},
-                                   {"limit"_L1, 100},
-                                   {"@extra"_L1, TdObject{{"purpose"_L1, u"sticker_search"_s},
-                                                          {"sticker_request"_L1, m_stickerRequestID}}}});
+        m_send(u"searchStickers"_s,
+               {{"sticker_type"_L1, regularStickers()},
+                {"emojis"_L1, byEmoji ? trimmed : QString()},
+                {"query"_L1, byEmoji ? QString() : trimmed},
+                {"input_language_codes"_L1, QJsonArray()},
+                {"offset"_L1, 0},
+                {"limit"_L1, 100},
+                {"@extra"_L1, TdObject{{"purpose"_L1, u"sticker_search"_s}, {"sticker_request"_L1, m_requestID}}}});
         return;
     }
     const bool all = source == "all"_L1;
     if (all || source == "recent"_L1) {
-        send(u"getRecentStickers"_s, {{"is_attached"_L1, false},
-                                      {"@extra"_L1, TdObject{{"purpose"_L1, u"recent_stickers"_s},
-                                                             {"sticker_request"_L1, m_stickerRequestID}}}});
+        m_send(u"getRecentStickers"_s,
+               {{"is_attached"_L1, false},
+                {"@extra"_L1, TdObject{{"purpose"_L1, u"recent_stickers"_s}, {"sticker_request"_L1, m_requestID}}}});
     }
     if (all || source == "installed"_L1) {
-        send(u"getInstalledStickerSets"_s, {{"sticker_type"_L1, regularStickers()},
-                                            {"@extra"_L1, TdObject{{"sticker_request"_L1, m_stickerRequestID}}}});
+        m_send(u"getInstalledStickerSets"_s,
+               {{"sticker_type"_L1, regularStickers()}, {"@extra"_L1, TdObject{{"sticker_request"_L1, m_requestID}}}});
     }
     if (all || source == "trending"_L1)
         requestTrendingStickers();
 }
 
-void TelegramSession::requestTrendingStickers()
+void StickerStore::requestTrendingStickers()
 {
-    m_requestedTrendingStickers = true;
-    send(u"getTrendingStickerSets"_s, {{"sticker_type"_L1, regularStickers()},
-                                       {"offset"_L1, 0},
-                                       {"limit"_L1, maximumStickerSets},
-                                       {"@extra"_L1, TdObject{{"sticker_request"_L1, m_stickerRequestID}}}});
+    m_send(u"getTrendingStickerSets"_s, {{"sticker_type"_L1, regularStickers()},
+                                         {"offset"_L1, 0},
+                                         {"limit"_L1, maximumStickerSets},
+                                         {"@extra"_L1, TdObject{{"sticker_request"_L1, m_requestID}}}});
 }
 
-bool TelegramSession::routeStickerAnswer(const QString &type, const TdObject &extra, const TdObject &object)
+bool StickerStore::handleAnswer(const QString &type, const TdObject &extra, const TdObject &object)
 {
     const QJsonValue requestID = extra.value("sticker_request"_L1);
     if (requestID.isUndefined())
         return false;
-    const bool current = requestID.toString() == m_stickerRequestID;
+    const bool current = requestID.toString() == m_requestID;
     if (type == "error"_L1) {
         if (current) {
             setStickerError(u"Unable to load stickers."_s);
@@ -102,13 +121,13 @@ bool TelegramSession::routeStickerAnswer(const QString &type, const TdObject &ex
     if (!current)
         return true; // an answer to an abandoned load
     if (type == "stickers"_L1 || type == "stickerSet"_L1)
-        prepareStickerChoices(object.value("stickers"_L1).toArray(), false);
+        prepareStickerChoices(object.value("stickers"_L1).toArray());
     else
         requestStickerSets(object.value("sets"_L1).toArray());
     return true;
 }
 
-void TelegramSession::requestStickerSets(const QJsonArray &sets)
+void StickerStore::requestStickerSets(const QJsonArray &sets)
 {
     QJsonArray covers;
     for (const QJsonValue &set : sets) {
@@ -117,23 +136,19 @@ void TelegramSession::requestStickerSets(const QJsonArray &sets)
     }
     // Covers first, so the picker shows something before the full sets arrive.
     if (!covers.isEmpty())
-        prepareStickerChoices(covers, false);
+        prepareStickerChoices(covers);
     for (qsizetype i = 0; i < sets.size() && i < maximumStickerSets; ++i) {
         const std::optional<qint64> setID = int64From(sets.at(i).toObject().value("id"_L1));
         if (!setID || m_requestedStickerSets.contains(*setID))
             continue;
         m_requestedStickerSets.insert(*setID);
-        send(u"getStickerSet"_s,
-             {{"set_id"_L1, *setID}, {"@extra"_L1, TdObject{{"sticker_request"_L1, m_stickerRequestID}}}});
+        m_send(u"getStickerSet"_s,
+               {{"set_id"_L1, *setID}, {"@extra"_L1, TdObject{{"sticker_request"_L1, m_requestID}}}});
     }
 }
 
-void TelegramSession::prepareStickerChoices(const QJsonArray &stickers, bool reset)
+void StickerStore::prepareStickerChoices(const QJsonArray &stickers)
 {
-    if (reset) {
-        m_recentStickers.clear();
-        Q_EMIT recentStickersChanged();
-    }
     setRecentStickersLoaded(true);
     for (const QJsonValue &value : stickers) {
         if (m_recentStickers.size() >= maximumStickers)
@@ -154,13 +169,13 @@ void TelegramSession::prepareStickerChoices(const QJsonArray &stickers, bool res
         addRecentSticker(choice);
         if (choice.path.isEmpty()) {
             // Shown once its file is here.
-            m_pendingRecentStickers[*fileID].append(choice);
-            downloadFile(*fileID);
+            m_pendingStickers[*fileID].append(choice);
+            requestDownload(m_send, *fileID);
         }
     }
 }
 
-void TelegramSession::addRecentSticker(const StickerChoice &choice)
+void StickerStore::addRecentSticker(const StickerChoice &choice)
 {
     const auto same = std::find_if(m_recentStickers.begin(), m_recentStickers.end(),
                                    [&choice](const StickerChoice &c) { return c.id == choice.id; });
@@ -171,9 +186,9 @@ void TelegramSession::addRecentSticker(const StickerChoice &choice)
     Q_EMIT recentStickersChanged();
 }
 
-void TelegramSession::completePendingStickers(qint64 fileID, const QString &path)
+void StickerStore::applyDownloadedFile(qint64 fileID, const QString &path)
 {
-    const QList<StickerChoice> pending = m_pendingRecentStickers.take(fileID);
+    const QList<StickerChoice> pending = m_pendingStickers.take(fileID);
     for (const StickerChoice &choice : pending) {
         const auto shown = std::find_if(m_recentStickers.begin(), m_recentStickers.end(),
                                         [&choice](const StickerChoice &c) { return c.id == choice.id; });

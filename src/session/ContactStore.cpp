@@ -2,10 +2,12 @@
 // phone number, opening a public username or a private chat (one outstanding
 // request with a time-out), and deleting chats and contacts.
 
+#include "session/ContactStore.h"
+
 #include "session/ContactInput.h"
 #include "session/ContentTexts.h"
 #include "session/Initials.h"
-#include "session/TelegramSession.h"
+#include "session/UserStore.h"
 
 #include <QTimer>
 
@@ -32,7 +34,58 @@ QString errorText(const TdObject &error)
 
 } // namespace
 
-void TelegramSession::setConversationError(const std::optional<QString> &error)
+ContactStore::ContactStore(SendRequest send, const UserStore &users, QObject *parent)
+    : QObject(parent)
+    , m_send(std::move(send))
+    , m_users(users)
+    , m_conversationTimeout(new QTimer(this))
+{
+    m_conversationTimeout->setSingleShot(true);
+    connect(m_conversationTimeout, &QTimer::timeout, this, [this] {
+        failConversation(u"Telegram took too long to respond. A submitted contact may already be saved. Check "
+                         u"Contacts or try again."_s);
+    });
+}
+
+void ContactStore::reset()
+{
+    cancelConversation();
+    m_deletingChats.clear();
+    Q_EMIT deletingChatsChanged();
+    setConversationError(std::nullopt);
+    m_newlyOpenedChatID.reset();
+    Q_EMIT newlyOpenedChatIDChanged();
+    m_contacts.clear();
+    Q_EMIT contactsChanged();
+    m_contactResults.clear();
+    Q_EMIT contactResultsChanged();
+    m_contactQuery.clear();
+    m_contactUserIDs.clear();
+    m_rosterOrder.clear();
+    m_rosterRank.clear();
+    m_contactNames.clear();
+}
+
+void ContactStore::noteUser(const TdObject &user)
+{
+    const std::optional<qint64> id = int64From(user.value("id"_L1));
+    if (!id)
+        return;
+    const QJsonValue isContact = user.value("is_contact"_L1);
+    if (isContact.isBool()) {
+        if (isContact.toBool()) {
+            m_contactUserIDs.insert(*id);
+        } else {
+            m_contactUserIDs.remove(*id);
+            if (m_contacts.removeIf([id](const ContactChoice &c) { return c.id == *id; }) > 0)
+                Q_EMIT contactsChanged();
+        }
+    }
+    if (const auto contact = m_contactNames.find(*id); contact != m_contactNames.end())
+        *contact = contactName(user);
+}
+
+void ContactStore::setConversationError(const std::optional<QString> &error)
 {
     if (m_conversationError == error)
         return;
@@ -40,7 +93,7 @@ void TelegramSession::setConversationError(const std::optional<QString> &error)
     Q_EMIT conversationErrorChanged();
 }
 
-void TelegramSession::setCreatingConversation(bool creating)
+void ContactStore::setCreatingConversation(bool creating)
 {
     if (m_creatingConversation == creating)
         return;
@@ -48,12 +101,12 @@ void TelegramSession::setCreatingConversation(bool creating)
     Q_EMIT creatingConversationChanged();
 }
 
-void TelegramSession::refreshContacts()
+void ContactStore::refresh()
 {
-    send(u"getContacts"_s, {{"@extra"_L1, tagged(u"contact_roster"_s)}});
+    m_send(u"getContacts"_s, {{"@extra"_L1, tagged(u"contact_roster"_s)}});
 }
 
-void TelegramSession::searchContacts(const QString &query)
+void ContactStore::search(const QString &query)
 {
     const QString trimmed = query.trimmed();
     m_contactQuery = trimmed;
@@ -62,12 +115,12 @@ void TelegramSession::searchContacts(const QString &query)
         Q_EMIT contactResultsChanged();
         return;
     }
-    send(
+    m_send(
         u"searchContacts"_s,
         {{"query"_L1, trimmed}, {"limit"_L1, 30}, {"@extra"_L1, tagged(u"contact_search"_s, {{"query"_L1, trimmed}})}});
 }
 
-QString TelegramSession::beginConversation()
+QString ContactStore::beginConversation()
 {
     cancelConversation();
     setConversationError(std::nullopt);
@@ -78,21 +131,21 @@ QString TelegramSession::beginConversation()
     return requestID;
 }
 
-void TelegramSession::cancelConversation()
+void ContactStore::cancelConversation()
 {
     m_conversationTimeout->stop();
     m_conversationRequestID.reset();
     setCreatingConversation(false);
 }
 
-void TelegramSession::failConversation(const QString &text)
+void ContactStore::failConversation(const QString &text)
 {
     cancelConversation();
     setConversationError(text);
 }
 
-void TelegramSession::createContact(const QString &firstName, const QString &lastName, const QString &phone,
-                                    const QString &note)
+void ContactStore::createContact(const QString &firstName, const QString &lastName, const QString &phone,
+                                 const QString &note)
 {
     if (m_creatingConversation)
         return;
@@ -113,15 +166,15 @@ void TelegramSession::createContact(const QString &firstName, const QString &las
         note.isEmpty()
             ? QJsonValue(QJsonValue::Null)
             : QJsonValue(TdObject{{"@type"_L1, u"formattedText"_s}, {"text"_L1, note}, {"entities"_L1, QJsonArray()}});
-    send(u"importContacts"_s, {{"contacts"_L1, QJsonArray{TdObject{{"@type"_L1, u"importedContact"_s},
-                                                                   {"phone_number"_L1, *number},
-                                                                   {"first_name"_L1, first},
-                                                                   {"last_name"_L1, last},
-                                                                   {"note"_L1, noteText}}}},
-                               {"@extra"_L1, tagged(u"new_contact"_s, {{"conversation_request"_L1, requestID}})}});
+    m_send(u"importContacts"_s, {{"contacts"_L1, QJsonArray{TdObject{{"@type"_L1, u"importedContact"_s},
+                                                                     {"phone_number"_L1, *number},
+                                                                     {"first_name"_L1, first},
+                                                                     {"last_name"_L1, last},
+                                                                     {"note"_L1, noteText}}}},
+                                 {"@extra"_L1, tagged(u"new_contact"_s, {{"conversation_request"_L1, requestID}})}});
 }
 
-void TelegramSession::openUsername(const QString &username)
+void ContactStore::openUsername(const QString &username)
 {
     if (m_creatingConversation)
         return;
@@ -132,20 +185,21 @@ void TelegramSession::openUsername(const QString &username)
         return;
     }
     const QString requestID = beginConversation();
-    send(u"searchPublicChat"_s,
-         {{"username"_L1, *name},
-          {"@extra"_L1, tagged(u"open_private_chat"_s, {{"conversation_request"_L1, requestID}})}});
+    m_send(u"searchPublicChat"_s,
+           {{"username"_L1, *name},
+            {"@extra"_L1, tagged(u"open_private_chat"_s, {{"conversation_request"_L1, requestID}})}});
 }
 
-void TelegramSession::requestPrivateChat(qint64 userID, const QString &requestID, bool contactSaved)
+void ContactStore::requestPrivateChat(qint64 userID, const QString &requestID, bool contactSaved)
 {
-    send(u"createPrivateChat"_s, {{"user_id"_L1, userID},
-                                  {"force"_L1, false},
-                                  {"@extra"_L1, tagged(u"open_private_chat"_s, {{"conversation_request"_L1, requestID},
-                                                                                {"contact_saved"_L1, contactSaved}})}});
+    m_send(u"createPrivateChat"_s,
+           {{"user_id"_L1, userID},
+            {"force"_L1, false},
+            {"@extra"_L1, tagged(u"open_private_chat"_s,
+                                 {{"conversation_request"_L1, requestID}, {"contact_saved"_L1, contactSaved}})}});
 }
 
-void TelegramSession::deleteChat(const QString &chatID, bool includingContact)
+void ContactStore::deleteChat(const QString &chatID, std::optional<qint64> contactID)
 {
     const std::optional<qint64> chat = parseInt64(chatID);
     if (!chat)
@@ -153,19 +207,19 @@ void TelegramSession::deleteChat(const QString &chatID, bool includingContact)
     m_deletingChats.insert(chatID);
     Q_EMIT deletingChatsChanged();
     TdObject extra = tagged(u"delete_chat"_s, {{"chat_id"_L1, chatID}});
-    if (includingContact)
-        extra.insert("contact_id"_L1, privateChatUser(chatID).value_or(0));
-    send(u"deleteChatHistory"_s,
-         {{"chat_id"_L1, *chat}, {"remove_from_chat_list"_L1, true}, {"revoke"_L1, false}, {"@extra"_L1, extra}});
+    if (contactID)
+        extra.insert("contact_id"_L1, *contactID);
+    m_send(u"deleteChatHistory"_s,
+           {{"chat_id"_L1, *chat}, {"remove_from_chat_list"_L1, true}, {"revoke"_L1, false}, {"@extra"_L1, extra}});
 }
 
-void TelegramSession::deleteContact(qint64 userID)
+void ContactStore::deleteContact(qint64 userID)
 {
-    send(u"removeContacts"_s, {{"user_ids"_L1, QJsonArray{userID}},
-                               {"@extra"_L1, tagged(u"delete_contact"_s, {{"contact_id"_L1, userID}})}});
+    m_send(u"removeContacts"_s, {{"user_ids"_L1, QJsonArray{userID}},
+                                 {"@extra"_L1, tagged(u"delete_contact"_s, {{"contact_id"_L1, userID}})}});
 }
 
-bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &type, const TdObject &object)
+bool ContactStore::handleAnswer(const QString &purpose, const QString &type, const TdObject &object)
 {
     const TdObject extra = object.value("@extra"_L1).toObject();
     const QJsonValue request = extra.value("conversation_request"_L1);
@@ -182,7 +236,7 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
         } else if (type == "chat"_L1) {
             openConversationChat(object);
         } else if (purpose == "new_contact"_L1) {
-            refreshContacts();
+            refresh();
             for (const QJsonValue &id : object.value("user_ids"_L1).toArray()) {
                 if (const auto userID = int64From(id); userID && *userID != 0) {
                     requestPrivateChat(*userID, request.toString(), true);
@@ -207,8 +261,8 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
         forgetChat(chatID);
         const qint64 contactID = int64From(extra.value("contact_id"_L1)).value_or(0);
         if (contactID != 0) {
-            send(u"removeContacts"_s, {{"user_ids"_L1, QJsonArray{contactID}},
-                                       {"@extra"_L1, tagged(u"chat_deleted"_s, {{"contact_id"_L1, contactID}})}});
+            m_send(u"removeContacts"_s, {{"user_ids"_L1, QJsonArray{contactID}},
+                                         {"@extra"_L1, tagged(u"chat_deleted"_s, {{"contact_id"_L1, contactID}})}});
         }
         return true;
     }
@@ -231,7 +285,7 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
             if (m_contacts.removeIf([id = *contactID](const ContactChoice &c) { return c.id == id; }) > 0)
                 Q_EMIT contactsChanged();
         }
-        refreshContacts();
+        refresh();
         return true;
     }
     if (purpose == "contact_search"_L1 && type == "users"_L1) {
@@ -243,8 +297,8 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
         }
         for (const QJsonValue &id : ids) {
             if (const auto userID = int64From(id))
-                send(u"getUser"_s, {{"user_id"_L1, *userID},
-                                    {"@extra"_L1, tagged(u"contact_search_result"_s, {{"query"_L1, query}})}});
+                m_send(u"getUser"_s, {{"user_id"_L1, *userID},
+                                      {"@extra"_L1, tagged(u"contact_search_result"_s, {{"query"_L1, query}})}});
         }
         return true;
     }
@@ -253,7 +307,7 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
         for (const QJsonValue &id : object.value("user_ids"_L1).toArray()) {
             if (const auto userID = int64From(id)) {
                 m_rosterOrder.append(*userID);
-                send(u"getUser"_s, {{"user_id"_L1, *userID}, {"@extra"_L1, tagged(u"contact_roster_result"_s)}});
+                m_send(u"getUser"_s, {{"user_id"_L1, *userID}, {"@extra"_L1, tagged(u"contact_roster_result"_s)}});
             }
         }
         rankRoster();
@@ -271,19 +325,19 @@ bool TelegramSession::routeContactAnswer(const QString &purpose, const QString &
         return true;
     }
     if (purpose == "contact_search_result"_L1 && type == "user"_L1) {
-        storeUser(object);
+        Q_EMIT userReceived(object);
         publishContactResult(object, extra.value("query"_L1).toString());
         return true;
     }
     if (purpose == "contact_roster_result"_L1 && type == "user"_L1) {
-        storeUser(object);
+        Q_EMIT userReceived(object);
         publishRosterContact(object);
         return true;
     }
     return false;
 }
 
-void TelegramSession::openConversationChat(const TdObject &chat)
+void ContactStore::openConversationChat(const TdObject &chat)
 {
     const std::optional<qint64> id = int64From(chat.value("id"_L1));
     if (!id) {
@@ -291,41 +345,20 @@ void TelegramSession::openConversationChat(const TdObject &chat)
         return;
     }
     const QString chatID = QString::number(*id);
-    m_removedChatIDs.remove(chatID);
-    // Opened directly, so shown even before TDLib gives it a list position.
-    m_explicitlyOpenedChats.insert(chatID);
-    addOrUpdateChat(chat);
+    Q_EMIT conversationChatReceived(chat);
     cancelConversation();
     m_newlyOpenedChatID = chatID;
     Q_EMIT newlyOpenedChatIDChanged();
 }
 
-void TelegramSession::forgetChat(const QString &chatID)
+void ContactStore::forgetChat(const QString &chatID)
 {
-    m_removedChatIDs.insert(chatID);
     m_deletingChats.remove(chatID);
     Q_EMIT deletingChatsChanged();
-    // What describes Telegram rather than the list (read markers, the other
-    // person, the base subtitle, muting) is kept, as after signing out.
-    if (ChatRecord *record = findChatRecord(chatID)) {
-        record->chat.reset();
-        record->positions = {};
-    }
-    m_explicitlyOpenedChats.remove(chatID);
-    m_rawMessagesByChat.remove(chatID);
-    m_loadingInitialHistory.remove(chatID);
-    m_initialHistoryProgress.remove(chatID);
-    m_loadingOlderHistory.remove(chatID);
-    m_exhaustedHistory.remove(chatID);
-    m_expandedHistory.remove(chatID);
-    m_messageDetailsByChat.remove(chatID);
-    if (m_messagesByChat.remove(chatID) > 0)
-        Q_EMIT messagesChanged(chatID);
-    m_chatsToSort.append(chatID);
-    sortChats();
+    Q_EMIT chatDeleted(chatID);
 }
 
-TelegramSession::ContactName TelegramSession::contactName(const TdObject &user)
+ContactStore::ContactName ContactStore::contactName(const TdObject &user)
 {
     const QString joined = fullName(user);
     const QJsonArray active = user.value("usernames"_L1).toObject().value("active_usernames"_L1).toArray();
@@ -333,18 +366,18 @@ TelegramSession::ContactName TelegramSession::contactName(const TdObject &user)
             active.isEmpty() ? QString() : u"@"_s + active.first().toString()};
 }
 
-ContactChoice TelegramSession::makeContactChoice(qint64 userID, const ContactName &name) const
+ContactChoice ContactStore::makeContactChoice(qint64 userID, const ContactName &name) const
 {
-    const auto stored = m_telegramUsers.constFind(userID);
+    const User *stored = m_users.user(userID);
     return {userID,
             name.name,
             name.username,
             initials(name.name),
-            stored != m_telegramUsers.cend() ? stored->avatarPath : std::nullopt,
-            m_onlineUsers.contains(userID)};
+            stored ? stored->avatarPath : std::nullopt,
+            m_users.isOnline(userID)};
 }
 
-void TelegramSession::publishRosterContact(const TdObject &user)
+void ContactStore::publishRosterContact(const TdObject &user)
 {
     const std::optional<qint64> userID = int64From(user.value("id"_L1));
     const auto rank = userID ? m_rosterRank.constFind(*userID) : m_rosterRank.cend();
@@ -365,7 +398,7 @@ void TelegramSession::publishRosterContact(const TdObject &user)
     Q_EMIT contactsChanged();
 }
 
-void TelegramSession::rankRoster()
+void ContactStore::rankRoster()
 {
     m_rosterRank.clear();
     m_rosterRank.reserve(m_rosterOrder.size());
@@ -373,7 +406,7 @@ void TelegramSession::rankRoster()
         m_rosterRank.insert(m_rosterOrder.at(i), i);
 }
 
-void TelegramSession::publishContactResult(const TdObject &user, const QString &query)
+void ContactStore::publishContactResult(const TdObject &user, const QString &query)
 {
     const std::optional<qint64> userID = int64From(user.value("id"_L1));
     if (!userID || query != m_contactQuery)
@@ -390,9 +423,9 @@ void TelegramSession::publishContactResult(const TdObject &user, const QString &
     Q_EMIT contactResultsChanged();
 }
 
-void TelegramSession::refreshContactEntries(qint64 userID)
+void ContactStore::refreshEntries(qint64 userID)
 {
-    const auto refresh = [this, userID](QList<ContactChoice> &list) {
+    const auto refreshList = [this, userID](QList<ContactChoice> &list) {
         bool changed = false;
         for (ContactChoice &contact : list) {
             if (contact.id != userID)
@@ -405,8 +438,8 @@ void TelegramSession::refreshContactEntries(qint64 userID)
         }
         return changed;
     };
-    if (refresh(m_contacts))
+    if (refreshList(m_contacts))
         Q_EMIT contactsChanged();
-    if (refresh(m_contactResults))
+    if (refreshList(m_contactResults))
         Q_EMIT contactResultsChanged();
 }

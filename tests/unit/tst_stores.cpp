@@ -1,0 +1,231 @@
+// The session's stores on their own: what each forgets when the account changes,
+// and that each leaves answers and updates that are not its own to the others.
+
+#include "session/ContactStore.h"
+#include "session/StickerStore.h"
+#include "session/UserStore.h"
+
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Request {
+    QString type;
+    TdObject fields;
+};
+
+// Keeps what a store sends, as TDLib would receive it.
+struct Sent {
+    QList<Request> requests;
+    SendRequest sender()
+    {
+        return [this](const QString &type, const TdObject &fields) { requests.append({type, fields}); };
+    }
+    TdObject extraOf(const QString &type) const
+    {
+        for (const Request &request : requests) {
+            if (request.type == type)
+                return request.fields.value("@extra"_L1).toObject();
+        }
+        return {};
+    }
+    int count(const QString &type) const
+    {
+        return int(
+            std::count_if(requests.cbegin(), requests.cend(), [&type](const Request &r) { return r.type == type; }));
+    }
+};
+
+TdObject file(qint64 id, const QString &path = {})
+{
+    return {{"@type"_L1, u"file"_s},
+            {"id"_L1, id},
+            {"local"_L1, TdObject{{"path"_L1, path}, {"is_downloading_completed"_L1, !path.isEmpty()}}}};
+}
+
+TdObject sticker(qint64 id, qint64 fileID)
+{
+    return {{"@type"_L1, u"sticker"_s},  {"id"_L1, QString::number(id)},
+            {"emoji"_L1, u"🙂"_s},     {"width"_L1, 512},
+            {"height"_L1, 512},          {"format"_L1, TdObject{{"@type"_L1, u"stickerFormatWebp"_s}}},
+            {"sticker"_L1, file(fileID)}};
+}
+
+TdObject user(qint64 id, const QString &firstName, bool online = false, std::optional<bool> contact = {})
+{
+    TdObject object{{"@type"_L1, u"user"_s},
+                    {"id"_L1, id},
+                    {"first_name"_L1, firstName},
+                    {"last_name"_L1, u""_s},
+                    {"status"_L1, TdObject{{"@type"_L1, online ? u"userStatusOnline"_s : u"userStatusOffline"_s}}},
+                    {"profile_photo"_L1, TdObject{{"small"_L1, file(900 + id)}}}};
+    if (contact)
+        object.insert("is_contact"_L1, *contact);
+    return object;
+}
+
+TdObject answer(const QString &type, const TdObject &extra, TdObject fields = {})
+{
+    fields.insert("@type"_L1, type);
+    fields.insert("@extra"_L1, extra);
+    return fields;
+}
+
+} // namespace
+
+class StoresTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void stickersResetForgetsTheLoadAndItsLateAnswers()
+    {
+        Sent sent;
+        StickerStore stickers(sent.sender());
+        stickers.load(QString(), u"recent"_s);
+        const TdObject extra = sent.extraOf(u"getRecentStickers"_s);
+        QVERIFY(!extra.value("sticker_request"_L1).toString().isEmpty());
+        const TdObject list{{"stickers"_L1, QJsonArray{sticker(1, 11), sticker(2, 12)}}};
+        QVERIFY(stickers.handleAnswer(u"stickers"_s, extra, list));
+        QCOMPARE(stickers.recentStickers().size(), 2);
+        QVERIFY(stickers.recentStickersLoaded());
+        QCOMPARE(sent.count(u"downloadFile"_s), 2);
+
+        QSignalSpy changed(&stickers, &StickerStore::recentStickersChanged);
+        stickers.reset();
+        QVERIFY(stickers.recentStickers().isEmpty());
+        QVERIFY(!stickers.recentStickersLoaded());
+        QVERIFY(!stickers.stickerError());
+        QCOMPARE(changed.size(), 1);
+        // The old load's answers and files are taken and change nothing.
+        QVERIFY(stickers.handleAnswer(u"stickers"_s, extra, list));
+        QVERIFY(stickers.handleAnswer(u"error"_s, extra, {}));
+        stickers.applyDownloadedFile(11, u"/tmp/eleven.webp"_s);
+        QVERIFY(stickers.recentStickers().isEmpty());
+        QVERIFY(!stickers.stickerError());
+        QCOMPARE(changed.size(), 1);
+    }
+
+    void stickersLeaveOtherAnswersAlone()
+    {
+        Sent sent;
+        StickerStore stickers(sent.sender());
+        stickers.load(u"cat"_s, u"all"_s);
+        const TdObject own = sent.extraOf(u"searchStickers"_s);
+        QVERIFY(!stickers.handleAnswer(u"stickers"_s, {{"purpose"_L1, u"recent_stickers"_s}}, {}));
+        QVERIFY(!stickers.handleAnswer(u"error"_s, {{"purpose"_L1, u"load_chat_list"_s}}, {}));
+        QVERIFY(!stickers.handleAnswer(u"messages"_s, own, {}));
+        QVERIFY(!stickers.stickerError());
+        QVERIFY(stickers.handleAnswer(u"error"_s, own, {}));
+        QCOMPARE(stickers.stickerError(), std::optional(u"Unable to load stickers."_s));
+    }
+
+    void usersKeepPhotosAndPresence()
+    {
+        Sent sent;
+        UserStore users(sent.sender());
+        QSignalSpy presence(&users, &UserStore::presenceChanged);
+        QSignalSpy avatars(&users, &UserStore::avatarArrived);
+        users.store(user(7, u"Ada"_s, true));
+        QVERIFY(users.user(7));
+        QCOMPARE(users.user(7)->name, u"Ada"_s);
+        QVERIFY(users.isOnline(7));
+        QCOMPARE(presence.size(), 1);
+        QCOMPARE(sent.count(u"downloadFile"_s), 1);
+
+        users.applyDownloadedFile(4242, u"/tmp/other.jpg"_s); // nobody's photo
+        QCOMPARE(avatars.size(), 0);
+        users.applyDownloadedFile(907, u"/tmp/ada.jpg"_s);
+        QCOMPARE(avatars.size(), 1);
+        QCOMPARE(users.user(7)->avatarPath, std::optional(u"/tmp/ada.jpg"_s));
+        // A later description without a photo here keeps the one that came.
+        users.store(user(7, u"Ada L."_s));
+        QCOMPARE(users.user(7)->avatarPath, std::optional(u"/tmp/ada.jpg"_s));
+        QVERIFY(!users.isOnline(7));
+
+        const TdObject typing{{"action"_L1, TdObject{{"@type"_L1, u"chatActionTyping"_s}}},
+                              {"sender_id"_L1, TdObject{{"@type"_L1, u"messageSenderUser"_s}, {"user_id"_L1, 7}}}};
+        QCOMPARE(users.typingSubtitle(typing, false, u"idle"_s), std::optional(u"Ada L. is typing…"_s));
+        QCOMPARE(users.typingSubtitle(typing, true, u"idle"_s), std::optional(u"Typing…"_s));
+        const TdObject recording{{"action"_L1, TdObject{{"@type"_L1, u"chatActionRecordingVideo"_s}}}};
+        QVERIFY(!users.typingSubtitle(recording, true, u"idle"_s));
+    }
+
+    void usersAskOnceForUnknownSenders()
+    {
+        Sent sent;
+        UserStore users(sent.sender());
+        users.store(user(1, u"Known"_s));
+        const auto from = [](qint64 id) {
+            return TdObject{{"sender_id"_L1, TdObject{{"@type"_L1, u"messageSenderUser"_s}, {"user_id"_L1, id}}}};
+        };
+        const TdObject fromChat{{"sender_id"_L1, TdObject{{"@type"_L1, u"messageSenderChat"_s}, {"chat_id"_L1, 5}}}};
+        users.requestMissingUsers({from(1), from(2), from(2), fromChat});
+        users.requestMissingUsers({from(2)});
+        QCOMPARE(sent.count(u"getUser"_s), 1);
+    }
+
+    void contactsResetLeavesNothingBehind()
+    {
+        Sent sent;
+        UserStore users(sent.sender());
+        ContactStore contacts(sent.sender(), users);
+        contacts.refresh();
+        QVERIFY(contacts.handleAnswer(
+            u"contact_roster"_s, u"users"_s,
+            answer(u"users"_s, sent.extraOf(u"getContacts"_s), {{"user_ids"_L1, QJsonArray{3, 4}}})));
+        const TdObject rosterResult{{"purpose"_L1, u"contact_roster_result"_s}};
+        QVERIFY(contacts.handleAnswer(u"contact_roster_result"_s, u"user"_s,
+                                      answer(u"user"_s, rosterResult, user(3, u"Cleo"_s, false, true))));
+        QCOMPARE(contacts.contacts().size(), 1);
+        contacts.deleteChat(u"55"_s, std::nullopt);
+        QCOMPARE(contacts.deletingChats(), QSet<QString>{u"55"_s});
+        const QString requestID = contacts.beginConversation();
+        QVERIFY(contacts.creatingConversation());
+
+        contacts.reset();
+        QVERIFY(contacts.contacts().isEmpty());
+        QVERIFY(contacts.contactResults().isEmpty());
+        QVERIFY(contacts.deletingChats().isEmpty());
+        QVERIFY(!contacts.creatingConversation());
+        QVERIFY(!contacts.conversationError());
+        QVERIFY(!contacts.newlyOpenedChatID());
+        // The old roster's order is gone: its late entries are not listed.
+        QVERIFY(contacts.handleAnswer(u"contact_roster_result"_s, u"user"_s,
+                                      answer(u"user"_s, rosterResult, user(4, u"Dora"_s, false, true))));
+        QVERIFY(contacts.contacts().isEmpty());
+        // A late answer to the conversation of the old account opens nothing.
+        QSignalSpy opened(&contacts, &ContactStore::conversationChatReceived);
+        const TdObject late{{"purpose"_L1, u"open_private_chat"_s}, {"conversation_request"_L1, requestID}};
+        QVERIFY(contacts.handleAnswer(u"open_private_chat"_s, u"chat"_s,
+                                      answer(u"chat"_s, late, {{"id"_L1, 55}, {"title"_L1, u"Cleo"_s}})));
+        QCOMPARE(opened.size(), 0);
+        QVERIFY(!contacts.newlyOpenedChatID());
+    }
+
+    void contactsLeaveOtherAnswersAlone()
+    {
+        Sent sent;
+        UserStore users(sent.sender());
+        ContactStore contacts(sent.sender(), users);
+        QSignalSpy received(&contacts, &ContactStore::userReceived);
+        const TdObject me{{"purpose"_L1, u"current_user"_s}};
+        QVERIFY(!contacts.handleAnswer(u"current_user"_s, u"user"_s, answer(u"user"_s, me, user(1, u"Me"_s))));
+        const TdObject history{{"purpose"_L1, u"initial_history"_s}};
+        QVERIFY(!contacts.handleAnswer(u"initial_history"_s, u"messages"_s, answer(u"messages"_s, history)));
+        const TdObject chats{{"purpose"_L1, u"load_chat_list"_s}};
+        QVERIFY(!contacts.handleAnswer(u"load_chat_list"_s, u"error"_s, answer(u"error"_s, chats)));
+        QCOMPARE(received.size(), 0);
+        QVERIFY(!contacts.conversationError());
+        QVERIFY(sent.requests.isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(StoresTest)
+#include "tst_stores.moc"
