@@ -3,9 +3,10 @@
 #   ./run.sh app      set up, build and start the client
 #   ./run.sh test     set up (with the test tools), build and run every test (but
 #                     the slow soak: -L slow)
-#   ./run.sh test --sanitize  the same tests but the UI cases under ASan and UBSan,
-#                             the tests where threads meet under TSan, then each
-#                             fuzz target for VOST_FUZZ_SECONDS (60)
+#   ./run.sh test --sanitize  the same tests but the UI cases under ASan and UBSan
+#                             (and a few UI cases labelled sanitize-ui), the tests
+#                             where threads meet under TSan, then each fuzz target
+#                             for VOST_FUZZ_SECONDS (60)
 #   ./run.sh install  set up, build and install into ~/.local (VOST_PREFIX picks another)
 #   ./run.sh package  set up, build and make build/vost_<version>_amd64.deb
 # Set-up installs the missing Debian packages, then CMake installs TDLib and the
@@ -91,6 +92,12 @@ sanitized_tests() {
     export LSAN_OPTIONS=suppressions=$PWD/tests/sanitizers/lsan.supp:print_suppressions=0
     xvfb-run -a -s "-screen 0 1280x800x24" \
         ctest --test-dir "$BUILD_DIR" --output-on-failure --timeout 600 -LE ui "$@"
+    # A few UI cases (saving files, a long walk through every view) drive the
+    # sanitized program itself; each makes its own screens. Leaks are left to the
+    # cases above (Qt's accessibility leaves blocks behind that are not ours), and
+    # the web engine of the sticker host deletes with mismatched types of its own.
+    ASAN_OPTIONS=detect_leaks=0:abort_on_error=1:intercept_tls_get_addr=0:new_delete_type_mismatch=0 \
+        ctest --test-dir "$BUILD_DIR" --output-on-failure --timeout 900 -L sanitize-ui "$@"
 
     # Qt is not built with ThreadSanitizer: what happens inside its libraries
     # (its thread pool, its semaphores) is not checked, and the receive loop tells

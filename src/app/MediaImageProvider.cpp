@@ -9,41 +9,73 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class MediaImageResponse : public QQuickImageResponse, public QRunnable
+// The decoding runs on a pool thread and hands its picture over by a signal, so
+// that the response is only ever touched on its own thread: the pixmap reader
+// deletes a response as soon as it has finished (or when it gives up on it), which
+// may happen while the pool thread is still inside a signal of the response.
+class MediaImageJob : public QObject, public QRunnable
 {
+    Q_OBJECT
+
 public:
-    MediaImageResponse(QString path, QSize requestedSize)
+    MediaImageJob(QString path, QSize requestedSize)
         : m_path(std::move(path))
         , m_requestedSize(requestedSize)
-    {
-        setAutoDelete(false);
-    }
+    {}
 
     void run() override
     {
-        const QString key = m_path + u'@' + QString::number(m_requestedSize.width()) + u'x' +
-                            QString::number(m_requestedSize.height());
+        const QString key =
+            m_path + u'@' + QString::number(m_requestedSize.width()) + u'x' + QString::number(m_requestedSize.height());
+        QImage image;
         {
             QMutexLocker lock(&MediaImageProvider::cacheLock());
             if (const QImage *cached = MediaImageProvider::cache().object(key))
-                m_image = *cached;
+                image = *cached;
         }
-        if (m_image.isNull()) {
-            m_image = MediaImageProvider::decode(m_path, m_requestedSize);
-            if (!m_image.isNull()) {
+        if (image.isNull()) {
+            image = MediaImageProvider::decode(m_path, m_requestedSize);
+            if (!image.isNull()) {
                 QMutexLocker lock(&MediaImageProvider::cacheLock());
-                MediaImageProvider::cache().insert(key, new QImage(m_image), int(m_image.sizeInBytes()));
+                MediaImageProvider::cache().insert(key, new QImage(image), int(image.sizeInBytes()));
             }
         }
-        Q_EMIT finished();
+        Q_EMIT decoded(image);
     }
 
-    QQuickTextureFactory *textureFactory() const override { return QQuickTextureFactory::textureFactoryForImage(m_image); }
-    QString errorString() const override { return m_image.isNull() ? u"The picture cannot be read."_s : QString(); }
+Q_SIGNALS:
+    void decoded(const QImage &image);
 
 private:
     QString m_path;
     QSize m_requestedSize;
+};
+
+class MediaImageResponse : public QQuickImageResponse
+{
+public:
+    MediaImageResponse(QString path, QSize requestedSize)
+    {
+        // The job is deleted by the pool once it has run; a response deleted
+        // before that merely loses the connection.
+        auto *job = new MediaImageJob(std::move(path), requestedSize);
+        connect(job, &MediaImageJob::decoded, this, &MediaImageResponse::take, Qt::QueuedConnection);
+        QThreadPool::globalInstance()->start(job);
+    }
+
+    QQuickTextureFactory *textureFactory() const override
+    {
+        return QQuickTextureFactory::textureFactoryForImage(m_image);
+    }
+    QString errorString() const override { return m_image.isNull() ? u"The picture cannot be read."_s : QString(); }
+
+private:
+    void take(const QImage &image)
+    {
+        m_image = image;
+        Q_EMIT finished();
+    }
+
     QImage m_image;
 };
 
@@ -72,6 +104,8 @@ void MediaImageProvider::release()
 QImage MediaImageProvider::decode(const QString &path, const QSize &requestedSize)
 {
     QImageReader reader(path);
+    // The bytes decide: a file's name may say PNG while it holds a JPEG.
+    reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize full = reader.size();
     if (full.isValid() && requestedSize.isValid() && !requestedSize.isEmpty()) {
@@ -85,7 +119,7 @@ QImage MediaImageProvider::decode(const QString &path, const QSize &requestedSiz
 
 QQuickImageResponse *MediaImageProvider::requestImageResponse(const QString &id, const QSize &requestedSize)
 {
-    auto *response = new MediaImageResponse(QUrl::fromPercentEncoding(id.toUtf8()), requestedSize);
-    QThreadPool::globalInstance()->start(response);
-    return response;
+    return new MediaImageResponse(QUrl::fromPercentEncoding(id.toUtf8()), requestedSize);
 }
+
+#include "MediaImageProvider.moc"

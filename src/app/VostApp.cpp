@@ -222,8 +222,16 @@ bool VostApp::launch()
     }
     connect(m_popover.get(), &QWindow::visibleChanged, this, [this](bool visible) {
         Q_EMIT AppEvents::shared().popoverVisibilityDidChange(visible);
+        // A hide can come from inside a click's handler (Save hides the popover for
+        // its dialog): what the release frees must not be under that handler's feet.
         if (!visible)
-            releasePopoverMemory();
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    if (!m_popover->isVisible())
+                        releasePopoverMemory();
+                },
+                Qt::QueuedConnection);
     });
     connect(m_popover.get(), &PopoverWindow::holdsContentChanged, this, [this] {
         if (m_popover->holdsContent())

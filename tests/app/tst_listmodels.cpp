@@ -8,6 +8,7 @@
 #include "MessageListModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QFile>
 #include <QImage>
 #include <QJsonDocument>
 #include <QRandomGenerator>
@@ -262,6 +263,67 @@ private Q_SLOTS:
         QVERIFY(!model.index(0).data(MessageListModel::DateRole).toDateTime().isValid());
     }
 
+    void aPictureSentAsAFileIsShownAsOneOnlyWhenItIsOne()
+    {
+        QTemporaryDir folder;
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        // Names as TDLib gives them: one says PNG and holds a JPEG, one says PNG and
+        // holds text.
+        const QString jpeg = folder.filePath(u"scan.png"_s);
+        QVERIFY(picture.save(jpeg, "JPEG"));
+        const QString text = folder.filePath(u"notes.png"_s);
+        {
+            QFile file(text);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("not a picture\n");
+        }
+        ChatViewModel viewModel(nullptr);
+        MessageListModel model(&viewModel);
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        viewModel.replaceChats({makeChat(1)});
+        const auto document = [](int id, const QString &name, const QString &type) {
+            const QString json = uR"({"id":%1,"content":{"@type":"messageDocument","document":{"file_name":"%2",)"
+                                 uR"("mime_type":"%3","document":{"id":%1,"size":14}}}})"_s;
+            return messageDetails(QJsonDocument::fromJson(json.arg(id).arg(name, type).toUtf8()).object());
+        };
+        // What the session makes of a picture sent as a file: a photo, with its
+        // path once the file is here.
+        const auto message = [](int id, const std::optional<QString> &path) {
+            Message sent = makeMessage(id, u"Ann"_s);
+            sent.text.clear();
+            sent.mediaKind = MessageMediaKind::Photo;
+            sent.mediaPath = path;
+            return sent;
+        };
+        QList<Message> messages{message(40, jpeg), message(41, text), message(42, std::nullopt),
+                                message(43, std::nullopt)};
+        viewModel.setMessageDetails(
+            {document(40, u"scan.png"_s, u"image/png"_s), document(41, u"notes.png"_s, u"image/png"_s),
+             document(42, u"SCAN.JPG"_s, u"application/octet-stream"_s), document(43, u"photo.jpg"_s, u"image/jpeg"_s)},
+            u"1"_s);
+        viewModel.setMessages(messages, u"1"_s);
+        const auto kindOf = [&model](const QString &messageID) {
+            return MessageContent::Kind(model.index(model.rowOf(messageID)).data(MessageListModel::KindRole).toInt());
+        };
+        // The bytes decide once the file is here, the type before.
+        QCOMPARE(kindOf(u"40"_s), MessageContent::Kind::Photo);
+        QCOMPARE(kindOf(u"41"_s), MessageContent::Kind::Document);
+        QCOMPARE(kindOf(u"42"_s), MessageContent::Kind::Document);
+        QCOMPARE(kindOf(u"43"_s), MessageContent::Kind::Photo);
+        // The file shows its name and size, and stays out of the viewer.
+        const QVariantMap shown = model.index(model.rowOf(u"41"_s)).data(MessageListModel::DetailsRole).toMap();
+        QCOMPARE(shown.value(u"fileName"_s).toString(), u"notes.png"_s);
+        QCOMPARE(shown.value(u"fileSize"_s).toLongLong(), 14);
+        const QVariantList media = model.media();
+        QCOMPARE(media.size(), 1);
+        QCOMPARE(media.first().toMap().value(u"messageID"_s).toString(), u"40"_s);
+
+        // The file named SCAN.JPG arrives and is a picture after all.
+        messages[2].mediaPath = jpeg;
+        viewModel.setMessages(messages, u"1"_s);
+        QCOMPARE(kindOf(u"42"_s), MessageContent::Kind::Photo);
+    }
 
     void theArchiveKeepsItsChatsApartAndCountsThem()
     {

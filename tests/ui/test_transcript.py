@@ -139,7 +139,9 @@ class Menu(VostTestCase):
         vost = self.open_signed_in()
         vost.open_chat("Vost Helper")
         messages = vost.find("list", "Messages")
-        welcome = vost.find("list item", "Vost Helper: Welcome", contains=True, within=messages)
+        # The helper answers with the same words: a wide incoming bubble.
+        echo = vost.find("list item", "Vost Helper: You said: “A long line", contains=True, within=messages,
+                         timeout=15)
         x, y, w, h = welcome.extents()
         # An incoming bubble sits on the left: the right end of its row is empty.
         vost.click((x + w - 60, y + h // 2), button=3)
@@ -152,6 +154,74 @@ class Menu(VostTestCase):
         vost.find("menu item", "Reply", within=menu).press()
         vost.find("panel", "Reply to Vost Helper", contains=True)
         self.assertEqual(dishonest_nodes(vost.app()), [])
+
+
+class MoreButton(VostTestCase):
+    def test_the_more_button_shows_on_hover_and_focus_only_and_is_never_cut(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        messages = vost.find("list", "Messages")
+        # A bubble at its widest leaves the least room beside it.
+        vost.send("A long line that fills the bubble to its widest, " + "word " * 40 + "end")
+        mine = vost.find("list item", "You: A long line", contains=True, within=messages)
+        # The helper answers with the same words: a wide incoming bubble.
+        echo = vost.find("list item", "Vost Helper: You said: “A long line", contains=True, within=messages,
+                         timeout=15)
+        chats = vost.find("list", "Chat list")
+
+        def park():
+            """The pointer over the chat list, away from every message."""
+            vost.desktop.xdotool("mousemove", *chats.center())
+            time.sleep(0.3)
+
+        def shown_buttons():
+            return vost.all("push button", "More", within=messages)
+
+        park()
+        self.assertEqual(shown_buttons(), [])
+        for row in (mine, echo):
+            vost.desktop.xdotool("mousemove", *row.center())
+            more = vost.find("push button", "More", within=row)
+            self.assertEqual(len(shown_buttons()), 1)
+            self.assertTrue(inside(more.extents(), messages.extents()), (more.extents(), messages.extents()))
+            self.assertTrue(inside(more.extents(), row.extents()), (more.extents(), row.extents()))
+            park()
+            vost.absent("push button", "More", within=messages)
+
+        # The keyboard's current message shows its button wherever the pointer is.
+        vost.focus(messages)
+        current = wait_until(lambda: [m for m in vost.messages() if m.has_state("selected")],
+                             what="a current message")[0]
+        more = vost.find("push button", "More", within=current)
+        self.assertEqual(len(shown_buttons()), 1)
+        self.assertTrue(inside(more.extents(), messages.extents()), (more.extents(), messages.extents()))
+        vost.key("Up")
+        older = wait_until(lambda: [m for m in vost.messages() if m.has_state("selected") and m.name != current.name],
+                           what="the message above current")[0]
+        vost.find("push button", "More", within=older)
+        self.assertEqual(len(shown_buttons()), 1)
+        vost.find("push button", "More", within=older).press()
+        vost.find("popup menu", "Message actions")
+
+
+class LargeEmoji(VostTestCase):
+    def test_one_to_three_emoji_alone_are_shown_larger_than_text(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        messages = vost.find("list", "Messages")
+        sizes = {}
+        for text in ("ok", "👍", "🍕🍕🍕", "🍕🍕🍕🍕", "ok 👍"):
+            vost.send(text)
+            row = vost.find("list item", f"You: {text}, ", contains=True, within=messages)
+            # The line of text itself, whatever surrounds it.
+            sizes[text] = vost.find("paragraph", text, within=row).extents()[2:]
+        text_height = sizes["ok"][1]
+        self.assertGreater(text_height, 0)
+        for large in ("👍", "🍕🍕🍕"):
+            self.assertGreaterEqual(sizes[large][1], 2 * text_height, sizes)
+        # Four emoji, or emoji among words, are text.
+        for plain in ("🍕🍕🍕🍕", "ok 👍"):
+            self.assertLess(sizes[plain][1], 1.5 * text_height, sizes)
 
 
 class Keyboard(VostTestCase):

@@ -34,6 +34,10 @@ FAILURES_DIR = os.path.join(BUILD_DIR, "ui-failures")
 TEMPLATE_DIR = os.path.join(BUILD_DIR, "ui-template")
 # What QML prints for a fault in a binding or a script: every case fails on it.
 SCRIPT_ERROR = re.compile(r"\b(TypeError|ReferenceError)\b|Binding loop detected")
+# What the sanitizers and glibc's heap checks print for a fault in memory: every
+# case fails on it too.
+MEMORY_ERROR = re.compile(r"ERROR: AddressSanitizer|: runtime error: |^(malloc|free|realloc|double free)\b.*\(\)|"
+                          r"corrupted (size|double-linked)")
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 XFCONFD = "/usr/lib/x86_64-linux-gnu/xfce4/xfconf/xfconfd"
 
@@ -661,11 +665,12 @@ class Vost:
             return file.read()
 
     def script_errors(self):
-        """The QML errors and binding loops this run printed: a fault in every case."""
+        """The QML errors, binding loops and memory faults this run printed: a
+        fault in every case."""
         with open(self.log_path, "rb") as file:
             file.seek(self.log_start)
             lines = file.read().decode(errors="replace").splitlines()
-        return [line for line in lines if SCRIPT_ERROR.search(line)]
+        return [line for line in lines if SCRIPT_ERROR.search(line) or MEMORY_ERROR.search(line)]
 
 
 def signed_in_template():
@@ -747,7 +752,7 @@ class VostTestCase(unittest.TestCase):
         vost.quit()
         errors = vost.script_errors()
         if errors:
-            self.fail("vost printed script errors:\n" + "\n".join(errors))
+            self.fail("vost printed script or memory errors:\n" + "\n".join(errors))
 
     def open_signed_in(self):
         vost = self.launch()

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QDebug>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QMimeDatabase>
 
 using namespace Qt::StringLiterals;
@@ -43,6 +44,23 @@ QString rowKey(const MessageListModel::Row &row)
 QString dataUrl(const QByteArray &jpeg)
 {
     return jpeg.isEmpty() ? QString() : u"data:image/jpeg;base64,"_s + QString::fromLatin1(jpeg.toBase64());
+}
+
+// A picture sent as a file (a document whose type or name says picture) is shown
+// as one only when it is one: by its bytes once the file is here, until then by
+// the type TDLib gives. Its name alone never makes a picture tile that stays blank.
+bool showsAsPicture(const Message &message, const MessageDetails &details)
+{
+    // Photos have neither a file name nor a type of their own: documents do.
+    const bool sentAsFile = !details.fileName.isEmpty() || !details.mimeType.isEmpty();
+    if (details.kind != MessageContent::Kind::Photo || !sentAsFile)
+        return true;
+    if (message.mediaPath) {
+        QImageReader reader(*message.mediaPath);
+        reader.setDecideFormatFromContent(true);
+        return reader.canRead();
+    }
+    return details.mimeType.startsWith("image/"_L1, Qt::CaseInsensitive);
 }
 
 QColor senderColor(AvatarColor color)
@@ -83,6 +101,8 @@ QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &me
             shown.messageID = message.id;
             shown.text = message.text;
         }
+        if (!showsAsPicture(message, shown))
+            shown.kind = MessageContent::Kind::Document;
         const bool divider = !dividerID.isEmpty() && message.id == dividerID;
         Row *previous = rows.isEmpty() ? nullptr : &rows.last();
         // TDLib gives messages outside albums the album id 0.

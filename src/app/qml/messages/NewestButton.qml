@@ -12,7 +12,8 @@ RoundButton {
     width: 36
     height: 36
     focusPolicy: Qt.NoFocus
-    text: "↓"
+    //: An arrow glyph pointing down, to the newest message; not a word.
+    text: qsTr("↓")
     font.pixelSize: 16
     palette.button: Appearance.neutralBubble
     palette.buttonText: Appearance.text
