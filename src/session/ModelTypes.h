@@ -93,6 +93,7 @@ struct Chat {
     bool isPinned = false;
     bool isMarkedUnread = false;
     bool isSecret = false; // an end-to-end encrypted chat ("chatTypeSecret")
+    bool isTyping = false; // someone is typing; the subtitle says who
     QString draftText;
     QString avatarText;
     std::optional<QString> avatarSymbol;

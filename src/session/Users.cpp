@@ -78,7 +78,10 @@ void TelegramSession::refreshPresence(qint64 userID)
          ++it) {
         const QString &chatID = it.value();
         const QString subtitle = online ? u"Online"_s : baseSubtitle(chatID).value_or(u"Private conversation"_s);
-        updateChat(chatID, [&subtitle](Chat &chat) { chat.subtitle = subtitle; });
+        updateChat(chatID, [&subtitle](Chat &chat) {
+            chat.subtitle = subtitle;
+            chat.isTyping = false;
+        });
     }
     refreshContactEntries(userID);
 }
@@ -104,7 +107,11 @@ void TelegramSession::updateTypingStatus(const TdObject &update)
     } else {
         return;
     }
-    updateChat(chatID, [&subtitle](Chat &c) { c.subtitle = subtitle; });
+    const bool typing = action == "chatActionTyping"_L1;
+    updateChat(chatID, [&subtitle, typing](Chat &c) {
+        c.subtitle = subtitle;
+        c.isTyping = typing;
+    });
 }
 
 std::optional<QString> TelegramSession::prepareAvatar(const QJsonValue &photo,

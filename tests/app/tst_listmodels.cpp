@@ -425,6 +425,28 @@ private Q_SLOTS:
         QCOMPARE(chats.index(1).data(ChatListModel::IsSecretRole).toBool(), true);
         QCOMPARE(chats.roleNames().value(ChatListModel::IsSecretRole), QByteArray("isSecret"));
     }
+
+    void typingComesFromTheFlagNotTheSubtitle()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel chats(&viewModel);
+        QAbstractItemModelTester tester(&chats, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        // A group named like a typing line, and a chat whose typist is shown by name.
+        Chat named = makeChat(1, u"We are typing…"_s);
+        named.subtitle = u"Still typing…"_s;
+        Chat typing = makeChat(2);
+        typing.subtitle = u"Grace is typing…"_s;
+        typing.isTyping = true;
+        viewModel.replaceChats({named, typing});
+        QCOMPARE(chats.index(0).data(ChatListModel::IsTypingRole).toBool(), false);
+        QCOMPARE(chats.index(1).data(ChatListModel::IsTypingRole).toBool(), true);
+
+        QSignalSpy changes(&chats, &QAbstractItemModel::dataChanged);
+        typing.isTyping = false;
+        viewModel.replaceChats({named, typing});
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(chats.index(1).data(ChatListModel::IsTypingRole).toBool(), false);
+    }
 };
 
 QTEST_GUILESS_MAIN(ListModelsTest)

@@ -140,7 +140,7 @@ QVariant ChatListModel::data(const QModelIndex &index, int role) const
     case IsSelectedRole:
         return !m_selectedID.isEmpty() && chat.id == m_selectedID;
     case IsTypingRole:
-        return chat.subtitle.endsWith(u"typing…"_s, Qt::CaseInsensitive);
+        return chat.isTyping;
     case IsSecretRole:
         return chat.isSecret;
     default:
