@@ -371,7 +371,7 @@ private Q_SLOTS:
         viewModel.setRecentStickers({a});
         viewModel.setRecentStickers({b, a});
         QCOMPARE(column(stickers, StickerListModel::IdRole), (QStringList{u"2"_s, u"1"_s}));
-        QCOMPARE(stickers.index(0).data(StickerListModel::FormatRole).toString(), u"animated"_s);
+        QCOMPARE(StickerFormat(stickers.index(0).data(StickerListModel::FormatRole).toInt()), StickerFormat::Animated);
 
         ContactChoice ann{5, u"Ann"_s, u"ann"_s, u"A"_s, std::nullopt, false};
         viewModel.setContacts({ann});
@@ -446,6 +446,29 @@ private Q_SLOTS:
         viewModel.replaceChats({named, typing});
         QCOMPARE(changes.size(), 1);
         QCOMPARE(chats.index(1).data(ChatListModel::IsTypingRole).toBool(), false);
+    }
+
+    void transcriptRolesCarryTheModelsEnumerations()
+    {
+        ChatViewModel viewModel(nullptr);
+        MessageListModel model(&viewModel);
+        viewModel.replaceChats({makeChat(1)});
+        Message sending = makeMessage(10, u"Ann"_s);
+        sending.isOutgoing = true;
+        sending.deliveryState = MessageDeliveryState::Sending;
+        Message sticker = makeMessage(11, u"Bo"_s);
+        sticker.mediaKind = MessageMediaKind::Sticker;
+        sticker.stickerFormat = StickerFormat::Video;
+        viewModel.setMessages({sending, sticker}, u"1"_s);
+        viewModel.setSelectedChatID(u"1"_s);
+
+        const QModelIndex newest = model.index(0);
+        const QModelIndex oldest = model.index(1);
+        QCOMPARE(MessageDeliveryState(oldest.data(MessageListModel::DeliveryStateRole).toInt()),
+                 MessageDeliveryState::Sending);
+        QVERIFY(!oldest.data(MessageListModel::MediaKindRole).isValid());
+        QCOMPARE(MessageMediaKind(newest.data(MessageListModel::MediaKindRole).toInt()), MessageMediaKind::Sticker);
+        QCOMPARE(StickerFormat(newest.data(MessageListModel::StickerFormatRole).toInt()), StickerFormat::Video);
     }
 };
 
