@@ -98,7 +98,7 @@ int runOne(const QString &player, int count)
                             anchors.fill: parent
                             sourceComponent: useWebPage ? webPage : nativePlayer
                             Component { id: nativePlayer; StickerPlayer { path: modelData } }
-                            Component { id: webPage; AnimatedStickerView { path: modelData; format: StickerPageController.Animated } }
+                            Component { id: webPage; AnimatedStickerView { path: modelData; format: Model.StickerFormat.Animated } }
                         }
                     }
                 }

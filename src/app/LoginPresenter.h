@@ -48,6 +48,8 @@ class LoginPresenter : public QObject
     Q_PROPERTY(bool showsHint READ showsHint NOTIFY stepChanged)
     Q_PROPERTY(QString hintLine READ hintLine NOTIFY stepChanged)
     Q_PROPERTY(bool isStarting READ isStarting NOTIFY stepChanged)
+    // Telegram cannot be reached: the icon is drawn as a warning.
+    Q_PROPERTY(bool isUnavailable READ isUnavailable NOTIFY stepChanged)
     Q_PROPERTY(QString fieldText READ fieldText WRITE setFieldText NOTIFY fieldTextChanged)
     Q_PROPERTY(bool canContinue READ canContinue NOTIFY fieldTextChanged)
     // The error that answers what the user submitted on this step, or why Telegram
@@ -76,6 +78,7 @@ public:
     bool showsHint() const { return step().kind() == Step::Case::Password && !step().hint().isEmpty(); }
     QString hintLine() const { return LoginTexts::hintLine(step().hint()); }
     bool isStarting() const;
+    bool isUnavailable() const { return step().kind() == Step::Case::Unavailable; }
     // The text of the current step's field; "" for a step without one.
     QString fieldText() const;
     void setFieldText(const QString &text);

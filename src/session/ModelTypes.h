@@ -3,13 +3,39 @@
 // The plain value records the session publishes and the views display.
 
 #include <QList>
+#include <QObject>
 #include <QSet>
 #include <QString>
 #include <QUuid>
 
 #include <optional>
 
+// The model's enumerations, with their meta-objects: the views compare these
+// values, never texts, and the replay driver names them by their keys.
+namespace Model {
+Q_NAMESPACE
+
 enum class AvatarColor { Teal, Blue };
+Q_ENUM_NS(AvatarColor)
+
+enum class MessageDeliveryState { None, Sending, Sent, Read };
+Q_ENUM_NS(MessageDeliveryState)
+
+enum class MessageMediaKind { Photo, Sticker, Video, Animation, Voice, Audio };
+Q_ENUM_NS(MessageMediaKind)
+
+enum class StickerFormat { Webp, Animated, Video };
+Q_ENUM_NS(StickerFormat)
+
+enum class PendingAttachmentKind { Photo, Document };
+Q_ENUM_NS(PendingAttachmentKind)
+} // namespace Model
+
+using Model::AvatarColor;
+using Model::MessageDeliveryState;
+using Model::MessageMediaKind;
+using Model::PendingAttachmentKind;
+using Model::StickerFormat;
 
 // A fresh identifier for a record the views tell apart. Cheaper than
 // QUuid::createUuid(), which asks the system for random bytes every time: a sync
@@ -25,12 +51,6 @@ struct User {
 
     friend bool operator==(const User &, const User &) = default;
 };
-
-enum class MessageDeliveryState { None, Sending, Sent, Read };
-
-enum class MessageMediaKind { Photo, Sticker, Video, Animation, Voice, Audio };
-
-enum class StickerFormat { Webp, Animated, Video };
 
 struct MessageReaction {
     QString emoji;
@@ -73,6 +93,7 @@ struct Chat {
     bool isPinned = false;
     bool isMarkedUnread = false;
     bool isSecret = false; // an end-to-end encrypted chat ("chatTypeSecret")
+    bool isTyping = false; // someone is typing; the subtitle says who
     QString draftText;
     QString avatarText;
     std::optional<QString> avatarSymbol;
@@ -85,8 +106,6 @@ struct Chat {
 struct InitialHistoryProgress {
     QSet<qint64> messageIDs;
 };
-
-enum class PendingAttachmentKind { Photo, Document };
 
 struct PendingAttachment {
     QUuid id = QUuid::createUuid();

@@ -1,33 +1,18 @@
 #include "session/SoundManager.h"
 
+#include "session/ModelNames.h"
 #include "session/Preferences.h"
 
 #include <array>
 
-using namespace Qt::StringLiterals;
-
 std::optional<SoundPack> soundPackFromRawValue(const QString &value)
 {
-    for (SoundPack pack : {SoundPack::Crystal, SoundPack::Gentle, SoundPack::Classic, SoundPack::Playful}) {
-        if (rawValue(pack) == value)
-            return pack;
-    }
-    return std::nullopt;
+    return caseFromName<SoundPack>(value);
 }
 
 QString rawValue(SoundPack pack)
 {
-    switch (pack) {
-    case SoundPack::Crystal:
-        return u"crystal"_s;
-    case SoundPack::Gentle:
-        return u"gentle"_s;
-    case SoundPack::Classic:
-        return u"classic"_s;
-    case SoundPack::Playful:
-        return u"playful"_s;
-    }
-    return {};
+    return caseName(pack);
 }
 
 QString soundName(SoundPack pack, SoundEvent event)

@@ -2,11 +2,19 @@
 
 #include "platform/SoundPlayer.h"
 
+#include <QObject>
 #include <QString>
 
 #include <optional>
 
+namespace Sounds {
+Q_NAMESPACE
+// Stored by case name ("crystal", …) in the user's preferences.
 enum class SoundPack { Crystal, Gentle, Classic, Playful };
+Q_ENUM_NS(SoundPack)
+} // namespace Sounds
+
+using Sounds::SoundPack;
 
 // Events 0 and 2 are kept for the preferences' previews.
 enum class SoundEvent { Preview0 = 0, IncomingMessage = 1, Preview2 = 2, SignedIn = 3, Failure = 4 };

@@ -27,7 +27,10 @@ void TelegramSession::refreshPresence(qint64 userID)
          ++it) {
         const QString &chatID = it.value();
         const QString subtitle = online ? u"Online"_s : baseSubtitle(chatID).value_or(u"Private conversation"_s);
-        updateChat(chatID, [&subtitle](Chat &chat) { chat.subtitle = subtitle; });
+        updateChat(chatID, [&subtitle](Chat &chat) {
+            chat.subtitle = subtitle;
+            chat.isTyping = false;
+        });
     }
     m_contacts->refreshEntries(userID);
 }
@@ -41,8 +44,13 @@ void TelegramSession::updateTypingStatus(const TdObject &update)
     const std::optional<qint64> person = privateChatUser(chatID);
     const std::optional<QString> subtitle = m_users->typingSubtitle(
         update, person.has_value(), m_users->presenceSubtitle(person, baseSubtitle(chatID).value_or(u"Telegram"_s)));
-    if (subtitle)
-        updateChat(chatID, [&subtitle](Chat &c) { c.subtitle = *subtitle; });
+    if (!subtitle)
+        return;
+    const bool typing = typeOf(update.value("action"_L1)) == "chatActionTyping"_L1;
+    updateChat(chatID, [&subtitle, typing](Chat &c) {
+        c.subtitle = *subtitle;
+        c.isTyping = typing;
+    });
 }
 
 std::optional<QString> TelegramSession::prepareChatAvatar(const QJsonValue &photo, const QString &chatID)

@@ -433,7 +433,7 @@ private Q_SLOTS:
         viewModel.setRecentStickers({a});
         viewModel.setRecentStickers({b, a});
         QCOMPARE(column(stickers, StickerListModel::IdRole), (QStringList{u"2"_s, u"1"_s}));
-        QCOMPARE(stickers.index(0).data(StickerListModel::FormatRole).toString(), u"animated"_s);
+        QCOMPARE(StickerFormat(stickers.index(0).data(StickerListModel::FormatRole).toInt()), StickerFormat::Animated);
 
         ContactChoice ann{5, u"Ann"_s, u"ann"_s, u"A"_s, std::nullopt, false};
         viewModel.setContacts({ann});
@@ -486,6 +486,51 @@ private Q_SLOTS:
         QCOMPARE(chats.index(0).data(ChatListModel::IsSecretRole).toBool(), false);
         QCOMPARE(chats.index(1).data(ChatListModel::IsSecretRole).toBool(), true);
         QCOMPARE(chats.roleNames().value(ChatListModel::IsSecretRole), QByteArray("isSecret"));
+    }
+
+    void typingComesFromTheFlagNotTheSubtitle()
+    {
+        ChatViewModel viewModel(nullptr);
+        ChatListModel chats(&viewModel);
+        QAbstractItemModelTester tester(&chats, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        // A group named like a typing line, and a chat whose typist is shown by name.
+        Chat named = makeChat(1, u"We are typing…"_s);
+        named.subtitle = u"Still typing…"_s;
+        Chat typing = makeChat(2);
+        typing.subtitle = u"Grace is typing…"_s;
+        typing.isTyping = true;
+        viewModel.replaceChats({named, typing});
+        QCOMPARE(chats.index(0).data(ChatListModel::IsTypingRole).toBool(), false);
+        QCOMPARE(chats.index(1).data(ChatListModel::IsTypingRole).toBool(), true);
+
+        QSignalSpy changes(&chats, &QAbstractItemModel::dataChanged);
+        typing.isTyping = false;
+        viewModel.replaceChats({named, typing});
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(chats.index(1).data(ChatListModel::IsTypingRole).toBool(), false);
+    }
+
+    void transcriptRolesCarryTheModelsEnumerations()
+    {
+        ChatViewModel viewModel(nullptr);
+        MessageListModel model(&viewModel);
+        viewModel.replaceChats({makeChat(1)});
+        Message sending = makeMessage(10, u"Ann"_s);
+        sending.isOutgoing = true;
+        sending.deliveryState = MessageDeliveryState::Sending;
+        Message sticker = makeMessage(11, u"Bo"_s);
+        sticker.mediaKind = MessageMediaKind::Sticker;
+        sticker.stickerFormat = StickerFormat::Video;
+        viewModel.setMessages({sending, sticker}, u"1"_s);
+        viewModel.setSelectedChatID(u"1"_s);
+
+        const QModelIndex newest = model.index(0);
+        const QModelIndex oldest = model.index(1);
+        QCOMPARE(MessageDeliveryState(oldest.data(MessageListModel::DeliveryStateRole).toInt()),
+                 MessageDeliveryState::Sending);
+        QVERIFY(!oldest.data(MessageListModel::MediaKindRole).isValid());
+        QCOMPARE(MessageMediaKind(newest.data(MessageListModel::MediaKindRole).toInt()), MessageMediaKind::Sticker);
+        QCOMPARE(StickerFormat(newest.data(MessageListModel::StickerFormatRole).toInt()), StickerFormat::Video);
     }
 };
 

@@ -120,7 +120,7 @@ import Vost.Render
 Item {
     width: 160; height: 160
     property alias sticker: sticker
-    StickerView { id: sticker; anchors.fill: parent; format: "video"; emoji: "🐱" }
+    StickerView { id: sticker; anchors.fill: parent; format: Model.StickerFormat.Video; emoji: "🐱" }
 }
 )";
 

@@ -4,31 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString caseName(Step::Case kind)
-{
-    switch (kind) {
-    case Step::Case::Password:
-        return u"password"_s;
-    case Step::Case::Unavailable:
-        return u"unavailable"_s;
-    case Step::Case::Idle:
-        return u"idle"_s;
-    case Step::Case::Starting:
-        return u"starting"_s;
-    case Step::Case::PhoneNumber:
-        return u"phoneNumber"_s;
-    case Step::Case::VerificationCode:
-        return u"verificationCode"_s;
-    case Step::Case::Ready:
-        return u"ready"_s;
-    }
-    return {};
-}
-
-} // namespace
-
 QJsonValue toJson(const Step &step)
 {
     QJsonObject object{{"case"_L1, caseName(step.kind())}};
@@ -142,16 +117,13 @@ QJsonValue toJson(const ContactChoice &contact)
 
 StickerChoice stickerFromJson(const QJsonObject &object)
 {
-    const QString format = object.value("format"_L1).toString();
     return {object.value("id"_L1).toVariant().toLongLong(),
             object.value("fileID"_L1).toVariant().toLongLong(),
             object.value("path"_L1).toString(),
             object.value("emoji"_L1).toString(),
             object.value("width"_L1).toInt(),
             object.value("height"_L1).toInt(),
-            format == "animated"_L1 ? StickerFormat::Animated
-            : format == "video"_L1  ? StickerFormat::Video
-                                    : StickerFormat::Webp};
+            caseFromName<StickerFormat>(object.value("format"_L1).toString()).value_or(StickerFormat::Webp)};
 }
 
 QList<PendingAttachment> attachmentsFromJson(const QJsonArray &array)
@@ -160,8 +132,8 @@ QList<PendingAttachment> attachmentsFromJson(const QJsonArray &array)
     for (const QJsonValue &value : array) {
         const QJsonObject object = value.toObject();
         attachments.append({QUuid::createUuid(), object.value("path"_L1).toString(),
-                            object.value("kind"_L1).toString() == "document"_L1 ? PendingAttachmentKind::Document
-                                                                                : PendingAttachmentKind::Photo});
+                            caseFromName<PendingAttachmentKind>(object.value("kind"_L1).toString())
+                                .value_or(PendingAttachmentKind::Photo)});
     }
     return attachments;
 }

@@ -7,23 +7,13 @@
 #include "render/LinkRecognizer.h"
 #include "render/SmileyText.h"
 #include "render/StickerPage.h"
+#include "session/ModelNames.h"
 
 #include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::optional<StickerFormat> stickerFormat(const QString &name)
-{
-    if (name == "webp"_L1)
-        return StickerFormat::Webp;
-    if (name == "animated"_L1)
-        return StickerFormat::Animated;
-    if (name == "video"_L1)
-        return StickerFormat::Video;
-    return std::nullopt;
-}
 
 QJsonValue previewToJson(const LinkPreviewMetadata &metadata)
 {
@@ -55,7 +45,7 @@ void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options)
     });
 
     driver.addCall(u"render.stickerPage"_s, [&driver](const QJsonArray &args) {
-        const std::optional<StickerFormat> format = stickerFormat(args.at(1).toString());
+        const std::optional<StickerFormat> format = caseFromName<StickerFormat>(args.at(1).toString());
         if (!format)
             return driver.printError(u"unknown sticker format"_s);
         const QByteArray data = QByteArray::fromBase64(args.at(0).toString().toLatin1());
@@ -64,7 +54,7 @@ void registerRenderCalls(ReplayDriver &driver, const ReplayOptions &options)
     });
 
     driver.addCall(u"render.stickerKey"_s, [&driver](const QJsonArray &args) {
-        const std::optional<StickerFormat> format = stickerFormat(args.at(1).toString());
+        const std::optional<StickerFormat> format = caseFromName<StickerFormat>(args.at(1).toString());
         if (!format)
             return driver.printError(u"unknown sticker format"_s);
         driver.printResult(StickerPage::key(args.at(0).toString(), *format));

@@ -54,6 +54,15 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session)
     driver.addState(u"startupStatus"_s, [&session] { return QJsonValue(session.startupStatus()); });
     driver.addState(u"currentAccountName"_s, [&session] { return QJsonValue(session.currentAccountName()); });
     driver.addState(u"chats"_s, [&session] { return QJsonValue(toJsonArray(session.chats())); });
+    // The chats whose rows show someone typing, in list order.
+    driver.addState(u"typingChats"_s, [&session] {
+        QJsonArray ids;
+        for (const Chat &chat : session.chats()) {
+            if (chat.isTyping)
+                ids.append(chat.id);
+        }
+        return QJsonValue(ids);
+    });
     driver.addState(u"messagesByChat"_s, [&session] {
         QJsonObject byChat;
         const auto &messages = session.messagesByChat();

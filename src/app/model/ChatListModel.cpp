@@ -16,8 +16,8 @@ bool sameRow(const Chat &a, const Chat &b)
     return a.title == b.title && a.subtitle == b.subtitle && a.preview == b.preview && a.timestamp == b.timestamp &&
            a.unreadCount == b.unreadCount && a.isMuted == b.isMuted && a.isArchived == b.isArchived &&
            a.isPinned == b.isPinned && a.isMarkedUnread == b.isMarkedUnread && a.isSecret == b.isSecret &&
-           a.draftText == b.draftText && a.avatarText == b.avatarText && a.avatarSymbol == b.avatarSymbol &&
-           a.avatarPath == b.avatarPath;
+           a.isTyping == b.isTyping && a.draftText == b.draftText && a.avatarText == b.avatarText &&
+           a.avatarSymbol == b.avatarSymbol && a.avatarPath == b.avatarPath;
 }
 
 } // namespace
@@ -140,7 +140,7 @@ QVariant ChatListModel::data(const QModelIndex &index, int role) const
     case IsSelectedRole:
         return !m_selectedID.isEmpty() && chat.id == m_selectedID;
     case IsTypingRole:
-        return chat.subtitle.endsWith(u"typing…"_s, Qt::CaseInsensitive);
+        return chat.isTyping;
     case IsSecretRole:
         return chat.isSecret;
     default:

@@ -20,8 +20,8 @@ class ChatViewModel;
 // everywhere a message text is shown), timestamp, unreadCount (int, negative read
 // as 0), isMuted, isPinned, isArchived, isMarkedUnread, draftText (smileys as emoji), avatarText,
 // avatarSymbol ("" when none), avatarPath ("" when none), avatarUrl (file URL or
-// empty), avatarColor (color), isSelected, isTyping (the subtitle says someone is
-// typing), isSecret (an end-to-end encrypted chat).
+// empty), avatarColor (color), isSelected, isTyping (someone is typing: the subtitle
+// says who), isSecret (an end-to-end encrypted chat).
 class ChatListModel : public RowListModel
 {
     Q_OBJECT

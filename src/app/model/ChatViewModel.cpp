@@ -46,7 +46,7 @@ QVariantMap stickerItem(const StickerChoice &sticker)
             {u"emoji"_s, sticker.emoji},
             {u"width"_s, sticker.width},
             {u"height"_s, sticker.height},
-            {u"format"_s, caseName(sticker.format)}};
+            {u"format"_s, int(sticker.format)}};
 }
 
 template<typename T> bool assign(T &field, const T &value)
@@ -79,7 +79,7 @@ QVariantMap messageItem(const Message &message)
             {u"text"_s, message.text},
             {u"timestamp"_s, message.timestamp},
             {u"isOutgoing"_s, message.isOutgoing},
-            {u"mediaKind"_s, caseName(message.mediaKind)},
+            {u"mediaKind"_s, message.mediaKind ? QVariant(int(*message.mediaKind)) : QVariant()},
             {u"mediaPath"_s, message.mediaPath.value_or(QString())},
             {u"documentName"_s, message.documentName.value_or(QString())},
             {u"stickerEmoji"_s, message.stickerEmoji}};
@@ -649,7 +649,7 @@ QVariantList ChatViewModel::pendingAttachmentItems() const
             {u"url"_s, QUrl::fromLocalFile(attachment.path)},
             {u"name"_s, info.fileName()},
             {u"size"_s, info.size()},
-            {u"kind"_s, attachment.kind == PendingAttachmentKind::Document ? u"document"_s : u"photo"_s},
+            {u"kind"_s, int(attachment.kind)},
             {u"isImage"_s, Attachments::kindFor(attachment.path) == PendingAttachmentKind::Photo}});
     }
     return items;

@@ -32,8 +32,8 @@ class ChatViewModel : public QObject
     Q_PROPERTY(QString selectedChatID READ selectedChatIDText WRITE selectChat NOTIFY selectedChatIDChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(QString composerText READ composerText WRITE setComposerText NOTIFY composerTextChanged)
-    // Each queued file: id, path, url, name, size (bytes), kind ("photo" or
-    // "document") and isImage (a photo, or a picture sent as a file).
+    // Each queued file: id, path, url, name, size (bytes), kind
+    // (Model.PendingAttachmentKind) and isImage (a photo, or a picture sent as a file).
     Q_PROPERTY(QVariantList pendingAttachments READ pendingAttachmentItems NOTIFY pendingAttachmentsChanged)
     // The files last refused: name and reason (Attachments.Refusal).
     Q_PROPERTY(QVariantList refusedFiles READ refusedFiles NOTIFY refusedFilesChanged)
@@ -46,7 +46,9 @@ class ChatViewModel : public QObject
     Q_PROPERTY(QString pendingDocumentPath READ pendingDocumentPathText NOTIFY pendingDocumentPathChanged)
     Q_PROPERTY(QString pendingRichMediaPath READ pendingRichMediaPathText NOTIFY pendingRichMediaPathChanged)
     Q_PROPERTY(bool recentStickersLoaded READ recentStickersLoaded NOTIFY recentStickersLoadedChanged)
+    // A map of the sticker's fields; its format a Model.StickerFormat.
     Q_PROPERTY(QVariant pendingSticker READ pendingStickerItem NOTIFY pendingStickerChanged)
+    // Maps of the message's fields; mediaKind a Model.MessageMediaKind, undefined when none.
     Q_PROPERTY(QVariant replyToMessage READ replyToMessageItem NOTIFY replyToMessageChanged)
     Q_PROPERTY(QVariant editingMessage READ editingMessageItem NOTIFY editingMessageChanged)
     Q_PROPERTY(bool canSendMessages READ canSendMessages NOTIFY canSendMessagesChanged)

@@ -52,7 +52,7 @@ QVariant StickerListModel::data(const QModelIndex &index, int role) const
     case HeightRole:
         return sticker.height;
     case FormatRole:
-        return caseName(sticker.format);
+        return int(sticker.format);
     default:
         return {};
     }

@@ -11,7 +11,7 @@ class ChatViewModel;
 
 // The view model's recent stickers, for the sticker picker.
 // Roles: stickerID (text), fileID (text), path, url (file URL), emoji, width,
-// height, format ("webp", "animated", "video"). queueStickerAt(row) on the view
+// height, format (Model.StickerFormat). queueStickerAt(row) on the view
 // model queues one.
 class StickerListModel : public RowListModel
 {

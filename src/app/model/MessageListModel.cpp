@@ -316,17 +316,17 @@ QVariant MessageListModel::data(const QModelIndex &index, int role) const
     case IsOutgoingRole:
         return message.isOutgoing;
     case DeliveryStateRole:
-        return caseName(message.deliveryState);
+        return int(message.deliveryState);
     case MediaPathRole:
         return message.mediaPath.value_or(QString());
     case MediaPathsRole:
         return message.mediaPaths;
     case MediaKindRole:
-        return caseName(message.mediaKind);
+        return message.mediaKind ? QVariant(int(*message.mediaKind)) : QVariant();
     case StickerEmojiRole:
         return message.stickerEmoji;
     case StickerFormatRole:
-        return caseName(message.stickerFormat);
+        return int(message.stickerFormat);
     case DocumentNameRole:
         return message.documentName.value_or(QString());
     case DocumentPathRole:

@@ -19,10 +19,10 @@ class ChatViewModel;
 //
 // Roles: messageID (of the album's first message), senderName, senderInitials,
 // senderColor (color), senderAvatarPath ("" when none), text, timestamp,
-// isOutgoing, deliveryState ("none", "sending", "sent", "read"), mediaPath (""
-// when none), mediaPaths (list of text), mediaKind ("" or "photo", "sticker",
-// "video", "animation", "voice", "audio"), stickerEmoji, stickerFormat ("webp",
-// "animated", "video"), documentName, documentPath ("" when none), albumID (""
+// isOutgoing, deliveryState (Model.MessageDeliveryState), mediaPath (""
+// when none), mediaPaths (list of text), mediaKind (Model.MessageMediaKind,
+// undefined when none), stickerEmoji, stickerFormat (Model.StickerFormat),
+// documentName, documentPath ("" when none), albumID (""
 // when none), reactions (list of {emoji, count, isChosen}), isUnread,
 // showsUnreadDivider (the unread run starts here), isFirstOfGroup (the first, in
 // time, of consecutive messages from one sender), bodyText (the bubble's text

@@ -26,11 +26,11 @@ Item {
     required property string bodyText
     required property string timestamp
     required property bool isOutgoing
-    required property string deliveryState
+    required property int deliveryState
     required property string mediaPath
     required property string documentPath
     required property string stickerEmoji
-    required property string stickerFormat
+    required property int stickerFormat
     required property var reactions
     required property bool showsUnreadDivider
     required property bool isFirstOfGroup
@@ -62,8 +62,8 @@ Item {
     readonly property bool withSender: showsSenders && !isOutgoing
     readonly property color foreground: isOutgoing && !bare ? Appearance.accentText : Appearance.text
     readonly property string link: kind === MessageContent.Text ? MessageText.firstLink(bodyText) : ""
-    readonly property string ticks: !isOutgoing ? "" : (deliveryState === "sending" ? "◷" : (deliveryState === "read" ? "✓✓" : (deliveryState === "sent" ? "✓" : "")))
-    readonly property string deliveryName: deliveryState === "sending" ? qsTr("sending") : (deliveryState === "read" ? qsTr("read") : (deliveryState === "sent" ? qsTr("sent") : ""))
+    readonly property string ticks: !isOutgoing ? "" : (deliveryState === Model.MessageDeliveryState.Sending ? "◷" : (deliveryState === Model.MessageDeliveryState.Read ? "✓✓" : (deliveryState === Model.MessageDeliveryState.Sent ? "✓" : "")))
+    readonly property string deliveryName: deliveryState === Model.MessageDeliveryState.Sending ? qsTr("sending") : (deliveryState === Model.MessageDeliveryState.Read ? qsTr("read") : (deliveryState === Model.MessageDeliveryState.Sent ? qsTr("sent") : ""))
     // Set while the view keeps this delegate for reuse: it stays visible there.
     property bool pooled: false
     // Only messages inside the transcript's viewport of a shown popover are exposed

@@ -48,7 +48,7 @@ FocusScope {
                 Layout.preferredHeight: 48
                 Layout.bottomMargin: 4
                 name: presenter.icon
-                color: presenter.icon === "exclamationmark.triangle.fill" ? Appearance.warning : Appearance.accent
+                color: presenter.isUnavailable ? Appearance.warning : Appearance.accent
             }
 
             ReadableText {

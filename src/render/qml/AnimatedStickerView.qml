@@ -13,7 +13,7 @@ Item {
 
     // The sticker file on disk.
     property alias path: controller.path
-    // StickerPageController.Animated or .Video (WebP gets the video markup).
+    // Model.StickerFormat.Animated or .Video (WebP gets the video markup).
     property alias format: controller.format
     // The key of the page last handed to the web view.
     readonly property alias pageKey: controller.key

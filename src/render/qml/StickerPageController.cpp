@@ -19,7 +19,7 @@ void StickerPageController::setPath(const QString &path)
     scheduleUpdate();
 }
 
-void StickerPageController::setFormat(Format format)
+void StickerPageController::setFormat(StickerFormat format)
 {
     const bool changed = format != m_format;
     m_format = format;
@@ -41,7 +41,7 @@ void StickerPageController::update()
     m_updateScheduled = false;
     if (m_path.isEmpty())
         return;
-    std::optional<QString> page = m_coordinator.update(m_path, static_cast<StickerFormat>(m_format));
+    std::optional<QString> page = m_coordinator.update(m_path, m_format);
     if (!page)
         return;
     m_page = std::move(*page);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/StickerPage.h"
+#include "session/ModelTypes.h"
 
 #include <QObject>
 #include <QString>
@@ -14,16 +15,13 @@ class StickerPageController : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged)
-    Q_PROPERTY(Format format READ format WRITE setFormat NOTIFY formatChanged)
+    Q_PROPERTY(Model::StickerFormat format READ format WRITE setFormat NOTIFY formatChanged)
     Q_PROPERTY(QString page READ page NOTIFY pageChanged)
     Q_PROPERTY(bool hasPage READ hasPage NOTIFY pageChanged)
     Q_PROPERTY(QString key READ key NOTIFY pageChanged)
     Q_PROPERTY(PlayState playState READ playState NOTIFY playStateChanged)
 
 public:
-    // The order of StickerFormat.
-    enum Format { Webp, Animated, Video };
-    Q_ENUM(Format)
     // The order of StickerPage::PlayState.
     enum PlayState { Loading, Playing, Unavailable };
     Q_ENUM(PlayState)
@@ -33,8 +31,8 @@ public:
     QString path() const { return m_path; }
     // Every write counts as a redraw: the page stays unless the key changed.
     void setPath(const QString &path);
-    Format format() const { return m_format; }
-    void setFormat(Format format);
+    StickerFormat format() const { return m_format; }
+    void setFormat(StickerFormat format);
 
     // The page to show; pageChanged() means "load it", even when the text is the
     // same as before (a WebP and a WebM sticker get the same markup).
@@ -61,7 +59,7 @@ private:
     void update();
 
     QString m_path;
-    Format m_format = Animated;
+    StickerFormat m_format = StickerFormat::Animated;
     QString m_page;
     bool m_updateScheduled = false;
     int m_pagesMade = 0;

@@ -11,17 +11,17 @@ Item {
 
     // The sticker file; "" while it downloads.
     property string path
-    // "webp", "animated" or "video".
-    property string format: "webp"
+    // A Model.StickerFormat.
+    property int format: Model.StickerFormat.Webp
     property string emoji
     // Animated and video stickers play while this is set and they are shown.
     property bool playing: true
     // Whether it is exposed to assistive technology (a list hides what is off screen).
     property bool shown: true
 
-    readonly property bool ready: (format === "webp" && image.status === Image.Ready)
-                                  || (format === "animated" && player.status === StickerPlayer.Ready)
-                                  || (format === "video" && video.status === Loader.Ready
+    readonly property bool ready: (format === Model.StickerFormat.Webp && image.status === Image.Ready)
+                                  || (format === Model.StickerFormat.Animated && player.status === StickerPlayer.Ready)
+                                  || (format === Model.StickerFormat.Video && video.status === Loader.Ready
                                       && video.item.playState === StickerPageController.Playing
                                       && video.item.frameCount > 0)
 
@@ -35,7 +35,7 @@ Item {
         id: image
 
         anchors.fill: parent
-        visible: view.format === "webp"
+        visible: view.format === Model.StickerFormat.Webp
         source: visible ? LocalFile.url(view.path) : ""
         sourceSize: Qt.size(view.width * 2, view.height * 2)
         fillMode: Image.PreserveAspectFit
@@ -46,7 +46,7 @@ Item {
         id: player
 
         anchors.fill: parent
-        visible: view.format === "animated"
+        visible: view.format === Model.StickerFormat.Animated
         path: visible ? view.path : ""
         playing: view.playing
     }
@@ -55,11 +55,11 @@ Item {
         id: video
 
         anchors.fill: parent
-        active: view.format === "video" && view.path !== "" && view.visible && view.playing
+        active: view.format === Model.StickerFormat.Video && view.path !== "" && view.visible && view.playing
         sourceComponent: AnimatedStickerView {
             objectName: "stickerPage"
             path: view.path
-            format: StickerPageController.Video
+            format: Model.StickerFormat.Video
         }
     }
 

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Vost.App
 import Vost.Model
+import Vost.Render
 
 // The files waiting above the composer: a thumbnail for each photo, a chip with
 // name and size for each document, each with its remove button; "Send as file"
@@ -73,7 +74,7 @@ Column {
 
                         required property var modelData
 
-                        readonly property bool isPhoto: modelData.kind === "photo"
+                        readonly property bool isPhoto: modelData.kind === Model.PendingAttachmentKind.Photo
 
                         width: isPhoto ? 56 : chip.width
                         height: 56

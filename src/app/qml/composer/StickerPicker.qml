@@ -126,7 +126,7 @@ PickerPanel {
                     required property int index
                     required property string emoji
                     required property string path
-                    required property string format
+                    required property int format
 
                     readonly property bool onScreen: GridView.view !== null && y + height > GridView.view.contentY
                                                      && y < GridView.view.contentY + GridView.view.height

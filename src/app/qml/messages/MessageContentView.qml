@@ -19,7 +19,7 @@ Loader {
     required property real downloadProgress
     required property bool outgoing
     required property string stickerEmoji
-    required property string stickerFormat
+    required property int stickerFormat
     required property bool onScreen
     required property AudioPlayback playback
     property real maximumWidth: 320
