@@ -248,9 +248,7 @@ private Q_SLOTS:
         Message captioned = makeMessage(21, u"Ann"_s);
         captioned.mediaKind = MessageMediaKind::Photo;
         captioned.text = u"Lake"_s;
-        const auto details = [](const char *json) {
-            return messageDetails(QJsonDocument::fromJson(json).object());
-        };
+        const auto details = [](const char *json) { return messageDetails(QJsonDocument::fromJson(json).object()); };
         viewModel.setMessageDetails(
             {details(R"({"id":20,"date":1700000000,"content":{"@type":"messagePhoto","caption":{"text":""}}})"),
              details(R"({"id":21,"content":{"@type":"messagePhoto","caption":{"text":"Lake"}}})")},

@@ -505,9 +505,9 @@ void ChatViewModel::queueFiles(const QStringList &pathsOrUrls)
             continue;
         }
         const PendingAttachmentKind kind = Attachments::kindFor(path);
-        attachments.append({QUuid::createUuid(), path,
-                            kind == PendingAttachmentKind::Photo && picturesSentAsFiles() ? PendingAttachmentKind::Document
-                                                                                          : kind});
+        attachments.append(
+            {QUuid::createUuid(), path,
+             kind == PendingAttachmentKind::Photo && picturesSentAsFiles() ? PendingAttachmentKind::Document : kind});
     }
     if (refused != m_refusedFiles) {
         m_refusedFiles = refused;
@@ -520,7 +520,8 @@ void ChatViewModel::queueFiles(const QStringList &pathsOrUrls)
 bool ChatViewModel::picturesSentAsFiles() const
 {
     return std::any_of(m_pendingAttachments.cbegin(), m_pendingAttachments.cend(), [](const PendingAttachment &a) {
-        return a.kind == PendingAttachmentKind::Document && Attachments::kindFor(a.path) == PendingAttachmentKind::Photo;
+        return a.kind == PendingAttachmentKind::Document &&
+               Attachments::kindFor(a.path) == PendingAttachmentKind::Photo;
     });
 }
 
@@ -643,14 +644,14 @@ QVariantList ChatViewModel::pendingAttachmentItems() const
     QVariantList items;
     for (const PendingAttachment &attachment : m_pendingAttachments) {
         const QFileInfo info(attachment.path);
-        items.append(QVariantMap{
-            {u"id"_s, attachment.id.toString(QUuid::WithoutBraces)},
-            {u"path"_s, attachment.path},
-            {u"url"_s, QUrl::fromLocalFile(attachment.path)},
-            {u"name"_s, info.fileName()},
-            {u"size"_s, info.size()},
-            {u"kind"_s, int(attachment.kind)},
-            {u"isImage"_s, Attachments::kindFor(attachment.path) == PendingAttachmentKind::Photo}});
+        items.append(
+            QVariantMap{{u"id"_s, attachment.id.toString(QUuid::WithoutBraces)},
+                        {u"path"_s, attachment.path},
+                        {u"url"_s, QUrl::fromLocalFile(attachment.path)},
+                        {u"name"_s, info.fileName()},
+                        {u"size"_s, info.size()},
+                        {u"kind"_s, int(attachment.kind)},
+                        {u"isImage"_s, Attachments::kindFor(attachment.path) == PendingAttachmentKind::Photo}});
     }
     return items;
 }

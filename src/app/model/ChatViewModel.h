@@ -38,8 +38,8 @@ class ChatViewModel : public QObject
     // The files last refused: name and reason (Attachments.Refusal).
     Q_PROPERTY(QVariantList refusedFiles READ refusedFiles NOTIFY refusedFilesChanged)
     // Pictures go as files rather than as photos.
-    Q_PROPERTY(bool picturesSentAsFiles READ picturesSentAsFiles WRITE setPicturesSentAsFiles NOTIFY
-                   pendingAttachmentsChanged)
+    Q_PROPERTY(
+        bool picturesSentAsFiles READ picturesSentAsFiles WRITE setPicturesSentAsFiles NOTIFY pendingAttachmentsChanged)
     Q_PROPERTY(QString stickerError READ stickerError NOTIFY stickerErrorChanged)
     // The seven emoji offered for reacting, in their order.
     Q_PROPERTY(QStringList reactionPalette READ reactionPalette CONSTANT)
@@ -258,7 +258,7 @@ private:
         bool exhausted = false;
     };
     QHash<QString, HistoryState> m_historyStates;
-    QSet<QString> m_chatsWithMessages; // the chats whose messages were set at least once
+    QSet<QString> m_chatsWithMessages;            // the chats whose messages were set at least once
     QHash<QString, QString> m_olderRequestedFrom; // chat id -> the oldest message id last asked from
     QVariantList m_refusedFiles;
     QHash<qint64, double> m_downloadProgress;

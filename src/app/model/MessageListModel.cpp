@@ -106,8 +106,9 @@ QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &me
         const bool divider = !dividerID.isEmpty() && message.id == dividerID;
         Row *previous = rows.isEmpty() ? nullptr : &rows.last();
         // TDLib gives messages outside albums the album id 0.
-        if (message.mediaAlbumID.value_or(0) != 0 && previous && previous->message.mediaAlbumID == message.mediaAlbumID &&
-            sameSender(previous->message, message) && !divider) {
+        if (message.mediaAlbumID.value_or(0) != 0 && previous &&
+            previous->message.mediaAlbumID == message.mediaAlbumID && sameSender(previous->message, message) &&
+            !divider) {
             if (previous->album.isEmpty())
                 previous->album.append({previous->message, previous->details});
             previous->album.append({message, shown});
@@ -117,7 +118,11 @@ QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &me
             continue;
         }
         const QDate day = shown.date.isValid() ? shown.date.toLocalTime().date() : previousDay;
-        rows.append({message, shown, {}, divider, i == 0 || !sameSender(messages.at(i - 1), message),
+        rows.append({message,
+                     shown,
+                     {},
+                     divider,
+                     i == 0 || !sameSender(messages.at(i - 1), message),
                      day.isValid() && day != previousDay});
         previousDay = day;
     }
@@ -179,9 +184,9 @@ void MessageListModel::refresh()
         return;
     const QString chatID = m_viewModel->selectedChatIDText();
     const Chat *chat = m_viewModel->chat(chatID);
-    const QList<Row> rows =
-        chat ? makeRows(chat->messages, m_viewModel->messageDetails(chatID), m_viewModel->unreadDividers().value(chatID))
-             : QList<Row>();
+    const QList<Row> rows = chat ? makeRows(chat->messages, m_viewModel->messageDetails(chatID),
+                                            m_viewModel->unreadDividers().value(chatID))
+                                 : QList<Row>();
     const int before = count();
     if (chatID != m_chatID) {
         // Another chat: nothing of the old transcript stays.
