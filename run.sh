@@ -24,7 +24,7 @@ BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 DEBIAN_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
     librsvg2-bin
-    qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev libgl-dev qt6-qpa-plugins
+    qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev qt6-svg-dev libgl-dev qt6-qpa-plugins
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
     qml6-module-qtmultimedia qt6-image-formats-plugins

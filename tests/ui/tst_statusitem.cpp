@@ -4,6 +4,7 @@
 #include "StatusItemImage.h"
 #include "Symbols.h"
 
+#include <QDir>
 #include <QPainter>
 #include <QtTest>
 
@@ -163,17 +164,31 @@ private Q_SLOTS:
 
     void symbolsAreKnown()
     {
-        for (const char *name : {"paperplane.fill", "lock.fill", "number.square.fill", "exclamationmark.triangle.fill",
-                                 "exclamationmark.triangle", "ellipsis.message.fill"}) {
-            QVERIFY2(Symbols::isKnown(QString::fromLatin1(name)), name);
+        const QStringList files = QDir(u":/symbols"_s).entryList({u"*.svg"_s});
+        QVERIFY(files.size() >= 20);
+        for (const QString &file : files) {
+            const QString name = file.chopped(4);
+            QVERIFY2(Symbols::isKnown(name), qPrintable(name));
             QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
             image.fill(Qt::transparent);
             QPainter painter(&image);
-            Symbols::draw(painter, QString::fromLatin1(name), QRectF(0, 0, 32, 32), Qt::black);
+            Symbols::draw(painter, name, QRectF(0, 0, 32, 32), QColor(200, 30, 40));
             painter.end();
-            QVERIFY2(!inkBox(image, image.rect()).isEmpty(), name);
+            QVERIFY2(!inkBox(image, image.rect()).isEmpty(), qPrintable(name));
+            // Drawn in the colour asked for, not the drawing's own black.
+            int tinted = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x) {
+                    const QColor pixel = image.pixelColor(x, y);
+                    if (pixel.alpha() == 255) {
+                        QCOMPARE(pixel, QColor(200, 30, 40));
+                        ++tinted;
+                    }
+                }
+            QVERIFY2(tinted > 0, qPrintable(name));
         }
-        QVERIFY(!Symbols::isKnown(u"star"_s));
+        for (const QString &unknown : {u"star"_s, u""_s, u"../symbols/lock.fill"_s})
+            QVERIFY(!Symbols::isKnown(unknown));
     }
 
     void popoverPlacement()
