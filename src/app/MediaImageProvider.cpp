@@ -1,5 +1,7 @@
 #include "MediaImageProvider.h"
 
+#include "PictureFormats.h"
+
 #include <QImageReader>
 #include <QRunnable>
 #include <QThreadPool>
@@ -107,6 +109,8 @@ QImage MediaImageProvider::decode(const QString &path, const QSize &requestedSiz
     // The bytes decide: a file's name may say PNG while it holds a JPEG.
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
+    if (!isMessagePictureFormat(reader.format()))
+        return {};
     const QSize full = reader.size();
     if (full.isValid() && requestedSize.isValid() && !requestedSize.isEmpty()) {
         const QSize bound(requestedSize.width() > 0 ? requestedSize.width() : full.width(),

@@ -276,6 +276,14 @@ private Q_SLOTS:
             QVERIFY(file.open(QIODevice::WriteOnly));
             file.write("not a picture\n");
         }
+        // A drawing Qt could read, but a stranger's SVG is never rendered.
+        const QString drawing = folder.filePath(u"drawing.png"_s);
+        {
+            QFile file(drawing);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("<svg xmlns='http:/"
+                       "/www.w3.org/2000/svg' viewBox='0 0 4 4'><rect width='4' height='4'/></svg>");
+        }
         ChatViewModel viewModel(nullptr);
         MessageListModel model(&viewModel);
         QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -295,10 +303,11 @@ private Q_SLOTS:
             return sent;
         };
         QList<Message> messages{message(40, jpeg), message(41, text), message(42, std::nullopt),
-                                message(43, std::nullopt)};
+                                message(43, std::nullopt), message(44, drawing)};
         viewModel.setMessageDetails(
             {document(40, u"scan.png"_s, u"image/png"_s), document(41, u"notes.png"_s, u"image/png"_s),
-             document(42, u"SCAN.JPG"_s, u"application/octet-stream"_s), document(43, u"photo.jpg"_s, u"image/jpeg"_s)},
+             document(42, u"SCAN.JPG"_s, u"application/octet-stream"_s), document(43, u"photo.jpg"_s, u"image/jpeg"_s),
+             document(44, u"drawing.png"_s, u"image/png"_s)},
             u"1"_s);
         viewModel.setMessages(messages, u"1"_s);
         const auto kindOf = [&model](const QString &messageID) {
@@ -309,6 +318,7 @@ private Q_SLOTS:
         QCOMPARE(kindOf(u"41"_s), MessageContent::Kind::Document);
         QCOMPARE(kindOf(u"42"_s), MessageContent::Kind::Document);
         QCOMPARE(kindOf(u"43"_s), MessageContent::Kind::Photo);
+        QCOMPARE(kindOf(u"44"_s), MessageContent::Kind::Document);
         // The file shows its name and size, and stays out of the viewer.
         const QVariantMap shown = model.index(model.rowOf(u"41"_s)).data(MessageListModel::DetailsRole).toMap();
         QCOMPARE(shown.value(u"fileName"_s).toString(), u"notes.png"_s);

@@ -1,6 +1,7 @@
 #include "MessageListModel.h"
 
 #include "ChatViewModel.h"
+#include "PictureFormats.h"
 
 #include "session/Initials.h"
 
@@ -58,7 +59,7 @@ bool showsAsPicture(const Message &message, const MessageDetails &details)
     if (message.mediaPath) {
         QImageReader reader(*message.mediaPath);
         reader.setDecideFormatFromContent(true);
-        return reader.canRead();
+        return reader.canRead() && isMessagePictureFormat(reader.format());
     }
     return details.mimeType.startsWith("image/"_L1, Qt::CaseInsensitive);
 }
