@@ -104,14 +104,8 @@ class Messages(VostTestCase):
         document = self.scroll_to(vost, messages, KINDS["document"])
         save = vost.find("push button", "Save", within=document, timeout=15)
         vost.find("push button", "Open", within=document)
-        save.press()
-        wait_until(lambda: not vost.popover_shown(), what="the popover out of the save dialog's way")
-        dialog = vost.find("dialog", "Save", timeout=15)
         target = os.path.join(self.desktop.work, "saved-itinerary.pdf")
-        vost.fill(vost.find("text", within=dialog), target)
-        vost.key("Return")
-        wait_until(lambda: os.path.exists(target), what="the saved copy")
-        wait_until(vost.popover_shown, what="the popover back after the dialog")
+        vost.save_through_dialog(save, target)
         downloaded = glob.glob(os.path.join(self.desktop.env["HOME"], ".local/share/Corvella/**/Itinerary*.pdf"),
                                recursive=True)
         self.assertTrue(downloaded)
@@ -121,18 +115,7 @@ class Messages(VostTestCase):
     def save_from(self, vost, viewer, target=None):
         """Presses the viewer's Save; cancels the dialog, or saves to target. The
         popover and the viewer are back afterwards; returns the suggested name."""
-        vost.find("push button", "Save", within=viewer).press()
-        wait_until(lambda: not vost.popover_shown(), what="the popover out of the save dialog's way")
-        dialog = vost.find("dialog", "Save", timeout=15)
-        name = vost.find("text", within=dialog)
-        suggested = name.text()
-        if target is None:
-            vost.find("push button", "Cancel", within=dialog).press()
-        else:
-            vost.fill(name, target)
-            vost.key("Return")
-            wait_until(lambda: os.path.exists(target), what="the saved copy")
-        wait_until(vost.popover_shown, what="the popover back after the dialog")
+        suggested = vost.save_through_dialog(vost.find("push button", "Save", within=viewer), target)
         vost.find("dialog", "Photo viewer")
         self.assertTrue(vost.running())
         return suggested

@@ -54,14 +54,8 @@ class Walk(VostTestCase):
         self.pickers(vost)
         # From the newest back: the document, the GIF, the album.
         document = cases.scroll_to(vost, messages, test_messages.KINDS["document"])
-        vost.find("push button", "Save", within=document, timeout=15).press()
-        wait_until(lambda: not vost.popover_shown(), what="the popover out of the save dialog's way")
-        dialog = vost.find("dialog", "Save", timeout=15)
-        target = os.path.join(self.desktop.work, "walk.pdf")
-        vost.fill(vost.find("text", within=dialog), target)
-        vost.key("Return")
-        wait_until(lambda: os.path.exists(target), what="the saved document")
-        wait_until(vost.popover_shown, what="the popover back after the dialog")
+        vost.save_through_dialog(vost.find("push button", "Save", within=document, timeout=15),
+                                 os.path.join(self.desktop.work, "walk.pdf"))
         animation = cases.scroll_to(vost, messages, test_messages.KINDS["animation"])
         gif = vost.find("image", "GIF", within=animation, timeout=15)
 

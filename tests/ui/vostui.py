@@ -522,6 +522,24 @@ class Vost:
         self.key("ctrl+a", "BackSpace")
         self.type(text)
 
+    def save_through_dialog(self, save_button, target=None):
+        """Presses a Save button and answers the file dialog: saves to target, or
+        cancels without one. The popover steps aside for the dialog and is back
+        afterwards; returns the name the dialog suggested."""
+        save_button.press()
+        wait_until(lambda: not self.popover_shown(), what="the popover out of the save dialog's way")
+        dialog = self.find("dialog", "Save", timeout=15)
+        name = self.find("text", within=dialog)
+        suggested = name.text()
+        if target is None:
+            self.find("push button", "Cancel", within=dialog).press()
+        else:
+            self.fill(name, target)
+            self.key("Return")
+            wait_until(lambda: os.path.exists(target), what="the saved copy")
+        wait_until(self.popover_shown, what="the popover back after the dialog")
+        return suggested
+
     def wheel(self, node, clicks, down=False):
         """Turns the mouse wheel over node, up unless down."""
         x, y = node.center()
