@@ -2,6 +2,8 @@
 
 #include <QLocale>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 Formats::Formats(QObject *parent)
@@ -16,12 +18,29 @@ QString Formats::dataSize(qint64 bytes)
 QString Formats::duration(int seconds)
 {
     seconds = std::max(seconds, 0);
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    // The locale's own digits ("۰:۰۷" in Persian), padded with its own zero.
+    const auto twoDigits = [&locale](int value) {
+        return value < 10 ? locale.zeroDigit() + locale.toString(value) : locale.toString(value);
+    };
     const int hours = seconds / 3600;
     const int minutes = seconds / 60 % 60;
-    const QString rest = u"%1:%2"_s.arg(hours > 0 ? QString::number(minutes).rightJustified(2, u'0')
-                                                  : QString::number(minutes))
-                             .arg(seconds % 60, 2, 10, QChar(u'0'));
-    return hours > 0 ? QString::number(hours) + u':' + rest : rest;
+    const QString rest = (hours > 0 ? twoDigits(minutes) : locale.toString(minutes)) + u':' + twoDigits(seconds % 60);
+    return hours > 0 ? locale.toString(hours) + u':' + rest : rest;
+}
+
+QString Formats::coordinates(double latitude, double longitude)
+{
+    // Degrees with the hemisphere's letter and a point for decimals, whatever the
+    // language: the form maps and GPS devices read everywhere.
+    const auto part = [](double degrees, char16_t positive, char16_t negative) {
+        const QString number = QString::number(std::abs(degrees), 'f', 5);
+        return number + u"° "_s + QChar(degrees < 0 ? negative : positive);
+    };
+    if (!std::isfinite(latitude) || !std::isfinite(longitude))
+        return {};
+    return part(latitude, u'N', u'S') + u", "_s + part(longitude, u'E', u'W');
 }
 
 QString Formats::dayLabel(const QDateTime &date)

@@ -16,8 +16,11 @@ public:
 
     // "820 bytes", "1.2 MB" (decimal units), …
     Q_INVOKABLE static QString dataSize(qint64 bytes);
-    // "0:07", "12:30", "1:02:03".
+    // "0:07", "12:30", "1:02:03", in the locale's digits.
     Q_INVOKABLE static QString duration(int seconds);
+    // "51.50070° N, 0.12460° W": the same in every language; empty for a
+    // coordinate that is not a number.
+    Q_INVOKABLE static QString coordinates(double latitude, double longitude);
     // A day as the transcript's separators name it: "Today", "Yesterday", the
     // weekday within the last week, else the date; relative to today.
     Q_INVOKABLE static QString dayLabel(const QDateTime &date);

@@ -3,11 +3,11 @@
 // and sizes and durations as shown.
 
 #include "Attachments.h"
-#include "SearchFilterModel.h"
 #include "ChatListModel.h"
 #include "ChatViewModel.h"
 #include "EmojiCatalog.h"
 #include "EmojiModels.h"
+#include "SearchFilterModel.h"
 #include "app/Formats.h"
 
 #include "session/UserDefaults.h"
@@ -147,8 +147,8 @@ private Q_SLOTS:
                                            const QString &) { sent = attachments; };
         const QString png = writeImage(folder, u"red.png"_s, "PNG");
         const QString pdf = writeFile(folder, u"a.pdf"_s, "%PDF-1.4");
-        model.queueFiles({QUrl::fromLocalFile(png).toString(), pdf, folder.filePath(u"gone.txt"_s),
-                          u"https://example.org/x.png"_s});
+        model.queueFiles(
+            {QUrl::fromLocalFile(png).toString(), pdf, folder.filePath(u"gone.txt"_s), u"https://example.org/x.png"_s});
         QCOMPARE(model.pendingAttachments().size(), 2);
         QCOMPARE(model.pendingAttachments().at(0).kind, PendingAttachmentKind::Photo);
         QCOMPARE(model.pendingAttachments().at(1).kind, PendingAttachmentKind::Document);
@@ -266,7 +266,8 @@ private Q_SLOTS:
     void theForwardChooserFiltersEveryChatByTitle()
     {
         ChatViewModel model(nullptr);
-        model.replaceChats({makeChat(u"1"_s, u"Liam Chen"_s), makeChat(u"2"_s, u"Lab"_s), makeChat(u"3"_s, u"Émile"_s)});
+        model.replaceChats(
+            {makeChat(u"1"_s, u"Liam Chen"_s), makeChat(u"2"_s, u"Lab"_s), makeChat(u"3"_s, u"Émile"_s)});
         // The sidebar's search does not narrow the chooser.
         model.setSearchText(u"Lab"_s);
         ChatListModel chats(&model, ChatListModel::Rows::All);
@@ -301,6 +302,24 @@ private Q_SLOTS:
         // A day after today (a clock set back) is a date, not a weekday.
         QCOMPARE(Formats::dayLabel(today.addDays(2), today), u"11 October"_s);
         QCOMPARE(Formats::dayLabel(QDateTime()), QString());
+    }
+
+    void coordinatesAndDurationsInOtherLanguages()
+    {
+        const QLocale english(QLocale::English, QLocale::UnitedKingdom);
+        for (const QLocale &locale :
+             {english, QLocale(QLocale::German, QLocale::Germany), QLocale(QLocale::Persian, QLocale::Iran)}) {
+            QLocale::setDefault(locale);
+            // A German comma would run into the separator between the two numbers.
+            QCOMPARE(Formats::coordinates(51.5007, -0.1246), u"51.50070° N, 0.12460° W"_s);
+            QCOMPARE(Formats::coordinates(-33.8568, 151.2153), u"33.85680° S, 151.21530° E"_s);
+        }
+        QCOMPARE(Formats::coordinates(qQNaN(), 1.0), QString());
+        QLocale::setDefault(QLocale(QLocale::Persian, QLocale::Iran));
+        QCOMPARE(Formats::duration(7), u"۰:۰۷"_s);
+        QCOMPARE(Formats::duration(3723), u"۱:۰۲:۰۳"_s);
+        QLocale::setDefault(english);
+        QCOMPARE(Formats::duration(36000), u"10:00:00"_s);
     }
 };
 

@@ -28,7 +28,7 @@ KINDS = {
     "document": r"Emma Wilson: Document Itinerary\.pdf, \d+(\.\d)? kB, ",
     "image as a file": r"Emma Wilson: Photo, \d+:\d\d$",
     "sticker": r"(You|Emma Wilson): Sticker \S+, ",
-    "location": r"Emma Wilson: Location 51\.50070, -0\.12460, ",
+    "location": r"Emma Wilson: Location 51\.50070° N, 0\.12460° W, ",
     "contact": r"You: Contact Chloe Hall, 15550123, ",
     "call": r"Emma Wilson: Incoming call, 5:12, ",
     "dice": r"You: 🎲 rolled 5, ",

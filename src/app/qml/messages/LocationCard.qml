@@ -13,8 +13,7 @@ Item {
     required property var details
     property bool outgoing: false
 
-    readonly property string coordinates: Number(details.latitude).toLocaleString(Qt.locale(), "f", 5) + ", "
-                                          + Number(details.longitude).toLocaleString(Qt.locale(), "f", 5)
+    readonly property string coordinates: Formats.coordinates(details.latitude, details.longitude)
     readonly property color foreground: outgoing ? Appearance.accentText : Appearance.text
 
     implicitWidth: 260
