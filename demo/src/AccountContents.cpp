@@ -78,6 +78,52 @@ const char16_t *const kLines[] = {
     u"Halfway through, no spoilers please!",
 };
 
+// A span of formatted text, found by the first occurrence of `part` in `text`.
+QJsonObject entity(const QString &text, const QString &part, const QJsonObject &type)
+{
+    return object("textEntity", {{"offset", int(text.indexOf(part))}, {"length", int(part.size())}, {"type", type}});
+}
+
+QJsonObject formattedContent(const QString &text, const QJsonArray &entities)
+{
+    return object("messageText", {{"text", formattedText(text, entities)},
+                                  {"link_preview", QJsonValue::Null},
+                                  {"link_preview_options", QJsonValue::Null}});
+}
+
+// What the helper shows of formatted text: every style, and a secret on a line of
+// its own.
+QJsonObject styledHelperText()
+{
+    const QString text = u"Messages can be bold, italic, underlined or struck through.\n"
+                         u"And a secret, hidden until you click it:\n"
+                         u"The butler did it"_s;
+    return formattedContent(text, {entity(text, u"bold"_s, object("textEntityTypeBold")),
+                                   entity(text, u"italic"_s, object("textEntityTypeItalic")),
+                                   entity(text, u"underlined"_s, object("textEntityTypeUnderline")),
+                                   entity(text, u"struck through"_s, object("textEntityTypeStrikethrough")),
+                                   entity(text, u"The butler did it"_s, object("textEntityTypeSpoiler"))});
+}
+
+// Code with its language, a link under a text, a mention and a hashtag.
+QJsonObject codeSample()
+{
+    const QString text = u"A minimal main for a Qt Quick app:\n"
+                         u"int main(int argc, char *argv[])\n{\n    QGuiApplication app(argc, argv);\n"
+                         u"    return app.exec();\n}"_s;
+    return formattedContent(text, {entity(text, text.mid(text.indexOf(u"int main"_s)),
+                                          object("textEntityTypePreCode", {{"language", u"cpp"_s}}))});
+}
+
+QJsonObject linkSample()
+{
+    const QString text = u"The Qt 6 docs cover it; ask @emma_w. #qt6"_s;
+    return formattedContent(
+        text, {entity(text, u"Qt 6 docs"_s, object("textEntityTypeTextUrl", {{"url", u"https://doc.qt.io/qt-6/"_s}})),
+               entity(text, u"@emma_w"_s, object("textEntityTypeMention")),
+               entity(text, u"#qt6"_s, object("textEntityTypeHashtag"))});
+}
+
 } // namespace
 
 void AccountBuilder::build(const QString &firstName, const QString &phone)
@@ -115,6 +161,7 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
     add(bot, a.m_botID, 2000,
         a.textContent(u"Welcome to the Vost demo account! Everything here is simulated "
                       u"on your computer. Send me a message and I will answer :)"_s));
+    add(bot, a.m_botID, 1995, styledHelperText());
     add(bot, me, 1990, a.textContent(u"Hello bot"_s));
     add(bot, a.m_botID, 1989, a.textContent(u"Hello! Try sending a photo, a sticker or just some text."_s));
     markRead(bot, 0);
@@ -249,6 +296,8 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
     DemoChat &qt = groupChat(ChatKind::Supergroup, 4001, u"Qt Developers"_s, 1840, true);
     qt.muted = true;
     fillTalk(qt, {henry, grace, daniel, noah, me}, 60, 8000, 70);
+    add(qt, daniel, 68, codeSample());
+    add(qt, noah, 67, linkSample());
     add(qt, grace, 65, a.textContent(u"Docs for QImage: https://doc.qt.io/qt-6/qimage.html"_s));
     markRead(qt, 12);
 

@@ -1,5 +1,6 @@
 #include "MessageText.h"
 
+#include "render/FormattedText.h"
 #include "render/LinkRecognizer.h"
 #include "render/SmileyText.h"
 #include "session/Emoji.h"
@@ -14,6 +15,18 @@ QString plainPart(const QString &text)
     QString escaped = SmileyText::render(text).toHtmlEscaped();
     escaped.replace(u"\n"_s, u"<br>"_s);
     return escaped;
+}
+
+QList<FormattedBlock> blocksOf(const QString &text, const QVariant &entities, bool spoilersRevealed,
+                               const QString &linkColor = {}, const QString &veilColor = {})
+{
+    FormattedTextStyle style;
+    style.linkColor = linkColor;
+    style.veilColor = veilColor;
+    style.spoilersRevealed = spoilersRevealed;
+    //: Read by screen readers in place of a spoiler, a part of a message hidden until clicked.
+    style.hiddenSpoilerText = MessageText::tr("hidden text");
+    return formattedBlocks(text, entities.value<TextEntities>(), style);
 }
 
 } // namespace
@@ -61,4 +74,40 @@ bool MessageText::isLargeEmoji(const QString &text)
 QString MessageText::emojiGlyphs(const QString &text)
 {
     return emojiFontText(text);
+}
+
+QVariantList MessageText::blocks(const QString &text, const QVariant &entities, bool spoilersRevealed,
+                                 const QString &linkColor, const QString &veilColor)
+{
+    QVariantList items;
+    for (const FormattedBlock &block : blocksOf(text, entities, spoilersRevealed, linkColor, veilColor))
+        items.append(QVariantMap{{u"isCode"_s, block.isCode},
+                                 {u"html"_s, block.html},
+                                 {u"spokenText"_s, block.spokenText},
+                                 {u"code"_s, block.code},
+                                 {u"language"_s, block.language},
+                                 {u"linkTargets"_s, block.linkTargets}});
+    return items;
+}
+
+QString MessageText::spokenText(const QString &text, const QVariant &entities, bool spoilersRevealed)
+{
+    QStringList parts;
+    for (const FormattedBlock &block : blocksOf(text, entities, spoilersRevealed))
+        parts.append(block.spokenText);
+    return parts.join(u'\n');
+}
+
+MessageText::LinkKind MessageText::linkKind(const QString &link)
+{
+    if (link == FormattedLinks::spoilerLink)
+        return LinkKind::Spoiler;
+    if (link.startsWith(FormattedLinks::mentionPrefix))
+        return LinkKind::Mention;
+    return LinkKind::Web;
+}
+
+QString MessageText::mentionedName(const QString &link)
+{
+    return link.startsWith(FormattedLinks::mentionPrefix) ? link.mid(FormattedLinks::mentionPrefix.size()) : QString();
 }

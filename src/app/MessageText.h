@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
 // Message text as the transcript shows it: HTML-escaped, typed smileys shown as
@@ -12,7 +13,22 @@ class MessageText : public QObject
     QML_SINGLETON
 
 public:
+    // What a click on a link of the rich text does.
+    enum class LinkKind { Web, Spoiler, Mention };
+    Q_ENUM(LinkKind)
+
     explicit MessageText(QObject *parent = nullptr);
+
+    // The text with its entities (MessageDetails' entities) as blocks: maps with
+    // isCode, html, spokenText, code, language and linkTargets. Hidden spoilers
+    // are veiled in veilColor until revealed.
+    Q_INVOKABLE static QVariantList blocks(const QString &text, const QVariant &entities, bool spoilersRevealed,
+                                           const QString &linkColor, const QString &veilColor);
+    // What a screen reader reads of the whole text: hidden spoilers left out.
+    Q_INVOKABLE static QString spokenText(const QString &text, const QVariant &entities, bool spoilersRevealed);
+    Q_INVOKABLE static MessageText::LinkKind linkKind(const QString &link);
+    // The username a mention's link names, without "@".
+    Q_INVOKABLE static QString mentionedName(const QString &link);
 
     // Rich text for a Text item with textFormat Text.RichText (or StyledText);
     // linkColor colours the links.

@@ -211,6 +211,44 @@ void readReply(MessageDetails &details, const TdObject &message, const MessageDe
 
 } // namespace
 
+TextEntities textEntities(const TdObject &formattedText)
+{
+    using Type = TextEntity::Type;
+    static const QHash<QString, Type> types{
+        {u"textEntityTypeBold"_s, Type::Bold},
+        {u"textEntityTypeItalic"_s, Type::Italic},
+        {u"textEntityTypeUnderline"_s, Type::Underline},
+        {u"textEntityTypeStrikethrough"_s, Type::Strikethrough},
+        {u"textEntityTypeSpoiler"_s, Type::Spoiler},
+        {u"textEntityTypeCode"_s, Type::Code},
+        {u"textEntityTypePre"_s, Type::Pre},
+        {u"textEntityTypePreCode"_s, Type::Pre},
+        {u"textEntityTypeTextUrl"_s, Type::TextUrl},
+        {u"textEntityTypeUrl"_s, Type::Url},
+        {u"textEntityTypeEmailAddress"_s, Type::EmailAddress},
+        {u"textEntityTypeMention"_s, Type::Mention},
+        {u"textEntityTypeHashtag"_s, Type::Hashtag},
+    };
+    TextEntities entities;
+    for (const QJsonValue &value : formattedText.value("entities"_L1).toArray()) {
+        const TdObject entity = value.toObject();
+        const TdObject type = entity.value("type"_L1).toObject();
+        const auto found = types.constFind(typeOf(type));
+        const std::optional<qint64> offset = integerFrom(entity.value("offset"_L1));
+        const std::optional<qint64> length = integerFrom(entity.value("length"_L1));
+        if (found == types.cend() || !offset || !length || *offset < 0 || *length <= 0 || *offset > INT_MAX ||
+            *length > INT_MAX)
+            continue;
+        QString argument;
+        if (*found == Type::Pre)
+            argument = stringOf(type, "language");
+        else if (*found == Type::TextUrl)
+            argument = stringOf(type, "url");
+        entities.append({int(*offset), int(*length), *found, argument});
+    }
+    return entities;
+}
+
 MessageDetails messageDetails(const TdObject &message, const MessageDetailsContext &context)
 {
     MessageDetails details;
@@ -225,9 +263,13 @@ MessageDetails messageDetails(const TdObject &message, const MessageDetailsConte
     case Kind::Text:
     case Kind::Other:
         details.text = messageText(content);
+        if (typeOf(content) == "messageText"_L1)
+            details.entities = textEntities(content.value("text"_L1).toObject());
         break;
     default:
         details.text = caption(content).value_or(QString());
+        if (!details.text.isEmpty())
+            details.entities = textEntities(content.value("caption"_L1).toObject());
         break;
     }
     readMedia(details, content);

@@ -4,6 +4,7 @@
 // TDLib message: the record itself stays as the session's model defines it. No
 // widget reads TDLib's JSON; they read this.
 
+#include "session/TextEntity.h"
 #include "tdlib/TdJson.h"
 
 #include <QByteArray>
@@ -66,6 +67,8 @@ struct MessageDetails {
     // and cards without one show none: their preview texts belong to the chat list
     // and to notifications.
     QString text;
+    // How parts of text are shown (bold, links, code…); empty for plain text.
+    TextEntities entities;
     // Who the message was forwarded from; empty when it was not (or is unknown).
     QString forwardedFrom;
     // Forwarded messages are never edited.
@@ -131,3 +134,7 @@ struct MessageDetailsContext {
 };
 
 MessageDetails messageDetails(const TdObject &message, const MessageDetailsContext &context = {});
+
+// The spans of a TDLib formattedText that change how its text looks; entities of
+// unknown or malformed types are left out.
+TextEntities textEntities(const TdObject &formattedText);

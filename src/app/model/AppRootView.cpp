@@ -216,6 +216,8 @@ void AppRootView::fillHandlers()
         const QString requestID = session.beginConversation();
         session.requestPrivateChat(userID, requestID, false);
     };
+    // A mention opens the chat through the same search as the new-chat form.
+    model.openUsernameHandler = [&session](const QString &username) { session.openUsername(username); };
     // liveDocumentHandler, liveRichMediaHandler, typingHandler, muteChatHandler,
     // archiveChatHandler, pinChatHandler, markUnreadHandler and draftHandler stay
     // unset: the conversation view does without them.

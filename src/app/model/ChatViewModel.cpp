@@ -639,6 +639,12 @@ void ChatViewModel::openContact(const QString &userID)
         openContactHandler(id);
 }
 
+void ChatViewModel::openMention(const QString &username)
+{
+    if (!username.isEmpty() && openUsernameHandler)
+        openUsernameHandler(username);
+}
+
 QVariantList ChatViewModel::pendingAttachmentItems() const
 {
     QVariantList items;

@@ -84,6 +84,7 @@ public:
     std::function<void(bool typing, const QString &chatID)> typingHandler;
     std::function<void(const QString &query)> contactSearchHandler;
     std::function<void(qint64 userID)> openContactHandler;
+    std::function<void(const QString &username)> openUsernameHandler;
     std::function<void(bool muted, const QString &chatID)> muteChatHandler;
     std::function<void(bool archived, const QString &chatID)> archiveChatHandler;
     std::function<void(bool pinned, const QString &chatID, bool inArchive)> pinChatHandler;
@@ -187,6 +188,8 @@ public:
     Q_INVOKABLE void forwardMessage(const QString &messageID, const QString &toChatID);
     Q_INVOKABLE void searchContacts(const QString &query);
     Q_INVOKABLE void openContact(const QString &userID);
+    // Opens the public chat a mention in a message names ("name", without "@").
+    Q_INVOKABLE void openMention(const QString &username);
     // The selected chat's message with that id; absent when there is none.
     std::optional<Message> selectedChatMessage(const QString &messageID) const;
 

@@ -114,8 +114,10 @@ QList<MessageListModel::Row> MessageListModel::makeRows(const QList<Message> &me
                 previous->album.append({previous->message, previous->details});
             previous->album.append({message, shown});
             // The album's text is the one caption among its messages.
-            if (previous->details.text.isEmpty() && !shown.text.isEmpty())
+            if (previous->details.text.isEmpty() && !shown.text.isEmpty()) {
                 previous->details.text = shown.text;
+                previous->details.entities = shown.entities;
+            }
             continue;
         }
         const QDate day = shown.date.isValid() ? shown.date.toLocalTime().date() : previousDay;
@@ -141,6 +143,7 @@ QVariantMap MessageListModel::detailsItem(const MessageDetails &details)
                                    {u"isChosen"_s, choice.isChosen}});
     return {{u"kind"_s, int(details.kind)},
             {u"text"_s, details.text},
+            {u"entities"_s, QVariant::fromValue(details.entities)},
             {u"date"_s, details.date},
             {u"isEdited"_s, details.isEdited},
             {u"forwardedFrom"_s, details.forwardedFrom},

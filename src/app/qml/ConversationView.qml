@@ -174,6 +174,7 @@ FocusScope {
             onMediaOpened: id => viewer.instance().show(conversation.messageList.media(), id)
             onReplyActivated: id => transcript.showMessage(id)
             onContactMessageRequested: userID => conversation.viewModel.openContact(userID)
+            onMentionActivated: username => conversation.viewModel.openMention(username)
             onReactionToggled: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
         }
 

@@ -55,6 +55,7 @@ Item {
     signal mediaOpened(string messageID)
     signal replyActivated(string messageID)
     signal contactMessageRequested(string userID)
+    signal mentionActivated(string username)
 
     // One to three emoji alone are shown large, without a bubble, as stickers are.
     readonly property bool largeEmoji: kind === MessageContent.Text && MessageText.isLargeEmoji(bodyText)
@@ -73,6 +74,8 @@ Item {
                                      && Window.visibility !== Window.Hidden
 
     ListView.onPooled: pooled = true
+    // A reused row shows another message: its spoilers start hidden.
+    onMessageIDChanged: formatted.spoilersRevealed = false
     ListView.onReused: pooled = false
 
     function openMenu(x, y) {
@@ -84,7 +87,7 @@ Item {
     Accessible.name: {
         // What it holds as its widget says it, then its text.
         const held = content.item ? content.item.Accessible.name : null;
-        const said = [held, MessageText.displayText(bodyText)].filter(part => part).join(", ");
+        const said = [held, MessageText.spokenText(bodyText, info.entities, formatted.spoilersRevealed)].filter(part => part).join(", ");
         const parts = [(isOutgoing ? qsTr("You") : senderName) + ": " + (said !== "" ? said : text), timestamp];
         if (info.isEdited)
             parts.push(qsTr("edited"));
@@ -218,6 +221,7 @@ Item {
                                                           reply.visible ? reply.implicitWidth : 0,
                                                           content.item ? content.item.width : 0,
                                                           body.visible ? Math.min(body.implicitWidth, innerWidth) : 0,
+                                                          formatted.visible ? Math.min(formatted.implicitWidth, innerWidth) : 0,
                                                           preview.visible ? 280 : 0,
                                                           meta.implicitWidth)
 
@@ -299,23 +303,27 @@ Item {
                 Text {
                     id: body
 
-                    visible: message.bodyText !== ""
-                    width: Math.min(implicitWidth, bubble.innerWidth)
-                    text: message.largeEmoji ? MessageText.emojiGlyphs(message.bodyText)
-                                             : MessageText.richText(message.bodyText, message.isOutgoing ? "#FFFFFF" : Appearance.accent.toString())
-                    textFormat: Text.RichText
-                    wrapMode: Text.Wrap
+                    visible: message.bodyText !== "" && message.largeEmoji
+                    text: visible ? MessageText.emojiGlyphs(message.bodyText) : ""
                     color: message.foreground
-                    font.pixelSize: message.largeEmoji ? 40 : 14
-                    font.family: message.largeEmoji ? Appearance.emojiFontFamily : Qt.application.font.family
-                    onLinkActivated: link => Qt.openUrlExternally(link)
+                    font.pixelSize: 40
+                    font.family: Appearance.emojiFontFamily
                     Accessible.role: Accessible.Paragraph
                     Accessible.name: MessageText.displayText(message.bodyText)
                     Accessible.ignored: !visible || !message.onScreen
+                }
 
-                    HoverHandler {
-                        cursorShape: body.hoveredLink !== "" ? Qt.PointingHandCursor : Qt.ArrowCursor
-                    }
+                FormattedBody {
+                    id: formatted
+
+                    visible: message.bodyText !== "" && !message.largeEmoji
+                    text: message.bodyText
+                    entities: message.info.entities
+                    outgoing: message.isOutgoing
+                    foreground: message.foreground
+                    shown: visible && message.onScreen
+                    maximumWidth: bubble.innerWidth
+                    onMentionActivated: username => message.mentionActivated(username)
                 }
 
                 Loader {

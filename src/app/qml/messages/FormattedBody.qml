@@ -1,0 +1,87 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Vost.App
+
+// A message's text as its sender formatted it: paragraphs of rich text and blocks
+// of code. Spoilers stay under a veil, and out of what screen readers read, until
+// a click (or the paragraph's Press action) reveals them.
+Column {
+    id: body
+
+    property string text
+    property var entities
+    property bool outgoing: false
+    property color foreground: Appearance.text
+    // Off screen, nothing of it is exposed to assistive technology.
+    property bool shown: true
+    property real maximumWidth: 300
+    property bool spoilersRevealed: false
+
+    signal mentionActivated(string username)
+
+    readonly property var blocks: MessageText.blocks(text, entities, spoilersRevealed,
+                                                     outgoing ? "#FFFFFF" : Appearance.accent.toString(),
+                                                     outgoing ? "#C9D7F2" : Appearance.secondaryText.toString())
+
+    function activate(link) {
+        const kind = MessageText.linkKind(link);
+        if (kind === MessageText.Spoiler)
+            spoilersRevealed = true;
+        else if (kind === MessageText.Mention)
+            mentionActivated(MessageText.mentionedName(link));
+        else
+            Qt.openUrlExternally(link);
+    }
+
+    spacing: 6
+
+    Repeater {
+        model: body.blocks
+
+        delegate: Column {
+            id: block
+
+            required property var modelData
+
+            Text {
+                id: paragraph
+
+                visible: !block.modelData.isCode
+                width: Math.min(implicitWidth, body.maximumWidth)
+                text: block.modelData.html
+                textFormat: Text.RichText
+                wrapMode: Text.Wrap
+                color: body.foreground
+                font.pixelSize: 14
+                onLinkActivated: link => body.activate(link)
+                Accessible.role: Accessible.Paragraph
+                Accessible.name: block.modelData.spokenText
+                //: The addresses behind the links of a message's text, for screen readers.
+                Accessible.description: block.modelData.linkTargets.length > 0
+                                        ? qsTr("Links to %1").arg(block.modelData.linkTargets.join(", ")) : ""
+                Accessible.ignored: !visible || !body.shown
+                Accessible.onPressAction: body.spoilersRevealed = true
+
+                HoverHandler {
+                    id: pointer
+
+                    cursorShape: paragraph.hoveredLink !== "" ? Qt.PointingHandCursor : Qt.ArrowCursor
+                }
+                ToolTip.visible: pointer.hovered && paragraph.hoveredLink !== ""
+                                 && MessageText.linkKind(paragraph.hoveredLink) === MessageText.Web
+                ToolTip.text: paragraph.hoveredLink
+                ToolTip.delay: 500
+            }
+
+            CodeBlock {
+                visible: block.modelData.isCode
+                code: block.modelData.code
+                language: block.modelData.language
+                outgoing: body.outgoing
+                foreground: body.foreground
+                shown: visible && body.shown
+                maximumWidth: body.maximumWidth
+            }
+        }
+    }
+}
