@@ -137,8 +137,8 @@ int VostApp::run(QApplication &application)
         return 0;
     // Nobody answered, but one that is closing may still hold the database.
     if (!instance.waitForDatabase()) {
-        const QString text =
-            QObject::tr("Another Vost is still closing or not answering. Start Vost again in a moment.");
+        const QString text = QCoreApplication::translate(
+            "VostApp", "Another Vost is still closing or not answering. Start Vost again in a moment.");
         QTextStream(stderr) << text << '\n';
         QMessageBox::warning(nullptr, u"Vost"_s, text);
         return 3;
@@ -299,10 +299,10 @@ bool VostApp::launch()
 void VostApp::createTrayIcon()
 {
     m_statusMenu = std::make_unique<QMenu>();
-    QAction *open = m_statusMenu->addAction(u"Open Vost"_s);
+    QAction *open = m_statusMenu->addAction(tr("Open Vost"));
     connect(open, &QAction::triggered, this, &VostApp::showPopover);
     m_statusMenu->addSeparator();
-    QAction *quitAction = m_statusMenu->addAction(u"Quit Vost"_s);
+    QAction *quitAction = m_statusMenu->addAction(tr("Quit Vost"));
     quitAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quitAction, &QAction::triggered, this, &VostApp::quit);
 

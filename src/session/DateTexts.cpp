@@ -1,5 +1,6 @@
 #include "session/DateTexts.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QLocale>
 #include <QTimeZone>
@@ -78,7 +79,7 @@ QString timestampText(std::optional<qint64> date, QDate today)
     if (day == today)
         return userLocale().toString(time, u"H:mm"_s);
     if (day == today.addDays(-1))
-        return u"Yesterday"_s;
+        return QCoreApplication::translate("DateTexts", "Yesterday");
     // A sync dates thousands of chats on far fewer days; the locale never changes.
     thread_local QHash<qint64, QString> dayTexts;
     const auto known = dayTexts.constFind(day.toJulianDay());

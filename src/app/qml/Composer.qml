@@ -102,6 +102,7 @@ FocusScope {
                     bottomMargin: 2
                 }
                 symbol: "paperclip"
+                //: A verb: the button that adds files.
                 Accessible.name: qsTr("Attach")
                 onClicked: FilePanel.chooseAttachments()
             }
@@ -139,6 +140,7 @@ FocusScope {
                     focus: true
                     activeFocusOnTab: true
                     text: composer.viewModel.composerText
+                    //: A noun: the text being written.
                     placeholderText: qsTr("Message")
                     wrapMode: TextEdit.Wrap
                     font.pixelSize: 14
@@ -228,6 +230,7 @@ FocusScope {
                 symbol: "paperplane.fill"
                 tint: Appearance.accentText
                 enabled: composer.viewModel.canSendMessages
+                //: The send button while a message is edited: a verb.
                 Accessible.name: composer.editing !== null ? qsTr("Save") : qsTr("Send")
                 onClicked: composer.sendComposed()
 

@@ -63,6 +63,7 @@ Item {
     readonly property color foreground: isOutgoing && !bare ? Appearance.accentText : Appearance.text
     readonly property string link: kind === MessageContent.Text ? MessageText.firstLink(bodyText) : ""
     readonly property string ticks: !isOutgoing ? "" : (deliveryState === Model.MessageDeliveryState.Sending ? "◷" : (deliveryState === Model.MessageDeliveryState.Read ? "✓✓" : (deliveryState === Model.MessageDeliveryState.Sent ? "✓" : "")))
+    //: A message's delivery state, read aloud after its time; the next two as well.
     readonly property string deliveryName: deliveryState === Model.MessageDeliveryState.Sending ? qsTr("sending") : (deliveryState === Model.MessageDeliveryState.Read ? qsTr("read") : (deliveryState === Model.MessageDeliveryState.Sent ? qsTr("sent") : ""))
     // Set while the view keeps this delegate for reuse: it stays visible there.
     property bool pooled: false
@@ -85,12 +86,15 @@ Item {
         // What it holds as its widget says it, then its text.
         const held = content.item ? content.item.Accessible.name : null;
         const said = [held, MessageText.displayText(bodyText)].filter(part => part).join(", ");
-        const parts = [(isOutgoing ? qsTr("You") : senderName) + ": " + (said !== "" ? said : text), timestamp];
+        //: A message read aloud: %1 is its sender, %2 what it says.
+        const parts = [qsTr("%1: %2").arg(isOutgoing ? qsTr("You") : senderName).arg(said !== "" ? said : text), timestamp];
         if (info.isEdited)
+            //: Said of a message that was changed after it was sent.
             parts.push(qsTr("edited"));
         if (deliveryName !== "")
             parts.push(deliveryName);
         for (const reaction of (reactions ? reactions : []))
+            //: A reaction read aloud: %1 is its emoji, %2 how many reacted with it; you did too.
             parts.push(reaction.isChosen ? qsTr("%1 %2, yours").arg(reaction.emoji).arg(reaction.count)
                                          : reaction.emoji + " " + reaction.count);
         return parts.join(", ");
@@ -188,6 +192,7 @@ Item {
         visible: (hover.hovered && !message.pooled) || message.isCurrent || activeFocus
         symbol: "ellipsis"
         tint: Appearance.text
+        //: The button that opens a message's actions.
         Accessible.name: qsTr("More")
         Accessible.ignored: !visible || !message.onScreen
         onClicked: message.openMenu()
@@ -342,7 +347,8 @@ Item {
                     // A sticker's or a die's time sits at its bottom right, on a pill of
                     // its own; in a bubble, at the bubble's right.
                     x: message.bare && content.item ? Math.max(0, content.item.width - width - 4) : inner.width - width - (message.bare ? 4 : 0)
-                    text: (message.info.isEdited ? qsTr("edited") + "  " : "") + message.timestamp
+                    //: An edited message's time; %1 is the time, such as 14:05.
+                    text: (message.info.isEdited ? qsTr("edited  %1").arg(message.timestamp) : message.timestamp)
                           + (message.ticks !== "" ? "  " + message.ticks : "")
                     color: message.isOutgoing && !message.bare ? Qt.rgba(1, 1, 1, 0.75) : Appearance.secondaryText
                     font.pixelSize: 12

@@ -120,12 +120,14 @@ FocusScope {
 
             SectionTitle {
                 Layout.topMargin: 0
+                //: Titles of the preferences' sections.
                 text: qsTr("Appearance")
             }
             RowLayout {
                 spacing: 16
 
                 Repeater {
+                    //: The appearance that follows the system's light or dark setting.
                     model: [{mode: "system", label: qsTr("System")}, {mode: "light", label: qsTr("Light")},
                         {mode: "dark", label: qsTr("Dark")}]
 
@@ -161,6 +163,7 @@ FocusScope {
                         required property string modelData
 
                         // The packs' names as people read them.
+                        //: Names of the sound packs.
                         text: ({crystal: qsTr("Crystal"), gentle: qsTr("Gentle"), classic: qsTr("Classic"),
                                 playful: qsTr("Playful")})[modelData]
                         chosen: page.preferences.soundPack === modelData
@@ -207,6 +210,7 @@ FocusScope {
                     }
                 }
                 PlainButton {
+                    //: A verb: sign out and sign in to another account.
                     text: qsTr("Change account")
                     onClicked: changeAccount.open()
                 }
@@ -221,6 +225,7 @@ FocusScope {
 
             ReadableText {
                 Layout.topMargin: 10
+                //: %1 is the version, such as 0.1.0.
                 text: qsTr("Vost %1").arg(AppPreferences.version)
                 color: Appearance.secondaryText
                 font.pixelSize: 12
