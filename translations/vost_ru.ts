@@ -1280,6 +1280,16 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <comment>language</comment>
+        <extracomment>The language that follows the system&apos;s own.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ReplyQuote</name>

@@ -1,6 +1,7 @@
 #include "VostApp.h"
 
 #include "AppEvents.h"
+#include "AppLanguage.h"
 #include "AppPreferences.h"
 #include "AppRootView.h"
 #include "MediaImageProvider.h"
@@ -123,6 +124,8 @@ int VostApp::run(QApplication &application)
     mallopt(M_MMAP_THRESHOLD, 256 * 1024);
 #endif
     nameApplication();
+    // Before any text is shown, the first of them the warning below.
+    AppLanguage::shared().load();
     // Wayland compositors and docks match the window to the desktop entry by it.
     QApplication::setDesktopFileName(QStringLiteral(VOST_APP_ID));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -305,6 +308,11 @@ void VostApp::createTrayIcon()
     QAction *quitAction = m_statusMenu->addAction(tr("Quit Vost"));
     quitAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quitAction, &QAction::triggered, this, &VostApp::quit);
+    connect(&AppLanguage::shared(), &AppLanguage::languageChanged, m_statusMenu.get(), [this, open, quitAction] {
+        open->setText(tr("Open Vost"));
+        quitAction->setText(tr("Quit Vost"));
+        updateStatusItem(m_unreadCount);
+    });
 
     m_trayIcon = new QSystemTrayIcon(this);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this,

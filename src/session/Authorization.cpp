@@ -144,7 +144,8 @@ void TelegramSession::submitTDLibParameters()
     const QString filesFolder = databaseFolder + "/Files"_L1;
     QDir().mkpath(filesFolder); // TDLib reports an unusable folder itself
 
-    const QLocale::Language language = QLocale::system().language();
+    // The default locale: the system's, or the language chosen in the preferences.
+    const QLocale::Language language = QLocale().language();
     QString languageCode;
     if (language != QLocale::C && language != QLocale::AnyLanguage)
         languageCode = QLocale::languageToCode(language);

@@ -4,7 +4,7 @@ import QtQuick.Layouts
 import Vost.App
 import Vost.Model
 
-// The preferences page, over the whole popover: appearance, sounds and their
+// The preferences page, over the whole popover: appearance, language, sounds and their
 // pack (each pack previews itself when chosen), notifications, starting at
 // login, the account with "Change account", and the version. Esc or "Back"
 // returns to the chats.
@@ -137,6 +137,28 @@ FocusScope {
                         text: modelData.label
                         chosen: Appearance.mode === modelData.mode
                         onPicked: Appearance.mode = modelData.mode
+                    }
+                }
+            }
+
+            SectionTitle {
+                text: qsTr("Language")
+            }
+            Flow {
+                Layout.fillWidth: true
+                spacing: 16
+
+                Repeater {
+                    //: The language that follows the system's own.
+                    model: [{code: "", name: qsTr("System", "language")}].concat(AppLanguage.choices)
+
+                    delegate: PreferenceChoice {
+                        required property var modelData
+
+                        // Each language in its own words, whatever the page speaks.
+                        text: modelData.name
+                        chosen: AppLanguage.choice === modelData.code
+                        onPicked: AppLanguage.choice = modelData.code
                     }
                 }
             }
