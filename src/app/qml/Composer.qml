@@ -13,6 +13,8 @@ FocusScope {
 
     required property ChatViewModel viewModel
     required property AppRootView host
+    // Right-to-left: the pickers open at the left, over their buttons.
+    readonly property bool mirrored: LayoutMirroring.enabled
 
     readonly property var replyTo: viewModel.replyToMessage
     readonly property var editing: viewModel.editingMessage
@@ -250,7 +252,8 @@ FocusScope {
 
         sourceComponent: EmojiPicker {
             parent: composer
-            x: composer.width - width - 12
+            // Over its button, at the trailing end of the composer.
+            x: composer.mirrored ? 12 : composer.width - width - 12
             y: -height - 6
             onChosen: emoji => composer.insertText(emoji)
             onClosed: if (!stickers.opened) field.forceActiveFocus()
@@ -262,7 +265,8 @@ FocusScope {
 
         sourceComponent: StickerPicker {
             parent: composer
-            x: composer.width - width - 12
+            // Over its button, at the trailing end of the composer.
+            x: composer.mirrored ? 12 : composer.width - width - 12
             y: -height - 6
             viewModel: composer.viewModel
             session: composer.host.session

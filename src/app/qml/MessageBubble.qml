@@ -60,6 +60,10 @@ Item {
     readonly property bool largeEmoji: kind === MessageContent.Text && MessageText.isLargeEmoji(bodyText)
     readonly property bool bare: kind === MessageContent.Sticker || kind === MessageContent.Dice || largeEmoji
     readonly property bool withSender: showsSenders && !isOutgoing
+    // Outgoing messages keep to the trailing side: the right, the left when the
+    // popover is mirrored for a right-to-left language (the avatar's anchor flips
+    // by itself; the places set by x follow this).
+    readonly property bool atRight: isOutgoing !== LayoutMirroring.enabled
     readonly property color foreground: isOutgoing && !bare ? Appearance.accentText : Appearance.text
     readonly property string link: kind === MessageContent.Text ? MessageText.firstLink(bodyText) : ""
     readonly property string ticks: !isOutgoing ? "" : (deliveryState === Model.MessageDeliveryState.Sending ? "◷" : (deliveryState === Model.MessageDeliveryState.Read ? "✓✓" : (deliveryState === Model.MessageDeliveryState.Sent ? "✓" : "")))
@@ -186,7 +190,7 @@ Item {
     IconButton {
         id: more
 
-        x: message.isOutgoing ? Math.max(0, column.x - width - 4)
+        x: message.atRight ? Math.max(0, column.x - width - 4)
                               : Math.min(message.width - width, column.x + column.width + 4)
         y: column.y + (column.height - height) / 2
         visible: (hover.hovered && !message.pooled) || message.isCurrent || activeFocus
@@ -209,7 +213,7 @@ Item {
         id: column
 
         y: divider.y + divider.height + (message.isFirstOfGroup ? 10 : 2)
-        x: message.isOutgoing ? message.width - width - 12 : (message.withSender ? 48 : 12)
+        x: message.atRight ? (message.width - width - (message.withSender ? 48 : 12)) : (message.withSender ? 48 : 12)
         width: Math.max(bubble.width, reactionRow.width)
         spacing: 2
 
@@ -375,7 +379,7 @@ Item {
 
             // Placed by x, not by an anchor: a reused row that was outgoing must not
             // keep the old place.
-            x: message.isOutgoing ? parent.width - width : 0
+            x: message.atRight ? parent.width - width : 0
             reactions: message.reactions
             shown: message.onScreen
             onToggled: emoji => message.reactionToggled(emoji, message.messageID)
