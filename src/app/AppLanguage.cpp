@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QHash>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QQmlEngine>
@@ -86,13 +87,15 @@ QString AppLanguage::languageFor(const QString &choice, const QStringList &uiLan
 
 QString AppLanguage::nativeName(const QString &code)
 {
-    if (code == english)
-        return u"English"_s;
-    if (code == "pt_BR"_L1)
-        return u"Português (Brasil)"_s;
-    // QLocale knows the rest in their own words; only the first letter needs raising.
-    const QString name = QLocale(code).nativeLanguageName();
-    return name.isEmpty() ? code : name.left(1).toUpper() + name.mid(1);
+    // Fixed: QLocale's own names carry territories ("Español de España") and case
+    // that vary with its data.
+    static const QHash<QString, QString> names{{english, u"English"_s},
+                                               {u"ru"_s, u"Русский"_s},
+                                               {u"de"_s, u"Deutsch"_s},
+                                               {u"es"_s, u"Español"_s},
+                                               {u"pt_BR"_s, u"Português (Brasil)"_s},
+                                               {u"fa"_s, u"فارسی"_s}};
+    return names.value(code, code);
 }
 
 void AppLanguage::setChoice(const QString &choice)

@@ -1,12 +1,12 @@
 #include "LoginPresenter.h"
 
+#include "app/AppLanguage.h"
 #include "app/ErrorTexts.h"
 #include "app/PhoneNumbers.h"
 #include "bundle/AppBundle.h"
 #include "session/TelegramSession.h"
 
 #include <QCoreApplication>
-#include <QEvent>
 
 using namespace Qt::StringLiterals;
 using Case = Step::Case;
@@ -122,18 +122,11 @@ LoginPresenter::LoginPresenter(QObject *parent)
     : QObject(parent)
     , m_versionLine(mainVersionLine())
 {
-    // A new language reaches QObjects only through the application object.
-    if (QCoreApplication *app = QCoreApplication::instance())
-        app->installEventFilter(this);
-}
-
-bool LoginPresenter::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance()) {
+    // The texts are read in the language of the moment: a new one announces them again.
+    connect(&AppLanguage::shared(), &AppLanguage::languageChanged, this, [this] {
         Q_EMIT stepChanged();
         Q_EMIT errorMessageChanged();
-    }
-    return QObject::eventFilter(watched, event);
+    });
 }
 
 QString LoginPresenter::mainVersionLine()

@@ -103,9 +103,6 @@ Q_SIGNALS:
     void errorMessageChanged();
     void startupStatusChanged();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     // The step whose texts and field are shown: the session's, or the phone
     // step while a new number is being typed.
