@@ -49,7 +49,9 @@ QString Clipboard::saveImage()
         if (old.lastModified() < dayAgo)
             QFile::remove(old.absoluteFilePath());
     }
-    const QString path = folder.filePath(u"Pasted image %1.png"_s.arg(
-        QUuid::createUuid().toString(QUuid::WithoutBraces).left(8)));
+    const QString path = folder.filePath(
+        //: The file name of a pasted image; %1 is a short random code.
+        QCoreApplication::translate("Clipboard", "Pasted image %1.png")
+            .arg(QUuid::createUuid().toString(QUuid::WithoutBraces).left(8)));
     return image.save(path, "PNG") ? path : QString();
 }

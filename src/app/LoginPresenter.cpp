@@ -1,16 +1,20 @@
 #include "LoginPresenter.h"
 
+#include "app/AppLanguage.h"
 #include "app/ErrorTexts.h"
 #include "app/PhoneNumbers.h"
 #include "bundle/AppBundle.h"
 #include "session/TelegramSession.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 using Case = Step::Case;
 
 namespace {
 // What the sign-in screen shows at each step; the steps before the session is
-// ready to ask anything share the first row.
+// ready to ask anything share the first row. The texts are marked for the
+// catalogs here and translated when they are read.
 struct StepTexts {
     const char *icon;
     const char *title;
@@ -19,25 +23,30 @@ struct StepTexts {
     const char *placeholder;
 };
 
-constexpr StepTexts preparing{"paperplane.fill", "Preparing Telegram", "Starting the secure TDLib connection…",
+constexpr StepTexts preparing{"paperplane.fill", QT_TRANSLATE_NOOP("LoginTexts", "Preparing Telegram"),
+                              QT_TRANSLATE_NOOP("LoginTexts", "Starting the secure TDLib connection…"),
                               LoginTexts::Field::None, ""};
 
 constexpr StepTexts phoneNumber{
-    "paperplane.fill", "Sign in to Telegram",
-    "Enter the telephone number associated with your Telegram account, including its international country code.",
-    LoginTexts::Field::Plain, "Telephone number, including country code"};
+    "paperplane.fill", QT_TRANSLATE_NOOP("LoginTexts", "Sign in to Telegram"),
+    QT_TRANSLATE_NOOP("LoginTexts", "Enter the telephone number associated with your Telegram account, including its "
+                                    "international country code."),
+    LoginTexts::Field::Plain, QT_TRANSLATE_NOOP("LoginTexts", "Telephone number, including country code")};
 
 constexpr StepTexts verificationCode{
-    "number.square.fill", "Enter your verification code",
-    "Telegram sent a code to one of your existing Telegram sessions or by another supported method.",
-    LoginTexts::Field::Plain, "Telegram verification code"};
+    "number.square.fill", QT_TRANSLATE_NOOP("LoginTexts", "Enter your verification code"),
+    QT_TRANSLATE_NOOP("LoginTexts",
+                      "Telegram sent a code to one of your existing Telegram sessions or by another supported method."),
+    LoginTexts::Field::Plain, QT_TRANSLATE_NOOP("LoginTexts", "Telegram verification code")};
 
-constexpr StepTexts password{"lock.fill", "Two-step verification",
-                             "Your account uses an additional password. Enter it to complete sign-in.",
-                             LoginTexts::Field::Secure, "Two-step verification password"};
+constexpr StepTexts password{
+    "lock.fill", QT_TRANSLATE_NOOP("LoginTexts", "Two-step verification"),
+    QT_TRANSLATE_NOOP("LoginTexts", "Your account uses an additional password. Enter it to complete sign-in."),
+    LoginTexts::Field::Secure, QT_TRANSLATE_NOOP("LoginTexts", "Two-step verification password")};
 
-constexpr StepTexts unavailable{"exclamationmark.triangle.fill", "Telegram is unavailable",
-                                "The app could not start its Telegram connection.", LoginTexts::Field::None, ""};
+constexpr StepTexts unavailable{
+    "exclamationmark.triangle.fill", QT_TRANSLATE_NOOP("LoginTexts", "Telegram is unavailable"),
+    QT_TRANSLATE_NOOP("LoginTexts", "The app could not start its Telegram connection."), LoginTexts::Field::None, ""};
 
 const StepTexts &textsFor(Case step)
 {
@@ -57,6 +66,11 @@ const StepTexts &textsFor(Case step)
     }
     return preparing;
 }
+
+QString translated(const char *text)
+{
+    return *text ? QCoreApplication::translate("LoginTexts", text) : QString();
+}
 } // namespace
 
 QString LoginTexts::icon(Step::Case step)
@@ -66,12 +80,12 @@ QString LoginTexts::icon(Step::Case step)
 
 QString LoginTexts::title(Step::Case step)
 {
-    return QString::fromUtf8(textsFor(step).title);
+    return translated(textsFor(step).title);
 }
 
 QString LoginTexts::instructions(Step::Case step)
 {
-    return QString::fromUtf8(textsFor(step).instructions);
+    return translated(textsFor(step).instructions);
 }
 
 LoginTexts::Field LoginTexts::field(Step::Case step)
@@ -81,12 +95,19 @@ LoginTexts::Field LoginTexts::field(Step::Case step)
 
 QString LoginTexts::placeholder(Step::Case step)
 {
-    return QString::fromUtf8(textsFor(step).placeholder);
+    return translated(textsFor(step).placeholder);
 }
 
 QString LoginTexts::hintLine(const QString &hint)
 {
-    return u"Hint: "_s + hint;
+    //: The two-step password's hint, as its owner wrote it.
+    return QCoreApplication::translate("LoginTexts", "Hint: %1").arg(hint);
+}
+
+QString LoginTexts::footer()
+{
+    return QCoreApplication::translate(
+        "LoginTexts", "Verification codes and passwords are sent directly to TDLib and are never saved by this app.");
 }
 
 QString LoginTexts::appVersion(const QVariantMap &infoDictionary)
@@ -100,7 +121,13 @@ QString LoginTexts::appVersion(const QVariantMap &infoDictionary)
 LoginPresenter::LoginPresenter(QObject *parent)
     : QObject(parent)
     , m_versionLine(mainVersionLine())
-{}
+{
+    // The texts are read in the language of the moment: a new one announces them again.
+    connect(&AppLanguage::shared(), &AppLanguage::languageChanged, this, [this] {
+        Q_EMIT stepChanged();
+        Q_EMIT errorMessageChanged();
+    });
+}
 
 QString LoginPresenter::mainVersionLine()
 {

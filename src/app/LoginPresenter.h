@@ -22,8 +22,7 @@ QString placeholder(Step::Case step);
 QString hintLine(const QString &hint);
 // "CFBundleShortVersionString", or "1.2" when the dictionary has none.
 QString appVersion(const QVariantMap &infoDictionary);
-inline constexpr auto footer =
-    "Verification codes and passwords are sent directly to TDLib and are never saved by this app.";
+QString footer();
 } // namespace LoginTexts
 
 // What TelegramLoginView shows for the session's step, and the three texts the
@@ -56,7 +55,7 @@ class LoginPresenter : public QObject
     // is unavailable; "" otherwise (nothing greets a new user with an error).
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
     Q_PROPERTY(QString startupStatus READ startupStatus NOTIFY startupStatusChanged)
-    Q_PROPERTY(QString footer READ footer CONSTANT)
+    Q_PROPERTY(QString footer READ footer NOTIFY stepChanged)
     Q_PROPERTY(QString versionLine READ versionLine CONSTANT)
 
 public:
@@ -85,7 +84,7 @@ public:
     bool canContinue() const { return !fieldText().trimmed().isEmpty(); }
     QString errorMessage() const;
     QString startupStatus() const;
-    QString footer() const { return QString::fromUtf8(LoginTexts::footer); }
+    QString footer() const { return LoginTexts::footer(); }
     QString versionLine() const { return m_versionLine; }
 
     // Run by "Continue" and by Return in the field.

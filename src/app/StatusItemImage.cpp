@@ -2,6 +2,7 @@
 
 #include "Symbols.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -25,7 +26,8 @@ QString StatusItem::accessibleLabel(int unreadCount)
     const int count = std::max(unreadCount, 0);
     if (count < 1)
         return u"Vost"_s;
-    return u"Vost, "_s + QString::number(count) + u" unread messages"_s;
+    //: The tray icon's accessible name.
+    return QCoreApplication::translate("StatusItem", "Vost, %n unread messages", nullptr, count);
 }
 
 QString StatusItem::badgeText(int unreadCount)

@@ -1,6 +1,7 @@
 #include "VostApp.h"
 
 #include "AppEvents.h"
+#include "AppLanguage.h"
 #include "AppPreferences.h"
 #include "AppRootView.h"
 #include "MediaImageProvider.h"
@@ -123,6 +124,8 @@ int VostApp::run(QApplication &application)
     mallopt(M_MMAP_THRESHOLD, 256 * 1024);
 #endif
     nameApplication();
+    // Before any text is shown, the first of them the warning below.
+    AppLanguage::shared().load();
     // Wayland compositors and docks match the window to the desktop entry by it.
     QApplication::setDesktopFileName(QStringLiteral(VOST_APP_ID));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -137,8 +140,8 @@ int VostApp::run(QApplication &application)
         return 0;
     // Nobody answered, but one that is closing may still hold the database.
     if (!instance.waitForDatabase()) {
-        const QString text =
-            QObject::tr("Another Vost is still closing or not answering. Start Vost again in a moment.");
+        const QString text = QCoreApplication::translate(
+            "VostApp", "Another Vost is still closing or not answering. Start Vost again in a moment.");
         QTextStream(stderr) << text << '\n';
         QMessageBox::warning(nullptr, u"Vost"_s, text);
         return 3;
@@ -299,12 +302,17 @@ bool VostApp::launch()
 void VostApp::createTrayIcon()
 {
     m_statusMenu = std::make_unique<QMenu>();
-    QAction *open = m_statusMenu->addAction(u"Open Vost"_s);
+    QAction *open = m_statusMenu->addAction(tr("Open Vost"));
     connect(open, &QAction::triggered, this, &VostApp::showPopover);
     m_statusMenu->addSeparator();
-    QAction *quitAction = m_statusMenu->addAction(u"Quit Vost"_s);
+    QAction *quitAction = m_statusMenu->addAction(tr("Quit Vost"));
     quitAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quitAction, &QAction::triggered, this, &VostApp::quit);
+    connect(&AppLanguage::shared(), &AppLanguage::languageChanged, m_statusMenu.get(), [this, open, quitAction] {
+        open->setText(tr("Open Vost"));
+        quitAction->setText(tr("Quit Vost"));
+        updateStatusItem(m_unreadCount);
+    });
 
     m_trayIcon = new QSystemTrayIcon(this);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this,

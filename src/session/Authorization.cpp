@@ -23,7 +23,7 @@ void TelegramSession::start(qint64 apiID, const QString &apiHash)
     m_apiID = apiID;
     m_apiHash = apiHash;
     setStep(Step::starting());
-    setStartupStatus(u"Loading the bundled TDLib library…"_s);
+    setStartupStatus(tr("Loading the bundled TDLib library…"));
     try {
         if (!m_bundle)
             throw TDLibRuntime::RuntimeError::libraryNotBundled();
@@ -33,10 +33,10 @@ void TelegramSession::start(qint64 apiID, const QString &apiHash)
         return;
     }
     quietTDLibLog();
-    setStartupStatus(u"TDLib loaded; creating a client…"_s);
+    setStartupStatus(tr("TDLib loaded; creating a client…"));
     setStep(Step::starting());
     startClient();
-    setStartupStatus(u"Client created; waiting for TDLib’s first event…"_s);
+    setStartupStatus(tr("Client created; waiting for TDLib’s first event…"));
     m_receiveLoop =
         std::make_unique<ReceiveLoop>(m_runtime, this, [this](const QByteArray &event) { handleResponse(event); });
     m_receiveLoop->start();
@@ -103,7 +103,7 @@ void TelegramSession::handleAuthorizationState(const TdObject &state)
         completeSignIn();
     } else if (type == "authorizationStateLoggingOut"_L1 || type == "authorizationStateClosing"_L1) {
         if (!m_restartingAfterLogout && !m_closeWait)
-            setStep(Step::unavailable(u"The Telegram session is closing."_s));
+            setStep(Step::unavailable(tr("The Telegram session is closing.")));
     } else if (type == "authorizationStateClosed"_L1) {
         if (m_closeWait) {
             m_closeWait->quit(); // the application is quitting: no new client
@@ -112,7 +112,7 @@ void TelegramSession::handleAuthorizationState(const TdObject &state)
             resetAccountState();
             beginClient();
         } else {
-            setStep(Step::unavailable(u"The Telegram session closed."_s));
+            setStep(Step::unavailable(tr("The Telegram session closed.")));
         }
     }
 }
@@ -144,7 +144,8 @@ void TelegramSession::submitTDLibParameters()
     const QString filesFolder = databaseFolder + "/Files"_L1;
     QDir().mkpath(filesFolder); // TDLib reports an unusable folder itself
 
-    const QLocale::Language language = QLocale::system().language();
+    // The default locale: the system's, or the language chosen in the preferences.
+    const QLocale::Language language = QLocale().language();
     QString languageCode;
     if (language != QLocale::C && language != QLocale::AnyLanguage)
         languageCode = QLocale::languageToCode(language);

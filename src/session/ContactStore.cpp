@@ -9,6 +9,7 @@
 #include "session/Initials.h"
 #include "session/UserStore.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,8 @@ TdObject tagged(const QString &purpose, std::initializer_list<std::pair<QLatin1S
 QString errorText(const TdObject &error)
 {
     const QJsonValue message = error.value("message"_L1);
-    return message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
+    return message.isString() ? message.toString()
+                              : QCoreApplication::translate("ContactStore", "Telegram returned an unknown error.");
 }
 
 } // namespace
@@ -42,8 +44,8 @@ ContactStore::ContactStore(SendRequest send, const UserStore &users, QObject *pa
 {
     m_conversationTimeout->setSingleShot(true);
     connect(m_conversationTimeout, &QTimer::timeout, this, [this] {
-        failConversation(u"Telegram took too long to respond. A submitted contact may already be saved. Check "
-                         u"Contacts or try again."_s);
+        failConversation(tr("Telegram took too long to respond. A submitted contact may already be saved. Check "
+                            "Contacts or try again."));
     });
 }
 
@@ -152,13 +154,13 @@ void ContactStore::createContact(const QString &firstName, const QString &lastNa
     const QString first = firstName.trimmed();
     const QString last = lastName.trimmed();
     if (first.isEmpty() || first.size() > maximumNameLength || last.size() > maximumNameLength) {
-        setConversationError(u"Enter a first name. First and last names can each contain up to 64 characters."_s);
+        setConversationError(tr("Enter a first name. First and last names can each contain up to 64 characters."));
         return;
     }
     const std::optional<QString> number = normalizedContactPhone(phone);
     if (!number) {
         setConversationError(
-            u"Enter a valid phone number including + and the country code (for example, +44 7700 900123)."_s);
+            tr("Enter a valid phone number including + and the country code (for example, +44 7700 900123)."));
         return;
     }
     const QString requestID = beginConversation();
@@ -181,7 +183,7 @@ void ContactStore::openUsername(const QString &username)
     const std::optional<QString> name = cleanedUsername(username);
     if (!name) {
         setConversationError(
-            u"Enter a Telegram username, such as @username, using letters, numbers and underscores."_s);
+            tr("Enter a Telegram username, such as @username, using letters, numbers and underscores."));
         return;
     }
     const QString requestID = beginConversation();
@@ -231,7 +233,7 @@ bool ContactStore::handleAnswer(const QString &purpose, const QString &type, con
         if (type == "error"_L1) {
             failConversation(
                 extra.value("contact_saved"_L1).toBool()
-                    ? u"The contact was saved, but the chat could not be opened. Try opening it from Contacts."_s
+                    ? tr("The contact was saved, but the chat could not be opened. Try opening it from Contacts.")
                     : errorText(object));
         } else if (type == "chat"_L1) {
             openConversationChat(object);
@@ -243,8 +245,8 @@ bool ContactStore::handleAnswer(const QString &purpose, const QString &type, con
                     return true;
                 }
             }
-            failConversation(u"No Telegram account could be found for that number. Check the country code or try their "
-                             u"username; Telegram privacy settings can prevent phone-number lookup."_s);
+            failConversation(tr("No Telegram account could be found for that number. Check the country code or try "
+                                "their username; Telegram privacy settings can prevent phone-number lookup."));
         } else {
             return false;
         }
@@ -255,7 +257,7 @@ bool ContactStore::handleAnswer(const QString &purpose, const QString &type, con
         if (type == "error"_L1) {
             m_deletingChats.remove(chatID);
             Q_EMIT deletingChatsChanged();
-            setConversationError(u"Telegram could not complete this action."_s);
+            setConversationError(tr("Telegram could not complete this action."));
             return true;
         }
         forgetChat(chatID);
@@ -270,12 +272,12 @@ bool ContactStore::handleAnswer(const QString &purpose, const QString &type, con
         (type == "ok"_L1 || type == "error"_L1)) {
         if (type == "error"_L1) {
             if (purpose == "chat_deleted"_L1)
-                setConversationError(u"The chat was deleted, but the contact could not be removed."_s);
+                setConversationError(tr("The chat was deleted, but the contact could not be removed."));
             else if (purpose == "contact_saved"_L1)
                 setConversationError(
-                    u"The contact was saved, but the chat could not be opened. Try opening it from Contacts."_s);
+                    tr("The contact was saved, but the chat could not be opened. Try opening it from Contacts."));
             else
-                setConversationError(u"Telegram could not complete this action."_s);
+                setConversationError(tr("Telegram could not complete this action."));
             return true;
         }
         if (const auto contactID = int64From(extra.value("contact_id"_L1))) {
@@ -341,7 +343,7 @@ void ContactStore::openConversationChat(const TdObject &chat)
 {
     const std::optional<qint64> id = int64From(chat.value("id"_L1));
     if (!id) {
-        failConversation(u"Telegram returned an unknown error."_s);
+        failConversation(tr("Telegram returned an unknown error."));
         return;
     }
     const QString chatID = QString::number(*id);
@@ -362,7 +364,7 @@ ContactStore::ContactName ContactStore::contactName(const TdObject &user)
 {
     const QString joined = fullName(user);
     const QJsonArray active = user.value("usernames"_L1).toObject().value("active_usernames"_L1).toArray();
-    return {joined.isEmpty() ? u"Telegram contact"_s : joined,
+    return {joined.isEmpty() ? tr("Telegram contact") : joined,
             active.isEmpty() ? QString() : u"@"_s + active.first().toString()};
 }
 

@@ -1,5 +1,7 @@
 #include "session/ContentTexts.h"
 
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -23,7 +25,7 @@ namespace {
 
 // Each kind of content: how a message of it reads (its caption, where it can
 // have one, stands in for the text) and how the chat list previews it (kinds
-// without a preview of their own show "Message").
+// without a preview of their own show "Message"), marked for the catalogs.
 struct ContentKind {
     QLatin1String type;
     const char *text;
@@ -32,18 +34,23 @@ struct ContentKind {
 };
 
 constexpr ContentKind contentKinds[] = {
-    {"messagePhoto"_L1, "📷 Photo", "Photo", true},
-    {"messageVideo"_L1, "🎬 Video", "Video", true},
-    {"messageVoiceNote"_L1, "🎤 Voice message", "Voice message", false},
-    {"messageVideoNote"_L1, "Video message", "Video message", false},
-    {"messageSticker"_L1, "Sticker", "Sticker", false},
-    {"messageAnimation"_L1, "Animation", "Animation", true},
-    {"messageDocument"_L1, "📎 Document", "Document", true},
-    {"messageAudio"_L1, "🎵 Audio", "Audio", true},
-    {"messageCall"_L1, "Call", "Call", false},
-    {"messageLocation"_L1, "📍 Location", nullptr, false},
-    {"messageContact"_L1, "Contact", nullptr, false},
-    {"messagePoll"_L1, "Poll", nullptr, false},
+    {"messagePhoto"_L1, QT_TRANSLATE_NOOP("ContentTexts", "📷 Photo"), QT_TRANSLATE_NOOP("ContentTexts", "Photo"), true},
+    {"messageVideo"_L1, QT_TRANSLATE_NOOP("ContentTexts", "🎬 Video"), QT_TRANSLATE_NOOP("ContentTexts", "Video"), true},
+    {"messageVoiceNote"_L1, QT_TRANSLATE_NOOP("ContentTexts", "🎤 Voice message"),
+     QT_TRANSLATE_NOOP("ContentTexts", "Voice message"), false},
+    {"messageVideoNote"_L1, QT_TRANSLATE_NOOP("ContentTexts", "Video message"),
+     QT_TRANSLATE_NOOP("ContentTexts", "Video message"), false},
+    {"messageSticker"_L1, QT_TRANSLATE_NOOP("ContentTexts", "Sticker"), QT_TRANSLATE_NOOP("ContentTexts", "Sticker"),
+     false},
+    {"messageAnimation"_L1, QT_TRANSLATE_NOOP("ContentTexts", "Animation"),
+     QT_TRANSLATE_NOOP("ContentTexts", "Animation"), true},
+    {"messageDocument"_L1, QT_TRANSLATE_NOOP("ContentTexts", "📎 Document"),
+     QT_TRANSLATE_NOOP("ContentTexts", "Document"), true},
+    {"messageAudio"_L1, QT_TRANSLATE_NOOP("ContentTexts", "🎵 Audio"), QT_TRANSLATE_NOOP("ContentTexts", "Audio"), true},
+    {"messageCall"_L1, QT_TRANSLATE_NOOP("ContentTexts", "Call"), QT_TRANSLATE_NOOP("ContentTexts", "Call"), false},
+    {"messageLocation"_L1, QT_TRANSLATE_NOOP("ContentTexts", "📍 Location"), nullptr, false},
+    {"messageContact"_L1, QT_TRANSLATE_NOOP("ContentTexts", "Contact"), nullptr, false},
+    {"messagePoll"_L1, QT_TRANSLATE_NOOP("ContentTexts", "Poll"), nullptr, false},
 };
 
 const ContentKind *contentKind(const QString &type)
@@ -59,9 +66,10 @@ const ContentKind *contentKind(const QString &type)
 std::optional<QString> typedText(const QString &type, const TdObject &content)
 {
     if (type == "messageText"_L1)
-        return textOr(content.value("text"_L1).toObject().value("text"_L1), u"Message"_s);
+        return textOr(content.value("text"_L1).toObject().value("text"_L1),
+                      QCoreApplication::translate("ContentTexts", "Message"));
     if (type == "messageAnimatedEmoji"_L1)
-        return textOr(content.value("emoji"_L1), u"Emoji"_s);
+        return textOr(content.value("emoji"_L1), QCoreApplication::translate("ContentTexts", "Emoji"));
     return std::nullopt;
 }
 
@@ -71,26 +79,27 @@ QString messageText(const TdObject &content)
 {
     const QString type = typeOf(content);
     if (type.isEmpty())
-        return u"Message"_s;
+        return QCoreApplication::translate("ContentTexts", "Message");
     if (std::optional<QString> text = typedText(type, content))
         return *text;
     const ContentKind *kind = contentKind(type);
     if (!kind)
-        return u"Unsupported message"_s;
-    const QString text = QString::fromUtf8(kind->text);
+        return QCoreApplication::translate("ContentTexts", "Unsupported message");
+    const QString text = QCoreApplication::translate("ContentTexts", kind->text);
     return kind->hasCaption ? caption(content).value_or(text) : text;
 }
 
 QString previewText(const std::optional<TdObject> &message)
 {
     if (!message || !message->value("content"_L1).isObject())
-        return u"No messages yet"_s;
+        return QCoreApplication::translate("ContentTexts", "No messages yet");
     const TdObject content = message->value("content"_L1).toObject();
     const QString type = typeOf(content);
     if (std::optional<QString> text = typedText(type, content))
         return *text;
     const ContentKind *kind = contentKind(type);
-    return kind && kind->preview ? QString::fromUtf8(kind->preview) : u"Message"_s;
+    return kind && kind->preview ? QCoreApplication::translate("ContentTexts", kind->preview)
+                                 : QCoreApplication::translate("ContentTexts", "Message");
 }
 
 QString draftText(const QJsonValue &draft)
@@ -110,13 +119,13 @@ QString chatSubtitle(const QJsonValue &chatType)
 {
     const QString type = typeOf(chatType);
     if (type == "chatTypePrivate"_L1)
-        return u"Private conversation"_s;
+        return QCoreApplication::translate("ContentTexts", "Private conversation");
     if (type == "chatTypeBasicGroup"_L1)
-        return u"Group"_s;
+        return QCoreApplication::translate("ContentTexts", "Group");
     if (type == "chatTypeSupergroup"_L1)
-        return u"Group or channel"_s;
+        return QCoreApplication::translate("ContentTexts", "Group or channel");
     if (type == "chatTypeSecret"_L1)
-        return u"Secret chat"_s;
+        return QCoreApplication::translate("ContentTexts", "Secret chat");
     return u"Telegram"_s;
 }
 

@@ -1,5 +1,6 @@
 #include "session/DateTexts.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QLocale>
 #include <QTimeZone>
@@ -10,11 +11,10 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// Read once: the system locale does not change under a running client.
-const QLocale &userLocale()
+// The default locale: the system's, or the language chosen in the preferences.
+QLocale userLocale()
 {
-    static const QLocale locale = QLocale::system();
-    return locale;
+    return QLocale();
 }
 // The local time of a moment. Converting through the system's time zone is slow
 // (the C library looks at the zone file each time) and runs for every chat of a
@@ -78,9 +78,14 @@ QString timestampText(std::optional<qint64> date, QDate today)
     if (day == today)
         return userLocale().toString(time, u"H:mm"_s);
     if (day == today.addDays(-1))
-        return u"Yesterday"_s;
-    // A sync dates thousands of chats on far fewer days; the locale never changes.
+        return QCoreApplication::translate("DateTexts", "Yesterday");
+    // A sync dates thousands of chats on far fewer days; a new language starts afresh.
     thread_local QHash<qint64, QString> dayTexts;
+    thread_local QLocale dayTextsLocale;
+    if (dayTextsLocale != userLocale()) {
+        dayTexts.clear();
+        dayTextsLocale = userLocale();
+    }
     const auto known = dayTexts.constFind(day.toJulianDay());
     if (known != dayTexts.cend())
         return *known;

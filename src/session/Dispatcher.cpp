@@ -64,7 +64,7 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
             m_loadingChatLists.remove(listType);
             if (integerFrom(object.value("code"_L1)) != 404) {
                 const QJsonValue message = object.value("message"_L1);
-                setErrorMessage(message.isString() ? message.toString() : u"Unable to refresh chats."_s);
+                setErrorMessage(message.isString() ? message.toString() : tr("Unable to refresh chats."));
             }
             return true;
         }
@@ -142,7 +142,7 @@ bool TelegramSession::routeByType(const QString &type, const TdObject &object)
 void TelegramSession::handleGenericError(const TdObject &error)
 {
     const QJsonValue message = error.value("message"_L1);
-    const QString text = message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
+    const QString text = message.isString() ? message.toString() : tr("Telegram returned an unknown error.");
     setErrorMessage(text);
     // An error before the first authorization state ends the session.
     if (m_step.kind() == Step::Case::Starting)

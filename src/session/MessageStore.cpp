@@ -96,7 +96,8 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
         const User *found = m_currentUserID ? m_users->user(*m_currentUserID) : nullptr;
         if (!found && senderUserID)
             found = m_users->user(*senderUserID);
-        message.sender = User{newViewID(), u"You"_s, found ? found->initials : u"YO"_s, AvatarColor::Blue,
+        //: The sender's name on one's own messages.
+        message.sender = User{newViewID(), tr("You"), found ? found->initials : u"YO"_s, AvatarColor::Blue,
                               found ? found->avatarPath : std::nullopt};
     } else if (const User *sender = senderUserID ? m_users->user(*senderUserID) : nullptr) {
         message.sender = *sender;

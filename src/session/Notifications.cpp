@@ -22,7 +22,7 @@ void TelegramSession::notifyIfNeeded(const TdObject &message)
     const ChatRecord *record = findChatRecord(*chat);
     if (record && record->isMuted)
         return;
-    const QString title = record && record->listKey && record->chat ? record->chat->title : u"New Telegram message"_s;
+    const QString title = record && record->listKey && record->chat ? record->chat->title : tr("New Telegram message");
     if (Preferences::shared().showsNotifications())
         NotificationService::shared().notify(title, messageText(content.toObject()), chatID);
     m_soundManager->play(SoundEvent::IncomingMessage);

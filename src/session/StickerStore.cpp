@@ -110,7 +110,7 @@ bool StickerStore::handleAnswer(const QString &type, const TdObject &extra, cons
     const bool current = requestID.toString() == m_requestID;
     if (type == "error"_L1) {
         if (current) {
-            setStickerError(u"Unable to load stickers."_s);
+            setStickerError(tr("Unable to load stickers."));
             setRecentStickersLoaded(true);
         }
         return true;

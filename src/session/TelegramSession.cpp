@@ -31,7 +31,7 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_bundle(AppBundle::main())
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
-    , m_startupStatus(u"Waiting to start"_s)
+    , m_startupStatus(tr("Waiting to start"))
     , m_users(new UserStore(storeSender(), this))
     , m_stickers(new StickerStore(storeSender(), this))
     , m_contacts(new ContactStore(storeSender(), *m_users, this))
@@ -171,7 +171,7 @@ void TelegramSession::handleResponse(const QString &json)
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(json);
     if (encoder.hasError()) {
-        setStartupStatus(u"TDLib returned an unreadable response."_s);
+        setStartupStatus(tr("TDLib returned an unreadable response."));
         return;
     }
     handleResponse(bytes);
@@ -186,7 +186,7 @@ void TelegramSession::handleResponse(const QByteArray &json)
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
     if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
-        setStartupStatus(u"TDLib returned an unreadable response."_s);
+        setStartupStatus(tr("TDLib returned an unreadable response."));
         return;
     }
     const TdObject object = document.object();
@@ -194,7 +194,8 @@ void TelegramSession::handleResponse(const QByteArray &json)
     const QString typeName = type.isString() ? type.toString() : QString();
     // Consecutive events of one type leave the text as it is; this runs for every event.
     if (typeName.isEmpty() || typeName != m_lastEventType) {
-        setStartupStatus(u"Received TDLib event: "_s + (type.isString() ? typeName : u"unknown"_s));
+        //: %1 is the name of TDLib's event, such as updateOption.
+        setStartupStatus(tr("Received TDLib event: %1").arg(type.isString() ? typeName : tr("unknown")));
         m_lastEventType = typeName;
     }
     handle(object, typeName);

@@ -16,7 +16,7 @@ void UserStore::store(const TdObject &object)
     if (!id)
         return;
     const QString joined = fullName(object);
-    const QString name = joined.isEmpty() ? u"Telegram user"_s : joined;
+    const QString name = joined.isEmpty() ? tr("Telegram user") : joined;
     std::optional<QString> avatarPath =
         prepareAvatar(m_send, object.value("profile_photo"_L1),
                       [this, userID = *id](qint64 fileID) { m_avatarOwners.insert(fileID, userID); });
@@ -85,8 +85,10 @@ std::optional<QString> UserStore::typingSubtitle(const TdObject &update, bool pr
     if (action != "chatActionTyping"_L1)
         return std::nullopt;
     if (privateChat)
-        return u"Typing…"_s;
+        //: The chat's subtitle while the other person types.
+        return tr("Typing…");
     const auto typist = int64From(update.value("sender_id"_L1).toObject().value("user_id"_L1));
     const User *typing = typist ? user(*typist) : nullptr;
-    return (typing ? typing->name : u"Someone"_s) + u" is typing…"_s;
+    //: A group's subtitle while a member types; %1 is the member's name.
+    return tr("%1 is typing…").arg(typing ? typing->name : tr("Someone"));
 }

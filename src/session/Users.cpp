@@ -26,7 +26,7 @@ void TelegramSession::refreshPresence(qint64 userID)
     for (auto it = m_privateChatsByUser.constFind(userID); it != m_privateChatsByUser.cend() && it.key() == userID;
          ++it) {
         const QString &chatID = it.value();
-        const QString subtitle = online ? u"Online"_s : baseSubtitle(chatID).value_or(u"Private conversation"_s);
+        const QString subtitle = online ? tr("Online") : baseSubtitle(chatID).value_or(tr("Private conversation"));
         updateChat(chatID, [&subtitle](Chat &chat) {
             chat.subtitle = subtitle;
             chat.isTyping = false;

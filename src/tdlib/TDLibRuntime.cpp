@@ -1,5 +1,6 @@
 #include "tdlib/TDLibRuntime.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <dlfcn.h>
@@ -11,10 +12,12 @@ QString TDLibRuntime::RuntimeError::errorDescription() const
     switch (m_kind) {
     case Kind::LibraryNotBundled:
         if (m_payload.isEmpty())
-            return u"TDLib is not bundled in this build."_s;
-        return u"TDLib could not be loaded: "_s + m_payload;
+            return QCoreApplication::translate("TDLibRuntime", "TDLib is not bundled in this build.");
+        //: %1 is the system loader's own message.
+        return QCoreApplication::translate("TDLibRuntime", "TDLib could not be loaded: %1").arg(m_payload);
     case Kind::MissingFunction:
-        return u"TDLib is missing the required function "_s + m_payload + u'.';
+        //: %1 is the name of a function of TDLib's library, such as td_create_client_id.
+        return QCoreApplication::translate("TDLibRuntime", "TDLib is missing the required function %1.").arg(m_payload);
     }
     return {};
 }

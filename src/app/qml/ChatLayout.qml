@@ -147,6 +147,7 @@ FocusScope {
             property bool includingContact
 
             parent: layout
+            //: A verb: the button that confirms deleting the chat.
             actionText: qsTr("Delete")
             onConfirmed: layout.host.session.deleteChat(chatID, includingContact)
         }

@@ -36,6 +36,7 @@ Rectangle {
 
     readonly property bool hasUnread: unreadCount > 0 || isMarkedUnread
     readonly property string secondLine: deleting ? qsTr("Deleting…")
+                                                  //: %1 is the start of the unsent text of the chat.
                                                   : (isTyping ? subtitle : (draftText !== "" ? qsTr("Draft: %1").arg(draftText) : preview))
     // Only rows inside the list's viewport are shown to assistive technology.
     readonly property bool onScreen: ListView.view !== null && y + height > ListView.view.contentY
@@ -48,6 +49,7 @@ Rectangle {
     Accessible.name: {
         const parts = [title];
         if (isSecret)
+            //: Read aloud after a chat's title, like the other states of a chat here.
             parts.push(qsTr("secret chat"));
         if (isPinned)
             parts.push(qsTr("pinned"));
@@ -56,6 +58,7 @@ Rectangle {
         if (isArchived)
             parts.push(qsTr("archived"));
         if (unreadCount > 0)
+            //: How many messages of the chat are unread.
             parts.push(qsTr("%n unread", "", unreadCount));
         else if (isMarkedUnread)
             parts.push(qsTr("marked unread"));

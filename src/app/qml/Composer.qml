@@ -13,6 +13,8 @@ FocusScope {
 
     required property ChatViewModel viewModel
     required property AppRootView host
+    // Right-to-left: the pickers open at the left, over their buttons.
+    readonly property bool mirrored: LayoutMirroring.enabled
 
     readonly property var replyTo: viewModel.replyToMessage
     readonly property var editing: viewModel.editingMessage
@@ -102,6 +104,7 @@ FocusScope {
                     bottomMargin: 2
                 }
                 symbol: "paperclip"
+                //: A verb: the button that adds files.
                 Accessible.name: qsTr("Attach")
                 onClicked: FilePanel.chooseAttachments()
             }
@@ -139,6 +142,7 @@ FocusScope {
                     focus: true
                     activeFocusOnTab: true
                     text: composer.viewModel.composerText
+                    //: A noun: the text being written.
                     placeholderText: qsTr("Message")
                     wrapMode: TextEdit.Wrap
                     font.pixelSize: 14
@@ -228,6 +232,7 @@ FocusScope {
                 symbol: "paperplane.fill"
                 tint: Appearance.accentText
                 enabled: composer.viewModel.canSendMessages
+                //: The send button while a message is edited: a verb.
                 Accessible.name: composer.editing !== null ? qsTr("Save") : qsTr("Send")
                 onClicked: composer.sendComposed()
 
@@ -247,7 +252,8 @@ FocusScope {
 
         sourceComponent: EmojiPicker {
             parent: composer
-            x: composer.width - width - 12
+            // Over its button, at the trailing end of the composer.
+            x: composer.mirrored ? 12 : composer.width - width - 12
             y: -height - 6
             onChosen: emoji => composer.insertText(emoji)
             onClosed: if (!stickers.opened) field.forceActiveFocus()
@@ -259,7 +265,8 @@ FocusScope {
 
         sourceComponent: StickerPicker {
             parent: composer
-            x: composer.width - width - 12
+            // Over its button, at the trailing end of the composer.
+            x: composer.mirrored ? 12 : composer.width - width - 12
             y: -height - 6
             viewModel: composer.viewModel
             session: composer.host.session

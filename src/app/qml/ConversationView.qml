@@ -395,6 +395,7 @@ FocusScope {
 
             parent: conversation
             question: qsTr("Delete this message for everyone?")
+            //: A verb: the button that confirms deleting the message.
             actionText: qsTr("Delete")
             onConfirmed: conversation.viewModel.deleteMessage(messageID)
         }

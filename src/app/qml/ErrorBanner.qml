@@ -39,6 +39,7 @@ Rectangle {
             verticalCenter: parent.verticalCenter
         }
         glyph: "✕"
+        //: A verb: close the error message.
         Accessible.name: qsTr("Dismiss")
         onClicked: banner.dismissed()
     }

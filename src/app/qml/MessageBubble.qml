@@ -61,9 +61,14 @@ Item {
     readonly property bool largeEmoji: kind === MessageContent.Text && MessageText.isLargeEmoji(bodyText)
     readonly property bool bare: kind === MessageContent.Sticker || kind === MessageContent.Dice || largeEmoji
     readonly property bool withSender: showsSenders && !isOutgoing
+    // Outgoing messages keep to the trailing side: the right, the left when the
+    // popover is mirrored for a right-to-left language (the avatar's anchor flips
+    // by itself; the places set by x follow this).
+    readonly property bool atRight: isOutgoing !== LayoutMirroring.enabled
     readonly property color foreground: isOutgoing && !bare ? Appearance.accentText : Appearance.text
     readonly property string link: kind === MessageContent.Text ? MessageText.firstLink(bodyText) : ""
     readonly property string ticks: !isOutgoing ? "" : (deliveryState === Model.MessageDeliveryState.Sending ? "◷" : (deliveryState === Model.MessageDeliveryState.Read ? "✓✓" : (deliveryState === Model.MessageDeliveryState.Sent ? "✓" : "")))
+    //: A message's delivery state, read aloud after its time; the next two as well.
     readonly property string deliveryName: deliveryState === Model.MessageDeliveryState.Sending ? qsTr("sending") : (deliveryState === Model.MessageDeliveryState.Read ? qsTr("read") : (deliveryState === Model.MessageDeliveryState.Sent ? qsTr("sent") : ""))
     // Set while the view keeps this delegate for reuse: it stays visible there.
     property bool pooled: false
@@ -88,12 +93,15 @@ Item {
         // What it holds as its widget says it, then its text.
         const held = content.item ? content.item.Accessible.name : null;
         const said = [held, MessageText.spokenText(bodyText, info.entities, formatted.spoilersRevealed)].filter(part => part).join(", ");
-        const parts = [(isOutgoing ? qsTr("You") : senderName) + ": " + (said !== "" ? said : text), timestamp];
+        //: A message read aloud: %1 is its sender, %2 what it says.
+        const parts = [qsTr("%1: %2").arg(isOutgoing ? qsTr("You") : senderName).arg(said !== "" ? said : text), timestamp];
         if (info.isEdited)
+            //: Said of a message that was changed after it was sent.
             parts.push(qsTr("edited"));
         if (deliveryName !== "")
             parts.push(deliveryName);
         for (const reaction of (reactions ? reactions : []))
+            //: A reaction read aloud: %1 is its emoji, %2 how many reacted with it; you did too.
             parts.push(reaction.isChosen ? qsTr("%1 %2, yours").arg(reaction.emoji).arg(reaction.count)
                                          : reaction.emoji + " " + reaction.count);
         return parts.join(", ");
@@ -185,12 +193,13 @@ Item {
     IconButton {
         id: more
 
-        x: message.isOutgoing ? Math.max(0, column.x - width - 4)
+        x: message.atRight ? Math.max(0, column.x - width - 4)
                               : Math.min(message.width - width, column.x + column.width + 4)
         y: column.y + (column.height - height) / 2
         visible: (hover.hovered && !message.pooled) || message.isCurrent || activeFocus
         symbol: "ellipsis"
         tint: Appearance.text
+        //: The button that opens a message's actions.
         Accessible.name: qsTr("More")
         Accessible.ignored: !visible || !message.onScreen
         onClicked: message.openMenu()
@@ -207,7 +216,7 @@ Item {
         id: column
 
         y: divider.y + divider.height + (message.isFirstOfGroup ? 10 : 2)
-        x: message.isOutgoing ? message.width - width - 12 : (message.withSender ? 48 : 12)
+        x: message.atRight ? (message.width - width - (message.withSender ? 48 : 12)) : (message.withSender ? 48 : 12)
         width: Math.max(bubble.width, reactionRow.width)
         spacing: 2
 
@@ -350,7 +359,8 @@ Item {
                     // A sticker's or a die's time sits at its bottom right, on a pill of
                     // its own; in a bubble, at the bubble's right.
                     x: message.bare && content.item ? Math.max(0, content.item.width - width - 4) : inner.width - width - (message.bare ? 4 : 0)
-                    text: (message.info.isEdited ? qsTr("edited") + "  " : "") + message.timestamp
+                    //: An edited message's time; %1 is the time, such as 14:05.
+                    text: (message.info.isEdited ? qsTr("edited  %1").arg(message.timestamp) : message.timestamp)
                           + (message.ticks !== "" ? "  " + message.ticks : "")
                     color: message.isOutgoing && !message.bare ? Qt.rgba(1, 1, 1, 0.75) : Appearance.secondaryText
                     font.pixelSize: 12
@@ -377,7 +387,7 @@ Item {
 
             // Placed by x, not by an anchor: a reused row that was outgoing must not
             // keep the old place.
-            x: message.isOutgoing ? parent.width - width : 0
+            x: message.atRight ? parent.width - width : 0
             reactions: message.reactions
             shown: message.onScreen
             onToggled: emoji => message.reactionToggled(emoji, message.messageID)

@@ -15,6 +15,9 @@ Rectangle {
     required property PopoverWindow popover
 
     color: Appearance.background
+    // A right-to-left language turns the whole popover around.
+    LayoutMirroring.enabled: AppLanguage.isRightToLeft
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Pane
     Accessible.name: "Vost"
 

@@ -40,6 +40,7 @@ FocusScope {
             Layout.fillWidth: true
             spacing: 8
             Accessible.role: Accessible.Grouping
+            //: The group of fields where the sign-in details are typed.
             Accessible.name: qsTr("Login Information")
 
             SymbolIcon {

@@ -16,6 +16,7 @@ Item {
     height: 36
     visible: quoted !== null
     Accessible.role: Accessible.Grouping
+    //: The banner above the composer read aloud: %1 its title, %2 the quoted message.
     Accessible.name: quote.text.length > 0 ? qsTr("%1: %2").arg(title.text).arg(quote.text) : title.text
     Accessible.ignored: !visible
 

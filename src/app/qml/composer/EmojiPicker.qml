@@ -26,6 +26,7 @@ PickerPanel {
 
     function groupName(group) {
         switch (group) {
+        //: Emoji sent lately.
         case EmojiGroup.Recent: return qsTr("Recent");
         case EmojiGroup.SmileysAndEmotion: return qsTr("Smileys & Emotion");
         case EmojiGroup.PeopleAndBody: return qsTr("People & Body");

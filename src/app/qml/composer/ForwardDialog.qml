@@ -14,6 +14,7 @@ Dialog {
 
     signal chatChosen(string chatID)
 
+    //: The title of the list of chats a message can be forwarded to.
     title: qsTr("Forward to")
     header: null
     footer: null

@@ -71,6 +71,7 @@ Menu {
     MenuSeparator {}
 
     MessageMenuItem {
+        //: Verbs: the actions of the message menu, down to Delete.
         text: qsTr("Reply")
         onTriggered: menu.replyRequested(menu.messageID)
     }

@@ -47,6 +47,7 @@ PickerPanel {
             spacing: 4
 
             Repeater {
+                //: Tabs of the sticker picker: stickers sent lately, then installed, then popular ones.
                 model: [{source: "recent", label: qsTr("Recent")},
                         {source: "installed", label: qsTr("Installed")},
                         {source: "trending", label: qsTr("Trending")}]

@@ -29,6 +29,7 @@ Item {
     implicitHeight: 40
     Accessible.role: Accessible.Grouping
     Accessible.ignored: !card.shown
+    //: A call read aloud: %1 what kind of call, %2 how long it lasted.
     Accessible.name: details.duration > 0 ? qsTr("%1, %2").arg(title).arg(Formats.duration(details.duration)) : title
 
     Row {

@@ -57,6 +57,7 @@ Item {
 
         PlainButton {
             visible: card.details.contactUserID !== ""
+            //: A verb: write to the person on the card.
             text: qsTr("Message")
             Accessible.ignored: !visible || !card.shown
             implicitHeight: 28

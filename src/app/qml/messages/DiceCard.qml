@@ -15,6 +15,7 @@ Item {
     implicitHeight: 56
     Accessible.role: Accessible.Grouping
     Accessible.ignored: !card.shown
+    //: %1 is the die's emoji (a die, a dart, a ball), %2 the number it came up with.
     Accessible.name: qsTr("%1 rolled %2").arg(details.diceEmoji).arg(details.diceValue)
 
     Row {

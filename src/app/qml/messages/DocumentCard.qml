@@ -87,6 +87,7 @@ Item {
         Text {
             width: parent.width
             text: card.path === "" && card.progress >= 0
+                  //: How much of the file has come and its whole size, as in "1.2 MB of 5 MB".
                   ? qsTr("%1 of %2").arg(Formats.dataSize(card.details.fileSize * card.progress)).arg(card.sizeText)
                   : card.sizeText
             color: card.outgoing ? Qt.rgba(1, 1, 1, 0.75) : Appearance.secondaryText
@@ -107,6 +108,7 @@ Item {
         IconButton {
             symbol: "arrow.up.right"
             tint: card.outgoing ? Appearance.accentText : Appearance.accent
+            //: A verb: open the file with its application.
             Accessible.name: qsTr("Open")
             Accessible.ignored: !visible || !card.shown
             onClicked: Qt.openUrlExternally(LocalFile.url(card.path))
@@ -114,6 +116,7 @@ Item {
         IconButton {
             symbol: "arrow.down.to.line"
             tint: card.outgoing ? Appearance.accentText : Appearance.accent
+            //: A verb: save the file to a folder.
             Accessible.name: qsTr("Save")
             Accessible.ignored: !visible || !card.shown
             onClicked: FilePanel.saveCopy(card.path, card.details.fileName)

@@ -16,6 +16,7 @@ Item {
     implicitWidth: 40
     implicitHeight: 40
     Accessible.role: Accessible.ProgressBar
+    //: %1 is how much has come, in percent.
     Accessible.name: progress >= 0 ? qsTr("Downloading, %1 %").arg(Math.round(progress * 100)) : qsTr("Downloading")
     Accessible.ignored: !visible || !ring.shown
 

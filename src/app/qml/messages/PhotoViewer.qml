@@ -114,6 +114,7 @@ Popup {
             symbol: "chevron.left"
             tint: "white"
             visible: viewer.index > 0
+            //: The previous picture of the album.
             Accessible.name: qsTr("Previous")
             onClicked: viewer.step(-1)
         }
@@ -127,6 +128,7 @@ Popup {
             symbol: "chevron.right"
             tint: "white"
             visible: viewer.index < viewer.items.length - 1
+            //: The next picture of the album.
             Accessible.name: qsTr("Next")
             onClicked: viewer.step(1)
         }
@@ -143,6 +145,7 @@ Popup {
                 side: 36
                 symbol: "arrow.down.to.line"
                 tint: "white"
+                //: A verb: save the picture to a folder.
                 Accessible.name: qsTr("Save")
                 // The viewer stays open behind the dialog and shows again with the popover.
                 onClicked: FilePanel.saveCopy(viewer.current.path, viewer.current.saveName)
@@ -151,6 +154,7 @@ Popup {
                 side: 36
                 symbol: "arrow.up.right"
                 tint: "white"
+                //: A verb: open the picture with its application.
                 Accessible.name: qsTr("Open")
                 onClicked: Qt.openUrlExternally(LocalFile.url(viewer.current.path))
             }
@@ -169,6 +173,7 @@ Popup {
                 horizontalCenter: parent.horizontalCenter
                 margins: 16
             }
+            //: The picture shown and how many the album has, as in "2 of 5".
             text: qsTr("%1 of %2").arg(viewer.index + 1).arg(viewer.items.length)
             color: "white"
             opacity: 0.7

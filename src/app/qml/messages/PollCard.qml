@@ -66,6 +66,7 @@ Item {
                 height: 30
                 Accessible.role: Accessible.ListItem
                 Accessible.ignored: !card.shown
+                //: A poll's answer read aloud: %1 is the answer, %2 the share of votes in percent.
                 Accessible.name: qsTr("%1, %2 %").arg(modelData.text).arg(modelData.percentage)
 
                 Text {
@@ -110,6 +111,7 @@ Item {
         }
 
         Text {
+            //: How many people voted in the poll.
             text: qsTr("%n vote(s)", "", card.details.pollVoterCount)
             color: Qt.rgba(card.foreground.r, card.foreground.g, card.foreground.b, 0.75)
             font.pixelSize: 12

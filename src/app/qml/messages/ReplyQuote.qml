@@ -26,6 +26,7 @@ Item {
     implicitHeight: 38
     Accessible.role: Accessible.Link
     Accessible.ignored: !quote.shown
+    //: A quoted message read aloud: %1 is its sender, %2 what it says.
     Accessible.name: qsTr("Reply to %1: %2").arg(sender !== "" ? sender : qsTr("a message")).arg(line)
     Accessible.onPressAction: quote.activated(info.replyToMessageID ?? "")
 

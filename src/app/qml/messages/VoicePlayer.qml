@@ -41,6 +41,7 @@ Item {
         symbol: voice.playing ? "pause.fill" : "play.fill"
         tint: voice.outgoing ? Appearance.accent : Appearance.accentText
         enabled: voice.path !== ""
+        //: Verbs: the voice message's play button.
         Accessible.name: voice.playing ? qsTr("Pause") : qsTr("Play")
         Accessible.ignored: !visible || !voice.shown
         onClicked: voice.playback.toggle(voice.path)
@@ -90,6 +91,7 @@ Item {
         }
 
         ReadableText {
+            //: The time played and the whole length, as in "0:12 of 1:05".
             text: voice.isCurrent ? qsTr("%1 of %2").arg(Formats.duration(voice.elapsed)).arg(Formats.duration(voice.total))
                                   : Formats.duration(voice.total)
             color: Qt.rgba(voice.foreground.r, voice.foreground.g, voice.foreground.b, 0.75)

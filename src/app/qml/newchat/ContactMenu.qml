@@ -26,6 +26,7 @@ Menu {
     }
 
     MessageMenuItem {
+        //: A verb: write to this contact.
         text: qsTr("Message")
         onTriggered: menu.messageRequested(menu.userID)
     }

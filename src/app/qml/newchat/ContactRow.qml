@@ -72,6 +72,7 @@ Rectangle {
         Text {
             width: parent.width
             visible: text !== ""
+            //: Said of a contact who is using Telegram right now.
             text: row.isOnline ? qsTr("online") : (row.username !== "" ? "@" + row.username : "")
             elide: Text.ElideRight
             color: row.isOnline ? Appearance.accent : Appearance.secondaryText

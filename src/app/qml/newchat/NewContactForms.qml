@@ -53,6 +53,7 @@ ColumnLayout {
         id: note
 
         Layout.fillWidth: true
+        //: A noun: a private note about the new contact.
         placeholderText: qsTr("Note")
     }
     AccentButton {
@@ -65,6 +66,7 @@ ColumnLayout {
 
     FormTitle {
         Layout.topMargin: 18
+        //: A form's title: open a chat by someone's public username.
         text: qsTr("Open username")
     }
     RowLayout {
@@ -80,6 +82,7 @@ ColumnLayout {
         AccentButton {
             id: open
 
+            //: A verb: the button that opens the chat with that username.
             text: qsTr("Open")
             enabled: !forms.session.creatingConversation && username.text.trim() !== ""
             onClicked: forms.session.openUsername(username.text)

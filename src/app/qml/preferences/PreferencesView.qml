@@ -4,7 +4,7 @@ import QtQuick.Layouts
 import Vost.App
 import Vost.Model
 
-// The preferences page, over the whole popover: appearance, sounds and their
+// The preferences page, over the whole popover: appearance, language, sounds and their
 // pack (each pack previews itself when chosen), notifications, starting at
 // login, the account with "Change account", and the version. Esc or "Back"
 // returns to the chats.
@@ -120,12 +120,14 @@ FocusScope {
 
             SectionTitle {
                 Layout.topMargin: 0
+                //: Titles of the preferences' sections.
                 text: qsTr("Appearance")
             }
             RowLayout {
                 spacing: 16
 
                 Repeater {
+                    //: The appearance that follows the system's light or dark setting.
                     model: [{mode: "system", label: qsTr("System")}, {mode: "light", label: qsTr("Light")},
                         {mode: "dark", label: qsTr("Dark")}]
 
@@ -135,6 +137,28 @@ FocusScope {
                         text: modelData.label
                         chosen: Appearance.mode === modelData.mode
                         onPicked: Appearance.mode = modelData.mode
+                    }
+                }
+            }
+
+            SectionTitle {
+                text: qsTr("Language")
+            }
+            Flow {
+                Layout.fillWidth: true
+                spacing: 16
+
+                Repeater {
+                    //: The language that follows the system's own.
+                    model: [{code: "", name: qsTr("System", "language")}].concat(AppLanguage.choices)
+
+                    delegate: PreferenceChoice {
+                        required property var modelData
+
+                        // Each language in its own words, whatever the page speaks.
+                        text: modelData.name
+                        chosen: AppLanguage.choice === modelData.code
+                        onPicked: AppLanguage.choice = modelData.code
                     }
                 }
             }
@@ -161,6 +185,7 @@ FocusScope {
                         required property string modelData
 
                         // The packs' names as people read them.
+                        //: Names of the sound packs.
                         text: ({crystal: qsTr("Crystal"), gentle: qsTr("Gentle"), classic: qsTr("Classic"),
                                 playful: qsTr("Playful")})[modelData]
                         chosen: page.preferences.soundPack === modelData
@@ -207,6 +232,7 @@ FocusScope {
                     }
                 }
                 PlainButton {
+                    //: A verb: sign out and sign in to another account.
                     text: qsTr("Change account")
                     onClicked: changeAccount.open()
                 }
@@ -221,6 +247,7 @@ FocusScope {
 
             ReadableText {
                 Layout.topMargin: 10
+                //: %1 is the version, such as 0.1.0.
                 text: qsTr("Vost %1").arg(AppPreferences.version)
                 color: Appearance.secondaryText
                 font.pixelSize: 12
