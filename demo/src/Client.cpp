@@ -50,6 +50,9 @@ void Client::start()
     update(object("updateOption",
                   {{"name", u"version"_s}, {"value", object("optionValueString", {{"value", u"1.8.67"_s}})}}));
     update(authorizationState("authorizationStateWaitTdlibParameters"));
+    const QString networkSwitch = qEnvironmentVariable("VOST_DEMO_NETWORK_SWITCH");
+    if (!networkSwitch.isEmpty())
+        watchNetworkSwitch(networkSwitch);
 }
 
 void Client::answer(const QJsonObject &request, QJsonObject result)
@@ -168,7 +171,9 @@ bool Client::handleAuthorization(const QString &type, const QJsonObject &request
         QDir().mkpath(m_databaseDirectory);
         QDir().mkpath(m_filesDirectory);
         answer(request, ok());
-        update(object("updateConnectionState", {{"state", object("connectionStateReady")}}));
+        // A client started without network waits for it (Network.cpp).
+        update(object("updateConnectionState",
+                      {{"state", object(m_offline ? "connectionStateWaitingForNetwork" : "connectionStateReady")}}));
         QFile remembered(rememberedAccountPath());
         if (remembered.open(QIODevice::ReadOnly)) {
             m_phone = QJsonDocument::fromJson(remembered.readAll()).object().value("phone"_L1).toString();

@@ -70,6 +70,10 @@ private:
     void lifeTick();
     void presenceTick();
 
+    // The network, switched off and on by hand (Network.cpp).
+    void watchNetworkSwitch(const QString &path);
+    void networkSwitched(bool offline);
+
     Runtime &m_runtime;
     int m_id = 0;
     State m_state = State::WaitParameters;
@@ -79,6 +83,8 @@ private:
     std::unique_ptr<Account> m_account;
     int m_loaded[2] = {0, 0}; // chats of the main and archive lists loaded so far
     std::set<qint64> m_historyFetched;
+    bool m_offline = false;
+    int m_networkChanges = 0; // a reconnection under way stops when the network changes again
 };
 
 } // namespace demo

@@ -12,6 +12,31 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+class StatusItemTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(StatusItem)
+
+public:
+    static QString connection(ConnectionState state)
+    {
+        switch (state) {
+        case ConnectionState::WaitingForNetwork:
+            //: The tray item's tool tip while the computer has no network connection
+            return tr("Waiting for network…");
+        case ConnectionState::ConnectingToProxy:
+        case ConnectionState::Connecting:
+            //: The tray item's tool tip while the link to Telegram is being made
+            return tr("Connecting…");
+        case ConnectionState::Updating:
+            //: The tray item's tool tip while what happened offline is being fetched
+            return tr("Updating…");
+        case ConnectionState::Ready:
+            break;
+        }
+        return {};
+    }
+};
+
 constexpr qreal pointsPerInch = 72.0;
 constexpr qreal metresPerInch = 0.0254;
 } // namespace
@@ -28,6 +53,12 @@ QString StatusItem::accessibleLabel(int unreadCount)
         return u"Vost"_s;
     //: The tray icon's accessible name.
     return QCoreApplication::translate("StatusItem", "Vost, %n unread messages", nullptr, count);
+}
+
+QString StatusItem::toolTip(int unreadCount, ConnectionState connection)
+{
+    const QString state = StatusItemTexts::connection(connection);
+    return state.isEmpty() ? accessibleLabel(unreadCount) : accessibleLabel(unreadCount) + u'\n' + state;
 }
 
 QString StatusItem::badgeText(int unreadCount)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "session/ModelTypes.h"
+
 #include <QColor>
 #include <QImage>
 #include <QSizeF>
@@ -14,6 +16,9 @@ namespace StatusItem {
 QSizeF imageSize(int unreadCount);
 // "Vost", or "Vost, N unread messages" (a negative count is read as 0).
 QString accessibleLabel(int unreadCount);
+// The label, and under it what the connection is doing while it is not ready
+// ("Waiting for network…"), translated.
+QString toolTip(int unreadCount, ConnectionState connection);
 // The badge text: the count up to 99, then "99+"; empty without a badge.
 QString badgeText(int unreadCount);
 // The badge font's size in points (1 point = 1 logical pixel here): 9 for one

@@ -285,6 +285,7 @@ bool VostApp::launch()
     connect(&events, &AppEvents::filePanelWillPresent, this, &VostApp::suspendPopoverForFilePanel);
     connect(&events, &AppEvents::filePanelDidFinish, this, &VostApp::restorePopoverAfterFilePanel);
     connect(qApp, &QCoreApplication::aboutToQuit, m_session, &TelegramSession::shutDown);
+    connect(m_session, &TelegramSession::connectionStateChanged, this, &VostApp::updateToolTip);
 
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
         createTrayIcon();
@@ -360,8 +361,14 @@ void VostApp::updateStatusItem(int unreadCount)
         // Painting an icon caches a copy under that icon's key; every unread count
         // makes a new icon, so the copies of the old ones would pile up.
         QPixmapCache::clear();
-        m_trayIcon->setToolTip(StatusItem::accessibleLabel(m_unreadCount));
+        updateToolTip();
     }
+}
+
+void VostApp::updateToolTip()
+{
+    if (m_trayIcon)
+        m_trayIcon->setToolTip(StatusItem::toolTip(m_unreadCount, m_session->connectionState()));
 }
 
 void VostApp::handleTrayActivation(int reason)

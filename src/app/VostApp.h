@@ -60,6 +60,7 @@ private:
     void createTrayIcon();
     void watchForTray();
     void updateStatusItem(int unreadCount);
+    void updateToolTip();
     void handleTrayActivation(int reason);
     void presentPopover();
     void popoverActiveChanged();

@@ -226,4 +226,6 @@ void TelegramSession::resetAccountState()
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
     m_currentUserID.reset();
+    // The next client reports its own link; until it does, nothing is claimed.
+    setConnectionState(ConnectionState::Ready);
 }

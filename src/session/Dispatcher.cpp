@@ -18,6 +18,21 @@ std::optional<QString> chatIDIn(const TdObject &object)
     return chat ? std::optional(QString::number(*chat)) : std::nullopt;
 }
 
+std::optional<ConnectionState> connectionStateFrom(const QString &type)
+{
+    if (type == "connectionStateWaitingForNetwork"_L1)
+        return ConnectionState::WaitingForNetwork;
+    if (type == "connectionStateConnectingToProxy"_L1)
+        return ConnectionState::ConnectingToProxy;
+    if (type == "connectionStateConnecting"_L1)
+        return ConnectionState::Connecting;
+    if (type == "connectionStateUpdating"_L1)
+        return ConnectionState::Updating;
+    if (type == "connectionStateReady"_L1)
+        return ConnectionState::Ready;
+    return std::nullopt;
+}
+
 } // namespace
 
 void TelegramSession::handle(const TdObject &object, const QString &type)
@@ -28,6 +43,9 @@ void TelegramSession::handle(const TdObject &object, const QString &type)
         return;
     recordImageDiagnosticEvent(type, object);
     if (type == "updateConnectionState"_L1) {
+        // A state this client does not know leaves the last one standing.
+        if (const auto state = connectionStateFrom(typeOf(object.value("state"_L1))))
+            setConnectionState(*state);
         if (typeOf(object.value("state"_L1)) == "connectionStateReady"_L1 && isReady()) {
             requestChats();
             refreshContacts();

@@ -29,9 +29,14 @@ Q_ENUM_NS(StickerFormat)
 
 enum class PendingAttachmentKind { Photo, Document };
 Q_ENUM_NS(PendingAttachmentKind)
+
+// How far TDLib's link to Telegram stands: Ready once it is up to date.
+enum class ConnectionState { WaitingForNetwork, ConnectingToProxy, Connecting, Updating, Ready };
+Q_ENUM_NS(ConnectionState)
 } // namespace Model
 
 using Model::AvatarColor;
+using Model::ConnectionState;
 using Model::MessageDeliveryState;
 using Model::MessageMediaKind;
 using Model::PendingAttachmentKind;

@@ -134,6 +134,14 @@ void TelegramSession::setCurrentAccount(const QString &name, const QString &phon
     }
 }
 
+void TelegramSession::setConnectionState(ConnectionState state)
+{
+    if (m_connectionState == state)
+        return;
+    m_connectionState = state;
+    Q_EMIT connectionStateChanged();
+}
+
 void TelegramSession::send(const QString &type, const TdObject &fields)
 {
     if (m_requestObserver)

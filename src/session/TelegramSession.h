@@ -48,6 +48,7 @@ class TelegramSession : public QObject
     Q_PROPERTY(bool creatingConversation READ creatingConversation NOTIFY creatingConversationChanged)
     Q_PROPERTY(QString conversationError READ conversationErrorText NOTIFY conversationErrorChanged)
     Q_PROPERTY(QString currentAccountPhoneNumber READ currentAccountPhoneNumber NOTIFY currentAccountPhoneNumberChanged)
+    Q_PROPERTY(Model::ConnectionState connectionState READ connectionState NOTIFY connectionStateChanged)
 
 public:
     // When set, every request goes to the sender instead of TDLib: the type and
@@ -85,6 +86,8 @@ public:
     QString startupStatus() const { return m_startupStatus; }
     QString currentAccountName() const { return m_currentAccountName; }
     QString currentAccountPhoneNumber() const { return m_currentAccountPhoneNumber; }
+    // TDLib's link to Telegram, as its last "updateConnectionState" told.
+    ConnectionState connectionState() const { return m_connectionState; }
     // The displayed chat list, in display order.
     const QList<Chat> &chats() const;
     // What each chat shows, oldest first.
@@ -188,6 +191,7 @@ Q_SIGNALS:
     void creatingConversationChanged();
     void deletingChatsChanged();
     void newlyOpenedChatIDChanged();
+    void connectionStateChanged();
 
 private:
     // Channel
@@ -297,6 +301,7 @@ private:
     void setErrorMessage(const std::optional<QString> &message);
     void setStartupStatus(const QString &status);
     void setCurrentAccount(const QString &name, const QString &phoneNumber);
+    void setConnectionState(ConnectionState state);
 
     RequestSender m_requestSender;
     RequestObserver m_requestObserver;
@@ -315,6 +320,7 @@ private:
     QString m_lastEventType; // the event type behind the status text, when it names one
     QString m_currentAccountName;
     QString m_currentAccountPhoneNumber;
+    ConnectionState m_connectionState = ConnectionState::Ready;
 
     // TDLib
     std::optional<qint64> m_apiID;

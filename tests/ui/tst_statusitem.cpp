@@ -58,6 +58,18 @@ private Q_SLOTS:
         QCOMPARE(StatusItem::accessibleLabel(1000), u"Vost, 1000 unread messages"_s);
     }
 
+    // The tool tip names the connection's state only while it is not ready.
+    void toolTips()
+    {
+        QCOMPARE(StatusItem::toolTip(0, ConnectionState::Ready), u"Vost"_s);
+        QCOMPARE(StatusItem::toolTip(3, ConnectionState::Ready), u"Vost, 3 unread messages"_s);
+        QCOMPARE(StatusItem::toolTip(3, ConnectionState::WaitingForNetwork),
+                 u"Vost, 3 unread messages\nWaiting for network\u2026"_s);
+        QCOMPARE(StatusItem::toolTip(0, ConnectionState::ConnectingToProxy), u"Vost\nConnecting\u2026"_s);
+        QCOMPARE(StatusItem::toolTip(0, ConnectionState::Connecting), u"Vost\nConnecting\u2026"_s);
+        QCOMPARE(StatusItem::toolTip(-2, ConnectionState::Updating), u"Vost\nUpdating\u2026"_s);
+    }
+
     void badgeTextAndFont()
     {
         QCOMPARE(StatusItem::badgeText(0), QString());

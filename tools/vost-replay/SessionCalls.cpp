@@ -4,8 +4,13 @@
 #include "ReplayDriver.h"
 #include "ReplayModules.h"
 
+#include "session/ModelNames.h"
 #include "session/TelegramSession.h"
 #include "session/UserDefaults.h"
+
+#include <QMetaProperty>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -91,4 +96,16 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session)
     });
     driver.addState(u"currentAccountPhoneNumber"_s,
                     [&session] { return QJsonValue(session.currentAccountPhoneNumber()); });
+    // Read as the views read it, through the published property.
+    driver.addState(u"connectionState"_s, [&session] {
+        const QMetaProperty property =
+            session.metaObject()->property(session.metaObject()->indexOfProperty("connectionState"));
+        if (!property.isValid() || !property.isEnumType())
+            return QJsonValue();
+        return QJsonValue(caseName(property.enumerator(), property.read(&session).toInt()));
+    });
+    // How often the property announced a change.
+    auto changes = std::make_shared<int>(0);
+    QObject::connect(&session, &TelegramSession::connectionStateChanged, &driver, [changes] { ++*changes; });
+    driver.addState(u"connectionStateChanges"_s, [changes] { return QJsonValue(*changes); });
 }

@@ -3,8 +3,9 @@ import QtQuick.Controls.Basic
 import Vost.App
 import Vost.Model
 
-// The sidebar: the search field on top and the chats under it. Up and Down move
-// the selection, Enter goes to the composer; Ctrl+F goes to the search field.
+// The sidebar: the search field on top, the connection's state while it is not
+// ready, and the chats under it. Up and Down move the selection, Enter goes to
+// the composer; Ctrl+F goes to the search field.
 FocusScope {
     id: sidebar
 
@@ -56,6 +57,19 @@ FocusScope {
         }
     }
 
+    ConnectionStatus {
+        id: connection
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: search.bottom
+            margins: 10
+            topMargin: visible ? 6 : 0
+        }
+        connectionState: sidebar.session.connectionState
+    }
+
     ListView {
         id: list
 
@@ -63,7 +77,7 @@ FocusScope {
         anchors {
             left: parent.left
             right: parent.right
-            top: search.bottom
+            top: connection.bottom
             topMargin: 8
             bottom: parent.bottom
         }
