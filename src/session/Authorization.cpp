@@ -1,5 +1,6 @@
 // Start-up, TDLib's authorization states, sign-in and logging out.
 
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
@@ -18,25 +19,25 @@ using namespace Qt::StringLiterals;
 
 void TelegramSession::start(qint64 apiID, const QString &apiHash)
 {
-    if (m_step.kind() != Step::Case::Idle)
+    if (m_authorization->step().kind() != Step::Case::Idle)
         return;
     m_apiID = apiID;
     m_apiHash = apiHash;
-    setStep(Step::starting());
-    setStartupStatus(u"Loading the bundled TDLib library…"_s);
+    m_authorization->setStep(Step::starting());
+    m_authorization->setStartupStatus(u"Loading the bundled TDLib library…"_s);
     try {
         if (!m_bundle)
             throw TDLibRuntime::RuntimeError::libraryNotBundled();
         m_runtime = std::make_shared<const TDLibRuntime>(*m_bundle);
     } catch (const TDLibRuntime::RuntimeError &error) {
-        setStep(Step::unavailable(error.errorDescription()));
+        m_authorization->setStep(Step::unavailable(error.errorDescription()));
         return;
     }
     quietTDLibLog();
-    setStartupStatus(u"TDLib loaded; creating a client…"_s);
-    setStep(Step::starting());
+    m_authorization->setStartupStatus(u"TDLib loaded; creating a client…"_s);
+    m_authorization->setStep(Step::starting());
     startClient();
-    setStartupStatus(u"Client created; waiting for TDLib’s first event…"_s);
+    m_authorization->setStartupStatus(u"Client created; waiting for TDLib’s first event…"_s);
     m_receiveLoop =
         std::make_unique<ReceiveLoop>(m_runtime, this, [this](const QByteArray &event) { handleResponse(event); });
     m_receiveLoop->start();
@@ -57,80 +58,29 @@ void TelegramSession::quietTDLibLog()
 
 void TelegramSession::submitPhoneNumber(const QString &phoneNumber)
 {
-    setErrorMessage(std::nullopt);
-    send(u"setAuthenticationPhoneNumber"_s,
-         {{"phone_number"_L1, phoneNumber},
-          {"settings"_L1, TdObject{{"@type"_L1, u"phoneNumberAuthenticationSettings"_s}}}});
+    m_authorization->submitPhoneNumber(phoneNumber);
 }
 
 void TelegramSession::submitVerificationCode(const QString &code)
 {
-    setErrorMessage(std::nullopt);
-    send(u"checkAuthenticationCode"_s, {{"code"_L1, code}});
+    m_authorization->submitVerificationCode(code);
 }
 
 void TelegramSession::submitPassword(const QString &password)
 {
-    setErrorMessage(std::nullopt);
-    send(u"checkAuthenticationPassword"_s, {{"password"_L1, password}});
+    m_authorization->submitPassword(password);
 }
 
 void TelegramSession::logOutAndChangeAccount()
 {
-    if (!isReady())
-        return;
-    m_restartingAfterLogout = true;
-    setStep(Step::starting());
-    setErrorMessage(std::nullopt);
-    send(u"logOut"_s);
-}
-
-void TelegramSession::handleAuthorizationState(const TdObject &state)
-{
-    const QString type = typeOf(state);
-    if (type == "authorizationStateWaitTdlibParameters"_L1) {
-        submitTDLibParameters();
-    } else if (type == "authorizationStateWaitPhoneNumber"_L1) {
-        setStep(Step::phoneNumber());
-    } else if (type == "authorizationStateWaitCode"_L1) {
-        m_codeInfo = CodeInfo::from(state.value("code_info"_L1).toObject());
-        Q_EMIT codeInfoChanged();
-        setStep(Step::verificationCode());
-    } else if (type == "authorizationStateWaitPassword"_L1) {
-        const QJsonValue hint = state.value("password_hint"_L1);
-        setStep(Step::password(hint.isString() ? hint.toString() : QString()));
-    } else if (type == "authorizationStateReady"_L1) {
-        completeSignIn();
-    } else if (type == "authorizationStateLoggingOut"_L1 || type == "authorizationStateClosing"_L1) {
-        if (!m_restartingAfterLogout && !m_closeWait)
-            setStep(Step::unavailable(u"The Telegram session is closing."_s));
-    } else if (type == "authorizationStateClosed"_L1) {
-        if (m_closeWait) {
-            m_closeWait->quit(); // the application is quitting: no new client
-        } else if (m_restartingAfterLogout) {
-            m_restartingAfterLogout = false;
-            resetAccountState();
-            beginClient();
-        } else {
-            setStep(Step::unavailable(u"The Telegram session closed."_s));
-        }
-    }
+    m_authorization->logOut();
 }
 
 void TelegramSession::completeSignIn()
 {
-    setStep(Step::ready());
-    setErrorMessage(std::nullopt);
     m_soundManager->play(SoundEvent::SignedIn);
     requestChats();
     refreshContacts();
-    send(u"getMe"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"current_user"_s}}}});
-}
-
-void TelegramSession::storeCurrentUser(const TdObject &user)
-{
-    m_currentUserID = int64From(user.value("id"_L1));
-    setCurrentAccount(fullName(user), user.value("phone_number"_L1).toString());
 }
 
 void TelegramSession::submitTDLibParameters()
@@ -177,7 +127,7 @@ void TelegramSession::beginClient()
 {
     if (!m_runtime)
         return;
-    setStep(Step::starting());
+    m_authorization->setStep(Step::starting());
     startClient();
 }
 
@@ -202,7 +152,7 @@ void TelegramSession::resetAccountState()
     m_messageDetailsByChat.clear();
     for (const QString &chatID : chatsWithMessages)
         Q_EMIT messagesChanged(chatID);
-    setCurrentAccount(QString(), QString());
+    m_authorization->reset();
     m_contacts->reset();
     m_stickers->reset();
 
@@ -224,5 +174,4 @@ void TelegramSession::resetAccountState()
     m_loadingChatLists.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
-    m_currentUserID.reset();
 }

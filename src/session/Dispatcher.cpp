@@ -1,6 +1,7 @@
 // The one entry point for every TDLib answer and update: answers are routed by the
 // purpose their request was tagged with, everything else by its type.
 
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
@@ -43,10 +44,8 @@ void TelegramSession::handle(const TdObject &object, const QString &type)
         return;
     if (routeByType(type, object))
         return;
-    if (type == "updateAuthorizationState"_L1) {
-        handleAuthorizationState(object.value("authorization_state"_L1).toObject());
+    if (m_authorization->handleUpdate(type, object, m_closeWait != nullptr))
         return;
-    }
     if (type == "error"_L1)
         handleGenericError(object);
 }
@@ -64,7 +63,8 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
             m_loadingChatLists.remove(listType);
             if (integerFrom(object.value("code"_L1)) != 404) {
                 const QJsonValue message = object.value("message"_L1);
-                setErrorMessage(message.isString() ? message.toString() : u"Unable to refresh chats."_s);
+                m_authorization->setErrorMessage(message.isString() ? message.toString()
+                                                                    : u"Unable to refresh chats."_s);
             }
             return true;
         }
@@ -72,11 +72,8 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
     }
     if (m_contacts->handleAnswer(purpose, type, object))
         return true;
-    if (purpose == "current_user"_L1 && type == "user"_L1) {
-        storeCurrentUser(object);
-        storeUser(object);
+    if (m_authorization->handleAnswer(purpose, type, object))
         return true;
-    }
     if (purpose == "replied_message"_L1) {
         storeRepliedMessage(object.value("@extra"_L1).toObject(), type, object);
         return true;
@@ -143,10 +140,8 @@ void TelegramSession::handleGenericError(const TdObject &error)
 {
     const QJsonValue message = error.value("message"_L1);
     const QString text = message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
-    setErrorMessage(text);
     // An error before the first authorization state ends the session.
-    if (m_step.kind() == Step::Case::Starting)
-        setStep(Step::unavailable(text));
+    m_authorization->fail(text);
     m_soundManager->play(SoundEvent::Failure);
 }
 

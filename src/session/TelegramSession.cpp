@@ -2,6 +2,7 @@
 
 #include "session/TelegramSession.h"
 
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
@@ -31,11 +32,30 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_bundle(AppBundle::main())
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
-    , m_startupStatus(u"Waiting to start"_s)
+    , m_authorization(new AuthorizationStore(storeSender(), this))
     , m_users(new UserStore(storeSender(), this))
     , m_stickers(new StickerStore(storeSender(), this))
     , m_contacts(new ContactStore(storeSender(), *m_users, this))
 {
+    connect(m_authorization, &AuthorizationStore::stepChanged, this, &TelegramSession::stepChanged);
+    connect(m_authorization, &AuthorizationStore::codeInfoChanged, this, &TelegramSession::codeInfoChanged);
+    connect(m_authorization, &AuthorizationStore::errorMessageChanged, this, &TelegramSession::errorMessageChanged);
+    connect(m_authorization, &AuthorizationStore::startupStatusChanged, this, &TelegramSession::startupStatusChanged);
+    connect(m_authorization, &AuthorizationStore::currentAccountNameChanged, this,
+            &TelegramSession::currentAccountNameChanged);
+    connect(m_authorization, &AuthorizationStore::currentAccountPhoneNumberChanged, this,
+            &TelegramSession::currentAccountPhoneNumberChanged);
+    connect(m_authorization, &AuthorizationStore::tdlibParametersWanted, this, &TelegramSession::submitTDLibParameters);
+    connect(m_authorization, &AuthorizationStore::signedIn, this, &TelegramSession::completeSignIn);
+    connect(m_authorization, &AuthorizationStore::currentUserReceived, this, &TelegramSession::storeUser);
+    connect(m_authorization, &AuthorizationStore::clientClosed, this, [this] {
+        if (m_closeWait)
+            m_closeWait->quit();
+    });
+    connect(m_authorization, &AuthorizationStore::accountLeft, this, [this] {
+        resetAccountState();
+        beginClient();
+    });
     connect(m_users, &UserStore::presenceChanged, this, &TelegramSession::refreshPresence);
     connect(m_users, &UserStore::userStored, this, &TelegramSession::republishChatsWithMessages);
     connect(m_users, &UserStore::avatarArrived, this, [this](qint64 userID) {
@@ -97,41 +117,39 @@ QDate TelegramSession::localToday()
     return m_today;
 }
 
-void TelegramSession::setStep(const Step &step)
+Step TelegramSession::step() const
 {
-    if (m_step == step)
-        return;
-    m_step = step;
-    Q_EMIT stepChanged();
+    return m_authorization->step();
 }
 
-void TelegramSession::setErrorMessage(const std::optional<QString> &message)
+bool TelegramSession::isReady() const
 {
-    if (m_errorMessage == message)
-        return;
-    m_errorMessage = message;
-    Q_EMIT errorMessageChanged();
+    return m_authorization->isReady();
 }
 
-void TelegramSession::setStartupStatus(const QString &status)
+std::optional<QString> TelegramSession::errorMessage() const
 {
-    if (m_startupStatus == status)
-        return;
-    m_startupStatus = status;
-    m_lastEventType.clear();
-    Q_EMIT startupStatusChanged();
+    return m_authorization->errorMessage();
 }
 
-void TelegramSession::setCurrentAccount(const QString &name, const QString &phoneNumber)
+CodeInfo TelegramSession::codeInfo() const
 {
-    if (m_currentAccountName != name) {
-        m_currentAccountName = name;
-        Q_EMIT currentAccountNameChanged();
-    }
-    if (m_currentAccountPhoneNumber != phoneNumber) {
-        m_currentAccountPhoneNumber = phoneNumber;
-        Q_EMIT currentAccountPhoneNumberChanged();
-    }
+    return m_authorization->codeInfo();
+}
+
+QString TelegramSession::startupStatus() const
+{
+    return m_authorization->startupStatus();
+}
+
+QString TelegramSession::currentAccountName() const
+{
+    return m_authorization->currentAccountName();
+}
+
+QString TelegramSession::currentAccountPhoneNumber() const
+{
+    return m_authorization->currentAccountPhoneNumber();
 }
 
 void TelegramSession::send(const QString &type, const TdObject &fields)
@@ -171,7 +189,7 @@ void TelegramSession::handleResponse(const QString &json)
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(json);
     if (encoder.hasError()) {
-        setStartupStatus(u"TDLib returned an unreadable response."_s);
+        m_authorization->setStartupStatus(u"TDLib returned an unreadable response."_s);
         return;
     }
     handleResponse(bytes);
@@ -186,18 +204,13 @@ void TelegramSession::handleResponse(const QByteArray &json)
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
     if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
-        setStartupStatus(u"TDLib returned an unreadable response."_s);
+        m_authorization->setStartupStatus(u"TDLib returned an unreadable response."_s);
         return;
     }
     const TdObject object = document.object();
     const QJsonValue type = object.value("@type"_L1);
-    const QString typeName = type.isString() ? type.toString() : QString();
-    // Consecutive events of one type leave the text as it is; this runs for every event.
-    if (typeName.isEmpty() || typeName != m_lastEventType) {
-        setStartupStatus(u"Received TDLib event: "_s + (type.isString() ? typeName : u"unknown"_s));
-        m_lastEventType = typeName;
-    }
-    handle(object, typeName);
+    m_authorization->noteEvent(type);
+    handle(object, type.isString() ? type.toString() : QString());
 }
 
 void TelegramSession::shutDown()

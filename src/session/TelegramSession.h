@@ -27,6 +27,7 @@ class QEventLoop;
 class QTimer;
 class ReceiveLoop;
 class SoundManager;
+class AuthorizationStore;
 class ContactStore;
 class StickerStore;
 class UserStore;
@@ -76,15 +77,15 @@ public:
         m_todayAge.invalidate();
     }
 
-    Step step() const { return m_step; }
-    bool isReady() const { return m_step.kind() == Step::Case::Ready; }
-    std::optional<QString> errorMessage() const { return m_errorMessage; }
-    QString errorMessageText() const { return m_errorMessage.value_or(QString()); }
+    Step step() const;
+    bool isReady() const;
+    std::optional<QString> errorMessage() const;
+    QString errorMessageText() const { return errorMessage().value_or(QString()); }
     // Where the login code went; set on each "authorizationStateWaitCode".
-    CodeInfo codeInfo() const { return m_codeInfo; }
-    QString startupStatus() const { return m_startupStatus; }
-    QString currentAccountName() const { return m_currentAccountName; }
-    QString currentAccountPhoneNumber() const { return m_currentAccountPhoneNumber; }
+    CodeInfo codeInfo() const;
+    QString startupStatus() const;
+    QString currentAccountName() const;
+    QString currentAccountPhoneNumber() const;
     // The displayed chat list, in display order.
     const QList<Chat> &chats() const;
     // What each chat shows, oldest first.
@@ -206,12 +207,10 @@ private:
     void handleGenericError(const TdObject &error);
 
     // Authorization
-    void handleAuthorizationState(const TdObject &state);
     void completeSignIn();
     void submitTDLibParameters();
     void beginClient();
     void resetAccountState();
-    void storeCurrentUser(const TdObject &user);
 
     // Chat list
     void addOrUpdateChat(const TdObject &chat);
@@ -293,11 +292,6 @@ private:
     // The user's calendar day, read from the clock at most once a second.
     QDate localToday();
 
-    void setStep(const Step &step);
-    void setErrorMessage(const std::optional<QString> &message);
-    void setStartupStatus(const QString &status);
-    void setCurrentAccount(const QString &name, const QString &phoneNumber);
-
     RequestSender m_requestSender;
     RequestObserver m_requestObserver;
     ResponseObserver m_responseObserver;
@@ -307,14 +301,7 @@ private:
     QDate m_today;
     QElapsedTimer m_todayAge;
 
-    // Published
-    Step m_step;
-    CodeInfo m_codeInfo;
-    std::optional<QString> m_errorMessage;
-    QString m_startupStatus;
-    QString m_lastEventType; // the event type behind the status text, when it names one
-    QString m_currentAccountName;
-    QString m_currentAccountPhoneNumber;
+    AuthorizationStore *m_authorization;
 
     // TDLib
     std::optional<qint64> m_apiID;
@@ -322,8 +309,6 @@ private:
     std::shared_ptr<const TDLibRuntime> m_runtime;
     std::optional<int> m_clientID;
     std::unique_ptr<ReceiveLoop> m_receiveLoop;
-    std::optional<qint64> m_currentUserID;
-    bool m_restartingAfterLogout = false;
     QEventLoop *m_closeWait = nullptr; // set while quitting waits for the client to close
 
     // Chat list. Each listed chat has a sort key; the ordered index of those keys is

@@ -1,6 +1,7 @@
 // The session's stores on their own: what each forgets when the account changes,
 // and that each leaves answers and updates that are not its own to the others.
 
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/StickerStore.h"
 #include "session/UserStore.h"
@@ -207,6 +208,77 @@ private Q_SLOTS:
                                       answer(u"chat"_s, late, {{"id"_L1, 55}, {"title"_L1, u"Cleo"_s}})));
         QCOMPARE(opened.size(), 0);
         QVERIFY(!contacts.newlyOpenedChatID());
+    }
+
+    void authorizationResetForgetsTheAccount()
+    {
+        Sent sent;
+        AuthorizationStore authorization(sent.sender());
+        QSignalSpy received(&authorization, &AuthorizationStore::currentUserReceived);
+        const TdObject ready{{"authorization_state"_L1, TdObject{{"@type"_L1, u"authorizationStateReady"_s}}}};
+        QVERIFY(authorization.handleUpdate(u"updateAuthorizationState"_s, ready, false));
+        QVERIFY(authorization.isReady());
+        const TdObject me = sent.extraOf(u"getMe"_s);
+        TdObject self = user(12, u"Ada"_s);
+        self.insert("phone_number"_L1, u"15550100"_s);
+        QVERIFY(authorization.handleAnswer(me.value("purpose"_L1).toString(), u"user"_s, answer(u"user"_s, me, self)));
+        QCOMPARE(authorization.currentAccountName(), u"Ada"_s);
+        QCOMPARE(authorization.currentAccountPhoneNumber(), u"15550100"_s);
+        QCOMPARE(authorization.currentUserID(), std::optional<qint64>(12));
+        QCOMPARE(received.size(), 1);
+
+        QSignalSpy name(&authorization, &AuthorizationStore::currentAccountNameChanged);
+        QSignalSpy phone(&authorization, &AuthorizationStore::currentAccountPhoneNumberChanged);
+        authorization.reset();
+        QVERIFY(authorization.currentAccountName().isEmpty());
+        QVERIFY(authorization.currentAccountPhoneNumber().isEmpty());
+        QVERIFY(!authorization.currentUserID());
+        QCOMPARE(name.size(), 1);
+        QCOMPARE(phone.size(), 1);
+    }
+
+    void authorizationClosesQuietlyWhileQuitting()
+    {
+        Sent sent;
+        AuthorizationStore authorization(sent.sender());
+        QSignalSpy closed(&authorization, &AuthorizationStore::clientClosed);
+        QSignalSpy left(&authorization, &AuthorizationStore::accountLeft);
+        const auto state = [](const QString &type) {
+            return TdObject{{"authorization_state"_L1, TdObject{{"@type"_L1, type}}}};
+        };
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateReady"_s), false);
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateClosing"_s), true);
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateClosed"_s), true);
+        QCOMPARE(authorization.step(), Step::ready());
+        QCOMPARE(closed.size(), 1);
+        QCOMPARE(left.size(), 0);
+        // Closed without logging out or quitting: the session is over.
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateClosed"_s), false);
+        QCOMPARE(authorization.step(), Step::unavailable(u"The Telegram session closed."_s));
+        QCOMPARE(left.size(), 0);
+    }
+
+    void authorizationLeavesOtherAnswersAlone()
+    {
+        Sent sent;
+        AuthorizationStore authorization(sent.sender());
+        QSignalSpy step(&authorization, &AuthorizationStore::stepChanged);
+        QSignalSpy received(&authorization, &AuthorizationStore::currentUserReceived);
+        const TdObject roster{{"purpose"_L1, u"contact_roster_result"_s}};
+        QVERIFY(!authorization.handleAnswer(u"contact_roster_result"_s, u"user"_s,
+                                            answer(u"user"_s, roster, user(3, u"Cleo"_s))));
+        const TdObject me{{"purpose"_L1, u"current_user"_s}};
+        QVERIFY(!authorization.handleAnswer(u"current_user"_s, u"error"_s, answer(u"error"_s, me)));
+        const TdObject wrapped{{"authorization_state"_L1, TdObject{{"@type"_L1, u"authorizationStateReady"_s}}}};
+        QVERIFY(!authorization.handleUpdate(u"updateUser"_s, wrapped, false));
+        QVERIFY(!authorization.handleUpdate(u"updateConnectionState"_s, wrapped, false));
+        // Logging out before signing in does nothing.
+        authorization.logOut();
+        QCOMPARE(authorization.step(), Step::idle());
+        QCOMPARE(step.size(), 0);
+        QCOMPARE(received.size(), 0);
+        QVERIFY(authorization.currentAccountName().isEmpty());
+        QVERIFY(sent.requests.isEmpty());
     }
 
     void contactsLeaveOtherAnswersAlone()
