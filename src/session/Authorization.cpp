@@ -5,12 +5,10 @@
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/TelegramSession.h"
-#include "tdlib/ReceiveLoop.h"
-#include "tdlib/TDLibRuntime.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QSysInfo>
@@ -21,39 +19,19 @@ void TelegramSession::start(qint64 apiID, const QString &apiHash)
 {
     if (m_authorization->step().kind() != Step::Case::Idle)
         return;
-    m_apiID = apiID;
-    m_apiHash = apiHash;
+    m_channel->setCredentials(apiID, apiHash);
     m_authorization->setStep(Step::starting());
     m_authorization->setStartupStatus(u"Loading the bundled TDLib library…"_s);
-    try {
-        if (!m_bundle)
-            throw TDLibRuntime::RuntimeError::libraryNotBundled();
-        m_runtime = std::make_shared<const TDLibRuntime>(*m_bundle);
-    } catch (const TDLibRuntime::RuntimeError &error) {
-        m_authorization->setStep(Step::unavailable(error.errorDescription()));
+    if (const std::optional<QString> error = m_channel->load()) {
+        m_authorization->setStep(Step::unavailable(*error));
         return;
     }
-    quietTDLibLog();
+    m_channel->quietLog();
     m_authorization->setStartupStatus(u"TDLib loaded; creating a client…"_s);
     m_authorization->setStep(Step::starting());
-    startClient();
+    m_channel->startClient();
     m_authorization->setStartupStatus(u"Client created; waiting for TDLib’s first event…"_s);
-    m_receiveLoop =
-        std::make_unique<ReceiveLoop>(m_runtime, this, [this](const QByteArray &event) { handleResponse(event); });
-    m_receiveLoop->start();
-}
-
-void TelegramSession::quietTDLibLog()
-{
-    // TDLib logs its own debugging to standard error by default; keep errors only,
-    // unless VOST_TDLIB_LOG_VERBOSITY asks for more.
-    bool ok = false;
-    int level = qEnvironmentVariableIntValue("VOST_TDLIB_LOG_VERBOSITY", &ok);
-    if (!ok)
-        level = 1;
-    const QByteArray request =
-        R"({"@type":"setLogVerbosityLevel","new_verbosity_level":)" + QByteArray::number(level) + '}';
-    m_runtime->execute(request.constData());
+    m_channel->startReceiving([this](const QByteArray &event) { handleResponse(event); });
 }
 
 void TelegramSession::submitPhoneNumber(const QString &phoneNumber)
@@ -85,7 +63,9 @@ void TelegramSession::completeSignIn()
 
 void TelegramSession::submitTDLibParameters()
 {
-    if (!m_apiID || !m_apiHash)
+    const std::optional<qint64> apiID = m_channel->apiID();
+    const std::optional<QString> apiHash = m_channel->apiHash();
+    if (!apiID || !apiHash)
         return;
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     if (dataFolder.isEmpty())
@@ -114,8 +94,8 @@ void TelegramSession::submitTDLibParameters()
                                       {"use_chat_info_database"_L1, true},
                                       {"use_message_database"_L1, true},
                                       {"use_secret_chats"_L1, true},
-                                      {"api_id"_L1, *m_apiID},
-                                      {"api_hash"_L1, *m_apiHash},
+                                      {"api_id"_L1, *apiID},
+                                      {"api_hash"_L1, *apiHash},
                                       {"system_language_code"_L1, languageCode},
                                       {"device_model"_L1, deviceModel},
                                       {"system_version"_L1, QSysInfo::prettyProductName()},
@@ -125,10 +105,10 @@ void TelegramSession::submitTDLibParameters()
 
 void TelegramSession::beginClient()
 {
-    if (!m_runtime)
+    if (!m_channel->isLoaded())
         return;
     m_authorization->setStep(Step::starting());
-    startClient();
+    m_channel->startClient();
 }
 
 void TelegramSession::resetAccountState()

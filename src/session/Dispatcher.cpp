@@ -6,6 +6,7 @@
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -24,8 +25,7 @@ std::optional<QString> chatIDIn(const TdObject &object)
 void TelegramSession::handle(const TdObject &object, const QString &type)
 {
     // Answers to a client the session has left behind (after logging out) are stale.
-    const std::optional<qint64> clientID = integerFrom(object.value("@client_id"_L1));
-    if (clientID && m_clientID && *clientID != *m_clientID)
+    if (m_channel->isStale(object))
         return;
     recordImageDiagnosticEvent(type, object);
     if (type == "updateConnectionState"_L1) {
@@ -44,7 +44,7 @@ void TelegramSession::handle(const TdObject &object, const QString &type)
         return;
     if (routeByType(type, object))
         return;
-    if (m_authorization->handleUpdate(type, object, m_closeWait != nullptr))
+    if (m_authorization->handleUpdate(type, object, m_channel->isQuitting()))
         return;
     if (type == "error"_L1)
         handleGenericError(object);

@@ -6,30 +6,16 @@
 #include "session/ContactStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/UserStore.h"
-#include "tdlib/ReceiveLoop.h"
-#include "tdlib/TDLibRuntime.h"
 
-#include <QCoreApplication>
-#include <QEventLoop>
-#include <QJsonDocument>
 #include <QStringDecoder>
-#include <QTimer>
-
-#include <algorithm>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-// How long quitting waits for TDLib to flush its database and close the client.
-constexpr int closeTimeoutMs = 3000;
-} // namespace
-
 TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     : QObject(parent)
-    , m_requestSender(std::move(requestSender))
-    , m_bundle(AppBundle::main())
+    , m_channel(new TDLibChannel(std::move(requestSender), this))
     , m_soundManager(&SoundManager::shared())
     , m_now([] { return QDateTime::currentDateTime(); })
     , m_authorization(new AuthorizationStore(storeSender(), this))
@@ -48,10 +34,7 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     connect(m_authorization, &AuthorizationStore::tdlibParametersWanted, this, &TelegramSession::submitTDLibParameters);
     connect(m_authorization, &AuthorizationStore::signedIn, this, &TelegramSession::completeSignIn);
     connect(m_authorization, &AuthorizationStore::currentUserReceived, this, &TelegramSession::storeUser);
-    connect(m_authorization, &AuthorizationStore::clientClosed, this, [this] {
-        if (m_closeWait)
-            m_closeWait->quit();
-    });
+    connect(m_authorization, &AuthorizationStore::clientClosed, m_channel, &TDLibChannel::finishQuitting);
     connect(m_authorization, &AuthorizationStore::accountLeft, this, [this] {
         resetAccountState();
         beginClient();
@@ -152,10 +135,23 @@ QString TelegramSession::currentAccountPhoneNumber() const
     return m_authorization->currentAccountPhoneNumber();
 }
 
+void TelegramSession::setBundle(std::optional<AppBundle> bundle)
+{
+    m_channel->setBundle(std::move(bundle));
+}
+
+void TelegramSession::setRequestObserver(RequestObserver observer)
+{
+    m_channel->setRequestObserver(std::move(observer));
+}
+
+void TelegramSession::setResponseObserver(ResponseObserver observer)
+{
+    m_channel->setResponseObserver(std::move(observer));
+}
+
 void TelegramSession::send(const QString &type, const TdObject &fields)
 {
-    if (m_requestObserver)
-        m_requestObserver(type, fields);
     if (type == "getChatHistory"_L1) {
         if (const auto chat = int64From(fields.value("chat_id"_L1))) {
             appendImageDiagnostic(QString::number(*chat),
@@ -165,22 +161,7 @@ void TelegramSession::send(const QString &type, const TdObject &fields)
                                       .arg(fields.value("only_local"_L1).toBool() ? "true"_L1 : "false"_L1));
         }
     }
-    if (m_requestSender) {
-        m_requestSender(type, fields);
-        return;
-    }
-    if (!m_runtime || !m_clientID)
-        return; // requests before start are dropped, not queued
-    TdObject request = fields;
-    request.insert("@type"_L1, type);
-    m_runtime->send(*m_clientID, QJsonDocument(request).toJson(QJsonDocument::Compact));
-}
-
-void TelegramSession::startClient()
-{
-    m_clientID = m_runtime->createClientID();
-    // The first request a new client receives; its answer needs no handling.
-    m_runtime->send(*m_clientID, R"({"@type":"getOption","name":"version"})"_ba);
+    m_channel->send(type, fields);
 }
 
 void TelegramSession::handleResponse(const QString &json)
@@ -197,42 +178,17 @@ void TelegramSession::handleResponse(const QString &json)
 
 void TelegramSession::handleResponse(const QByteArray &json)
 {
-    if (m_responseObserver)
-        m_responseObserver(json);
-    // The parser rejects malformed UTF-8 (overlong forms, surrogates, bytes cut
-    // short) as it goes: a pass of our own before it cost a thirtieth of a sync.
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
-    if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
+    const std::optional<TdObject> object = m_channel->read(json);
+    if (!object) {
         m_authorization->setStartupStatus(u"TDLib returned an unreadable response."_s);
         return;
     }
-    const TdObject object = document.object();
-    const QJsonValue type = object.value("@type"_L1);
+    const QJsonValue type = object->value("@type"_L1);
     m_authorization->noteEvent(type);
-    handle(object, type.isString() ? type.toString() : QString());
+    handle(*object, type.isString() ? type.toString() : QString());
 }
 
 void TelegramSession::shutDown()
 {
-    if (!m_receiveLoop)
-        return;
-    if (m_runtime && m_clientID && m_receiveLoop->isRunning() && QCoreApplication::instance()) {
-        QEventLoop waiting;
-        m_closeWait = &waiting;
-        QTimer::singleShot(closeTimeoutMs, &waiting, &QEventLoop::quit);
-        m_runtime->send(*m_clientID, R"({"@type":"close"})"_ba);
-        waiting.exec();
-        m_closeWait = nullptr;
-    }
-    m_receiveLoop.reset();
-    // TDLib registers exit handlers inside its own code: unloading it before the
-    // process ends would leave them pointing nowhere. Keep it mapped until then,
-    // in a list that is never destroyed (and that leak checkers can still see).
-    if (m_runtime) {
-        static auto *keptLoaded = new std::vector<std::shared_ptr<const TDLibRuntime>>;
-        if (std::find(keptLoaded->cbegin(), keptLoaded->cend(), m_runtime) == keptLoaded->cend())
-            keptLoaded->push_back(m_runtime);
-        m_runtime.reset();
-    }
+    m_channel->shutDown();
 }

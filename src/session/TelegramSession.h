@@ -23,15 +23,13 @@
 #include <unordered_map>
 #include <vector>
 
-class QEventLoop;
 class QTimer;
-class ReceiveLoop;
 class SoundManager;
 class AuthorizationStore;
 class ContactStore;
 class StickerStore;
+class TDLibChannel;
 class UserStore;
-class TDLibRuntime;
 
 // The application's one model object: it owns the TDLib client, follows TDLib's
 // authorization, folds every TDLib answer and update into the published state the
@@ -66,10 +64,10 @@ public:
 
     // Where TDLib is loaded from; the main bundle unless set. No bundle: start
     // reports that TDLib is not bundled.
-    void setBundle(std::optional<AppBundle> bundle) { m_bundle = std::move(bundle); }
+    void setBundle(std::optional<AppBundle> bundle);
     void setSoundManager(const SoundManager *soundManager) { m_soundManager = soundManager; }
-    void setRequestObserver(RequestObserver observer) { m_requestObserver = std::move(observer); }
-    void setResponseObserver(ResponseObserver observer) { m_responseObserver = std::move(observer); }
+    void setRequestObserver(RequestObserver observer);
+    void setResponseObserver(ResponseObserver observer);
     // The clock behind date texts; the system clock unless set.
     void setClock(Clock clock)
     {
@@ -195,8 +193,6 @@ private:
     void send(const QString &type, const TdObject &fields = {});
     // How the stores send: through send, so observers see their requests too.
     SendRequest storeSender();
-    void startClient();
-    void quietTDLibLog();
     friend class ChannelTest;
     void handle(const TdObject &object, const QString &type);
 
@@ -292,24 +288,13 @@ private:
     // The user's calendar day, read from the clock at most once a second.
     QDate localToday();
 
-    RequestSender m_requestSender;
-    RequestObserver m_requestObserver;
-    ResponseObserver m_responseObserver;
-    std::optional<AppBundle> m_bundle;
+    TDLibChannel *m_channel;
     const SoundManager *m_soundManager;
     Clock m_now;
     QDate m_today;
     QElapsedTimer m_todayAge;
 
     AuthorizationStore *m_authorization;
-
-    // TDLib
-    std::optional<qint64> m_apiID;
-    std::optional<QString> m_apiHash;
-    std::shared_ptr<const TDLibRuntime> m_runtime;
-    std::optional<int> m_clientID;
-    std::unique_ptr<ReceiveLoop> m_receiveLoop;
-    QEventLoop *m_closeWait = nullptr; // set while quitting waits for the client to close
 
     // Chat list. Each listed chat has a sort key; the ordered index of those keys is
     // brought up to date, and the list materialised, only when the list is read, so

@@ -4,6 +4,7 @@
 #include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/UserStore.h"
 
 #include <QSignalSpy>
@@ -279,6 +280,45 @@ private Q_SLOTS:
         QCOMPARE(received.size(), 0);
         QVERIFY(authorization.currentAccountName().isEmpty());
         QVERIFY(sent.requests.isEmpty());
+    }
+
+    void channelShowsEveryRequestAndEventToItsObservers()
+    {
+        Sent sent;
+        TDLibChannel channel(sent.sender());
+        QStringList observed;
+        channel.setRequestObserver([&observed](const QString &type, const TdObject &) { observed.append(type); });
+        QList<QByteArray> events;
+        channel.setResponseObserver([&events](const QByteArray &json) { events.append(json); });
+        channel.send(u"getMe"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"current_user"_s}}}});
+        QCOMPARE(observed, QStringList{u"getMe"_s});
+        QCOMPARE(sent.extraOf(u"getMe"_s).value("purpose"_L1).toString(), u"current_user"_s);
+
+        const auto read = channel.read(R"({"@type":"ok","@client_id":3})"_ba);
+        QVERIFY(read);
+        QCOMPARE(typeOf(*read), u"ok"_s);
+        // Events that are not one JSON object are seen, and read as nothing.
+        QVERIFY(!channel.read("[1]"_ba));
+        QVERIFY(!channel.read(R"({"@type":)"_ba));
+        QVERIFY(!channel.read(QByteArray()));
+        QCOMPARE(events.size(), 4);
+        // Without a client of its own, no event is from one left behind.
+        QVERIFY(!channel.isStale(*read));
+        QVERIFY(!channel.isLoaded());
+        QVERIFY(!channel.isQuitting());
+    }
+
+    void channelWithoutTDLibReportsIt()
+    {
+        TDLibChannel channel;
+        channel.setBundle(std::nullopt);
+        const std::optional<QString> error = channel.load();
+        QVERIFY(error);
+        QVERIFY(!error->isEmpty());
+        QVERIFY(!channel.isLoaded());
+        // Requests before a client exists go nowhere and break nothing.
+        channel.send(u"getMe"_s, {});
+        channel.shutDown();
     }
 
     void contactsLeaveOtherAnswersAlone()
