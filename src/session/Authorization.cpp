@@ -1,5 +1,6 @@
 // Start-up, TDLib's authorization states, sign-in and logging out.
 
+#include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
@@ -56,7 +57,7 @@ void TelegramSession::logOutAndChangeAccount()
 
 void TelegramSession::completeSignIn()
 {
-    m_soundManager->play(SoundEvent::SignedIn);
+    m_announcer->play(SoundEvent::SignedIn);
     requestChats();
     refreshContacts();
 }

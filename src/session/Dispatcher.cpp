@@ -1,6 +1,7 @@
 // The one entry point for every TDLib answer and update: answers are routed by the
 // purpose their request was tagged with, everything else by its type.
 
+#include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
@@ -142,7 +143,7 @@ void TelegramSession::handleGenericError(const TdObject &error)
     const QString text = message.isString() ? message.toString() : u"Telegram returned an unknown error."_s;
     // An error before the first authorization state ends the session.
     m_authorization->fail(text);
-    m_soundManager->play(SoundEvent::Failure);
+    m_announcer->play(SoundEvent::Failure);
 }
 
 bool TelegramSession::routeByTypeWithoutChat(const QString &type, const TdObject &object)

@@ -2,9 +2,9 @@
 
 #include "session/TelegramSession.h"
 
+#include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
-#include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
 #include "session/UserStore.h"
@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     : QObject(parent)
     , m_channel(new TDLibChannel(std::move(requestSender), this))
-    , m_soundManager(&SoundManager::shared())
+    , m_announcer(std::make_unique<Announcer>())
     , m_now([] { return QDateTime::currentDateTime(); })
     , m_authorization(new AuthorizationStore(storeSender(), this))
     , m_users(new UserStore(storeSender(), this))
@@ -133,6 +133,11 @@ QString TelegramSession::currentAccountName() const
 QString TelegramSession::currentAccountPhoneNumber() const
 {
     return m_authorization->currentAccountPhoneNumber();
+}
+
+void TelegramSession::setSoundManager(const SoundManager *soundManager)
+{
+    m_announcer->setSoundManager(soundManager);
 }
 
 void TelegramSession::setBundle(std::optional<AppBundle> bundle)

@@ -25,6 +25,7 @@
 
 class QTimer;
 class SoundManager;
+class Announcer;
 class AuthorizationStore;
 class ContactStore;
 class StickerStore;
@@ -65,7 +66,7 @@ public:
     // Where TDLib is loaded from; the main bundle unless set. No bundle: start
     // reports that TDLib is not bundled.
     void setBundle(std::optional<AppBundle> bundle);
-    void setSoundManager(const SoundManager *soundManager) { m_soundManager = soundManager; }
+    void setSoundManager(const SoundManager *soundManager);
     void setRequestObserver(RequestObserver observer);
     void setResponseObserver(ResponseObserver observer);
     // The clock behind date texts; the system clock unless set.
@@ -289,7 +290,7 @@ private:
     QDate localToday();
 
     TDLibChannel *m_channel;
-    const SoundManager *m_soundManager;
+    std::unique_ptr<Announcer> m_announcer;
     Clock m_now;
     QDate m_today;
     QElapsedTimer m_todayAge;

@@ -1,8 +1,12 @@
 // The session's stores on their own: what each forgets when the account changes,
 // and that each leaves answers and updates that are not its own to the others.
 
+#include "platform/SoundPlayer.h"
+#include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
+#include "session/Preferences.h"
+#include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
 #include "session/UserStore.h"
@@ -76,6 +80,12 @@ TdObject answer(const QString &type, const TdObject &extra, TdObject fields = {}
     fields.insert("@extra"_L1, extra);
     return fields;
 }
+
+// The sounds as the speaker would get them.
+struct HeardSounds : SoundPlayer {
+    QStringList names;
+    void play(const QString &name) override { names.append(name); }
+};
 
 } // namespace
 
@@ -319,6 +329,31 @@ private Q_SLOTS:
         // Requests before a client exists go nowhere and break nothing.
         channel.send(u"getMe"_s, {});
         channel.shutDown();
+    }
+
+    void announcerKeepsQuietForOwnAndMutedMessages()
+    {
+        Preferences::shared().setSoundsEnabled(true);
+        HeardSounds heard;
+        SoundManager sounds;
+        sounds.setPlayer(&heard);
+        Announcer announcer;
+        announcer.setSoundManager(&sounds);
+        const auto message = [](bool outgoing, QJsonValue content) {
+            return TdObject{{"chat_id"_L1, 42}, {"is_outgoing"_L1, outgoing}, {"content"_L1, content}};
+        };
+        const TdObject text{{"@type"_L1, u"messageText"_s},
+                            {"text"_L1, TdObject{{"@type"_L1, u"formattedText"_s}, {"text"_L1, u"hi"_s}}}};
+        announcer.announceMessage(message(true, text), false, u"Ada"_s);
+        announcer.announceMessage(message(false, text), true, u"Ada"_s);
+        announcer.announceMessage(message(false, u"not an object"_s), false, std::nullopt);
+        announcer.announceMessage(TdObject{{"content"_L1, text}}, false, std::nullopt);
+        QVERIFY(heard.names.isEmpty());
+        announcer.announceMessage(message(false, text), false, std::nullopt);
+        QCOMPARE(heard.names.size(), 1);
+        announcer.play(SoundEvent::Failure);
+        QCOMPARE(heard.names.size(), 2);
+        QVERIFY(heard.names.at(0) != heard.names.at(1));
     }
 
     void contactsLeaveOtherAnswersAlone()
