@@ -1,15 +1,15 @@
 // Start-up, TDLib's authorization states, sign-in and logging out.
 
+#include "session/Announcer.h"
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/TelegramSession.h"
-#include "tdlib/ReceiveLoop.h"
-#include "tdlib/TDLibRuntime.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QSysInfo>
@@ -18,124 +18,55 @@ using namespace Qt::StringLiterals;
 
 void TelegramSession::start(qint64 apiID, const QString &apiHash)
 {
-    if (m_step.kind() != Step::Case::Idle)
+    if (m_authorization->step().kind() != Step::Case::Idle)
         return;
-    m_apiID = apiID;
-    m_apiHash = apiHash;
-    setStep(Step::starting());
-    setStartupStatus(tr("Loading the bundled TDLib library…"));
-    try {
-        if (!m_bundle)
-            throw TDLibRuntime::RuntimeError::libraryNotBundled();
-        m_runtime = std::make_shared<const TDLibRuntime>(*m_bundle);
-    } catch (const TDLibRuntime::RuntimeError &error) {
-        setStep(Step::unavailable(error.errorDescription()));
+    m_channel->setCredentials(apiID, apiHash);
+    m_authorization->setStep(Step::starting());
+    m_authorization->setStartupStatus(tr("Loading the bundled TDLib library…"));
+    if (const std::optional<QString> error = m_channel->load()) {
+        m_authorization->setStep(Step::unavailable(*error));
         return;
     }
-    quietTDLibLog();
-    setStartupStatus(tr("TDLib loaded; creating a client…"));
-    setStep(Step::starting());
-    startClient();
-    setStartupStatus(tr("Client created; waiting for TDLib’s first event…"));
-    m_receiveLoop =
-        std::make_unique<ReceiveLoop>(m_runtime, this, [this](const QByteArray &event) { handleResponse(event); });
-    m_receiveLoop->start();
-}
-
-void TelegramSession::quietTDLibLog()
-{
-    // TDLib logs its own debugging to standard error by default; keep errors only,
-    // unless VOST_TDLIB_LOG_VERBOSITY asks for more.
-    bool ok = false;
-    int level = qEnvironmentVariableIntValue("VOST_TDLIB_LOG_VERBOSITY", &ok);
-    if (!ok)
-        level = 1;
-    const QByteArray request =
-        R"({"@type":"setLogVerbosityLevel","new_verbosity_level":)" + QByteArray::number(level) + '}';
-    m_runtime->execute(request.constData());
+    m_channel->quietLog();
+    m_authorization->setStartupStatus(tr("TDLib loaded; creating a client…"));
+    m_authorization->setStep(Step::starting());
+    m_channel->startClient();
+    m_authorization->setStartupStatus(tr("Client created; waiting for TDLib’s first event…"));
+    m_channel->startReceiving([this](const QByteArray &event) { handleResponse(event); });
 }
 
 void TelegramSession::submitPhoneNumber(const QString &phoneNumber)
 {
-    setErrorMessage(std::nullopt);
-    send(u"setAuthenticationPhoneNumber"_s,
-         {{"phone_number"_L1, phoneNumber},
-          {"settings"_L1, TdObject{{"@type"_L1, u"phoneNumberAuthenticationSettings"_s}}}});
+    m_authorization->submitPhoneNumber(phoneNumber);
 }
 
 void TelegramSession::submitVerificationCode(const QString &code)
 {
-    setErrorMessage(std::nullopt);
-    send(u"checkAuthenticationCode"_s, {{"code"_L1, code}});
+    m_authorization->submitVerificationCode(code);
 }
 
 void TelegramSession::submitPassword(const QString &password)
 {
-    setErrorMessage(std::nullopt);
-    send(u"checkAuthenticationPassword"_s, {{"password"_L1, password}});
+    m_authorization->submitPassword(password);
 }
 
 void TelegramSession::logOutAndChangeAccount()
 {
-    if (!isReady())
-        return;
-    m_restartingAfterLogout = true;
-    setStep(Step::starting());
-    setErrorMessage(std::nullopt);
-    send(u"logOut"_s);
-}
-
-void TelegramSession::handleAuthorizationState(const TdObject &state)
-{
-    const QString type = typeOf(state);
-    if (type == "authorizationStateWaitTdlibParameters"_L1) {
-        submitTDLibParameters();
-    } else if (type == "authorizationStateWaitPhoneNumber"_L1) {
-        setStep(Step::phoneNumber());
-    } else if (type == "authorizationStateWaitCode"_L1) {
-        m_codeInfo = CodeInfo::from(state.value("code_info"_L1).toObject());
-        Q_EMIT codeInfoChanged();
-        setStep(Step::verificationCode());
-    } else if (type == "authorizationStateWaitPassword"_L1) {
-        const QJsonValue hint = state.value("password_hint"_L1);
-        setStep(Step::password(hint.isString() ? hint.toString() : QString()));
-    } else if (type == "authorizationStateReady"_L1) {
-        completeSignIn();
-    } else if (type == "authorizationStateLoggingOut"_L1 || type == "authorizationStateClosing"_L1) {
-        if (!m_restartingAfterLogout && !m_closeWait)
-            setStep(Step::unavailable(tr("The Telegram session is closing.")));
-    } else if (type == "authorizationStateClosed"_L1) {
-        if (m_closeWait) {
-            m_closeWait->quit(); // the application is quitting: no new client
-        } else if (m_restartingAfterLogout) {
-            m_restartingAfterLogout = false;
-            resetAccountState();
-            beginClient();
-        } else {
-            setStep(Step::unavailable(tr("The Telegram session closed.")));
-        }
-    }
+    m_authorization->logOut();
 }
 
 void TelegramSession::completeSignIn()
 {
-    setStep(Step::ready());
-    setErrorMessage(std::nullopt);
-    m_soundManager->play(SoundEvent::SignedIn);
+    m_announcer->play(SoundEvent::SignedIn);
     requestChats();
     refreshContacts();
-    send(u"getMe"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"current_user"_s}}}});
-}
-
-void TelegramSession::storeCurrentUser(const TdObject &user)
-{
-    m_currentUserID = int64From(user.value("id"_L1));
-    setCurrentAccount(fullName(user), user.value("phone_number"_L1).toString());
 }
 
 void TelegramSession::submitTDLibParameters()
 {
-    if (!m_apiID || !m_apiHash)
+    const std::optional<qint64> apiID = m_channel->apiID();
+    const std::optional<QString> apiHash = m_channel->apiHash();
+    if (!apiID || !apiHash)
         return;
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     if (dataFolder.isEmpty())
@@ -165,8 +96,8 @@ void TelegramSession::submitTDLibParameters()
                                       {"use_chat_info_database"_L1, true},
                                       {"use_message_database"_L1, true},
                                       {"use_secret_chats"_L1, true},
-                                      {"api_id"_L1, *m_apiID},
-                                      {"api_hash"_L1, *m_apiHash},
+                                      {"api_id"_L1, *apiID},
+                                      {"api_hash"_L1, *apiHash},
                                       {"system_language_code"_L1, languageCode},
                                       {"device_model"_L1, deviceModel},
                                       {"system_version"_L1, QSysInfo::prettyProductName()},
@@ -176,10 +107,10 @@ void TelegramSession::submitTDLibParameters()
 
 void TelegramSession::beginClient()
 {
-    if (!m_runtime)
+    if (!m_channel->isLoaded())
         return;
-    setStep(Step::starting());
-    startClient();
+    m_authorization->setStep(Step::starting());
+    m_channel->startClient();
 }
 
 void TelegramSession::resetAccountState()
@@ -203,7 +134,7 @@ void TelegramSession::resetAccountState()
     m_messageDetailsByChat.clear();
     for (const QString &chatID : chatsWithMessages)
         Q_EMIT messagesChanged(chatID);
-    setCurrentAccount(QString(), QString());
+    m_authorization->reset();
     m_contacts->reset();
     m_stickers->reset();
 
@@ -225,7 +156,6 @@ void TelegramSession::resetAccountState()
     m_loadingChatLists.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
-    m_currentUserID.reset();
     // The next client reports its own link; until it does, nothing is claimed.
     setConnectionState(ConnectionState::Ready);
 }

@@ -1,10 +1,13 @@
 // The one entry point for every TDLib answer and update: answers are routed by the
 // purpose their request was tagged with, everything else by its type.
 
+#include "session/Announcer.h"
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -38,8 +41,7 @@ std::optional<ConnectionState> connectionStateFrom(const QString &type)
 void TelegramSession::handle(const TdObject &object, const QString &type)
 {
     // Answers to a client the session has left behind (after logging out) are stale.
-    const std::optional<qint64> clientID = integerFrom(object.value("@client_id"_L1));
-    if (clientID && m_clientID && *clientID != *m_clientID)
+    if (m_channel->isStale(object))
         return;
     recordImageDiagnosticEvent(type, object);
     if (type == "updateConnectionState"_L1) {
@@ -61,10 +63,8 @@ void TelegramSession::handle(const TdObject &object, const QString &type)
         return;
     if (routeByType(type, object))
         return;
-    if (type == "updateAuthorizationState"_L1) {
-        handleAuthorizationState(object.value("authorization_state"_L1).toObject());
+    if (m_authorization->handleUpdate(type, object, m_channel->isQuitting()))
         return;
-    }
     if (type == "error"_L1)
         handleGenericError(object);
 }
@@ -82,7 +82,8 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
             m_loadingChatLists.remove(listType);
             if (integerFrom(object.value("code"_L1)) != 404) {
                 const QJsonValue message = object.value("message"_L1);
-                setErrorMessage(message.isString() ? message.toString() : tr("Unable to refresh chats."));
+                m_authorization->setErrorMessage(message.isString() ? message.toString()
+                                                                    : tr("Unable to refresh chats."));
             }
             return true;
         }
@@ -90,11 +91,8 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
     }
     if (m_contacts->handleAnswer(purpose, type, object))
         return true;
-    if (purpose == "current_user"_L1 && type == "user"_L1) {
-        storeCurrentUser(object);
-        storeUser(object);
+    if (m_authorization->handleAnswer(purpose, type, object))
         return true;
-    }
     if (purpose == "replied_message"_L1) {
         storeRepliedMessage(object.value("@extra"_L1).toObject(), type, object);
         return true;
@@ -161,11 +159,9 @@ void TelegramSession::handleGenericError(const TdObject &error)
 {
     const QJsonValue message = error.value("message"_L1);
     const QString text = message.isString() ? message.toString() : tr("Telegram returned an unknown error.");
-    setErrorMessage(text);
     // An error before the first authorization state ends the session.
-    if (m_step.kind() == Step::Case::Starting)
-        setStep(Step::unavailable(text));
-    m_soundManager->play(SoundEvent::Failure);
+    m_authorization->fail(text);
+    m_announcer->play(SoundEvent::Failure);
 }
 
 bool TelegramSession::routeByTypeWithoutChat(const QString &type, const TdObject &object)

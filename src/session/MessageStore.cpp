@@ -1,6 +1,7 @@
 // The messages of each chat: a short window of the newest ones, the first load of
 // a chat with its bounded retries, older pages, read markers and delivery ticks.
 
+#include "session/AuthorizationStore.h"
 #include "session/ContentTexts.h"
 #include "session/DateTexts.h"
 #include "session/TelegramSession.h"
@@ -93,7 +94,8 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
 
     const std::optional<qint64> senderUserID = int64From(raw.value("sender_id"_L1).toObject().value("user_id"_L1));
     if (message.isOutgoing) {
-        const User *found = m_currentUserID ? m_users->user(*m_currentUserID) : nullptr;
+        const User *found =
+            m_authorization->currentUserID() ? m_users->user(*m_authorization->currentUserID()) : nullptr;
         if (!found && senderUserID)
             found = m_users->user(*senderUserID);
         //: The sender's name on one's own messages.

@@ -2,40 +2,43 @@
 
 #include "session/TelegramSession.h"
 
+#include "session/Announcer.h"
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
-#include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/UserStore.h"
-#include "tdlib/ReceiveLoop.h"
-#include "tdlib/TDLibRuntime.h"
 
-#include <QCoreApplication>
-#include <QEventLoop>
-#include <QJsonDocument>
 #include <QStringDecoder>
-#include <QTimer>
-
-#include <algorithm>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-// How long quitting waits for TDLib to flush its database and close the client.
-constexpr int closeTimeoutMs = 3000;
-} // namespace
-
 TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     : QObject(parent)
-    , m_requestSender(std::move(requestSender))
-    , m_bundle(AppBundle::main())
-    , m_soundManager(&SoundManager::shared())
+    , m_channel(new TDLibChannel(std::move(requestSender), this))
+    , m_announcer(std::make_unique<Announcer>())
     , m_now([] { return QDateTime::currentDateTime(); })
-    , m_startupStatus(tr("Waiting to start"))
+    , m_authorization(new AuthorizationStore(storeSender(), this))
     , m_users(new UserStore(storeSender(), this))
     , m_stickers(new StickerStore(storeSender(), this))
     , m_contacts(new ContactStore(storeSender(), *m_users, this))
 {
+    connect(m_authorization, &AuthorizationStore::stepChanged, this, &TelegramSession::stepChanged);
+    connect(m_authorization, &AuthorizationStore::codeInfoChanged, this, &TelegramSession::codeInfoChanged);
+    connect(m_authorization, &AuthorizationStore::errorMessageChanged, this, &TelegramSession::errorMessageChanged);
+    connect(m_authorization, &AuthorizationStore::startupStatusChanged, this, &TelegramSession::startupStatusChanged);
+    connect(m_authorization, &AuthorizationStore::currentAccountNameChanged, this,
+            &TelegramSession::currentAccountNameChanged);
+    connect(m_authorization, &AuthorizationStore::currentAccountPhoneNumberChanged, this,
+            &TelegramSession::currentAccountPhoneNumberChanged);
+    connect(m_authorization, &AuthorizationStore::tdlibParametersWanted, this, &TelegramSession::submitTDLibParameters);
+    connect(m_authorization, &AuthorizationStore::signedIn, this, &TelegramSession::completeSignIn);
+    connect(m_authorization, &AuthorizationStore::currentUserReceived, this, &TelegramSession::storeUser);
+    connect(m_authorization, &AuthorizationStore::clientClosed, m_channel, &TDLibChannel::finishQuitting);
+    connect(m_authorization, &AuthorizationStore::accountLeft, this, [this] {
+        resetAccountState();
+        beginClient();
+    });
     connect(m_users, &UserStore::presenceChanged, this, &TelegramSession::refreshPresence);
     connect(m_users, &UserStore::userStored, this, &TelegramSession::republishChatsWithMessages);
     connect(m_users, &UserStore::avatarArrived, this, [this](qint64 userID) {
@@ -97,43 +100,6 @@ QDate TelegramSession::localToday()
     return m_today;
 }
 
-void TelegramSession::setStep(const Step &step)
-{
-    if (m_step == step)
-        return;
-    m_step = step;
-    Q_EMIT stepChanged();
-}
-
-void TelegramSession::setErrorMessage(const std::optional<QString> &message)
-{
-    if (m_errorMessage == message)
-        return;
-    m_errorMessage = message;
-    Q_EMIT errorMessageChanged();
-}
-
-void TelegramSession::setStartupStatus(const QString &status)
-{
-    if (m_startupStatus == status)
-        return;
-    m_startupStatus = status;
-    m_lastEventType.clear();
-    Q_EMIT startupStatusChanged();
-}
-
-void TelegramSession::setCurrentAccount(const QString &name, const QString &phoneNumber)
-{
-    if (m_currentAccountName != name) {
-        m_currentAccountName = name;
-        Q_EMIT currentAccountNameChanged();
-    }
-    if (m_currentAccountPhoneNumber != phoneNumber) {
-        m_currentAccountPhoneNumber = phoneNumber;
-        Q_EMIT currentAccountPhoneNumberChanged();
-    }
-}
-
 void TelegramSession::setConnectionState(ConnectionState state)
 {
     if (m_connectionState == state)
@@ -142,10 +108,63 @@ void TelegramSession::setConnectionState(ConnectionState state)
     Q_EMIT connectionStateChanged();
 }
 
+Step TelegramSession::step() const
+{
+    return m_authorization->step();
+}
+
+bool TelegramSession::isReady() const
+{
+    return m_authorization->isReady();
+}
+
+std::optional<QString> TelegramSession::errorMessage() const
+{
+    return m_authorization->errorMessage();
+}
+
+CodeInfo TelegramSession::codeInfo() const
+{
+    return m_authorization->codeInfo();
+}
+
+QString TelegramSession::startupStatus() const
+{
+    return m_authorization->startupStatus();
+}
+
+QString TelegramSession::currentAccountName() const
+{
+    return m_authorization->currentAccountName();
+}
+
+QString TelegramSession::currentAccountPhoneNumber() const
+{
+    return m_authorization->currentAccountPhoneNumber();
+}
+
+void TelegramSession::setSoundManager(const SoundManager *soundManager)
+{
+    m_announcer->setSoundManager(soundManager);
+}
+
+void TelegramSession::setBundle(std::optional<AppBundle> bundle)
+{
+    m_channel->setBundle(std::move(bundle));
+}
+
+void TelegramSession::setRequestObserver(RequestObserver observer)
+{
+    m_channel->setRequestObserver(std::move(observer));
+}
+
+void TelegramSession::setResponseObserver(ResponseObserver observer)
+{
+    m_channel->setResponseObserver(std::move(observer));
+}
+
 void TelegramSession::send(const QString &type, const TdObject &fields)
 {
-    if (m_requestObserver)
-        m_requestObserver(type, fields);
     if (type == "getChatHistory"_L1) {
         if (const auto chat = int64From(fields.value("chat_id"_L1))) {
             appendImageDiagnostic(QString::number(*chat),
@@ -155,22 +174,7 @@ void TelegramSession::send(const QString &type, const TdObject &fields)
                                       .arg(fields.value("only_local"_L1).toBool() ? "true"_L1 : "false"_L1));
         }
     }
-    if (m_requestSender) {
-        m_requestSender(type, fields);
-        return;
-    }
-    if (!m_runtime || !m_clientID)
-        return; // requests before start are dropped, not queued
-    TdObject request = fields;
-    request.insert("@type"_L1, type);
-    m_runtime->send(*m_clientID, QJsonDocument(request).toJson(QJsonDocument::Compact));
-}
-
-void TelegramSession::startClient()
-{
-    m_clientID = m_runtime->createClientID();
-    // The first request a new client receives; its answer needs no handling.
-    m_runtime->send(*m_clientID, R"({"@type":"getOption","name":"version"})"_ba);
+    m_channel->send(type, fields);
 }
 
 void TelegramSession::handleResponse(const QString &json)
@@ -179,7 +183,7 @@ void TelegramSession::handleResponse(const QString &json)
     QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     const QByteArray bytes = encoder(json);
     if (encoder.hasError()) {
-        setStartupStatus(tr("TDLib returned an unreadable response."));
+        m_authorization->setStartupStatus(tr("TDLib returned an unreadable response."));
         return;
     }
     handleResponse(bytes);
@@ -187,48 +191,17 @@ void TelegramSession::handleResponse(const QString &json)
 
 void TelegramSession::handleResponse(const QByteArray &json)
 {
-    if (m_responseObserver)
-        m_responseObserver(json);
-    // The parser rejects malformed UTF-8 (overlong forms, surrogates, bytes cut
-    // short) as it goes: a pass of our own before it cost a thirtieth of a sync.
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
-    if (parseError.error != QJsonParseError::NoError || !document.isObject()) {
-        setStartupStatus(tr("TDLib returned an unreadable response."));
+    const std::optional<TdObject> object = m_channel->read(json);
+    if (!object) {
+        m_authorization->setStartupStatus(tr("TDLib returned an unreadable response."));
         return;
     }
-    const TdObject object = document.object();
-    const QJsonValue type = object.value("@type"_L1);
-    const QString typeName = type.isString() ? type.toString() : QString();
-    // Consecutive events of one type leave the text as it is; this runs for every event.
-    if (typeName.isEmpty() || typeName != m_lastEventType) {
-        //: %1 is the name of TDLib's event, such as updateOption.
-        setStartupStatus(tr("Received TDLib event: %1").arg(type.isString() ? typeName : tr("unknown")));
-        m_lastEventType = typeName;
-    }
-    handle(object, typeName);
+    const QJsonValue type = object->value("@type"_L1);
+    m_authorization->noteEvent(type);
+    handle(*object, type.isString() ? type.toString() : QString());
 }
 
 void TelegramSession::shutDown()
 {
-    if (!m_receiveLoop)
-        return;
-    if (m_runtime && m_clientID && m_receiveLoop->isRunning() && QCoreApplication::instance()) {
-        QEventLoop waiting;
-        m_closeWait = &waiting;
-        QTimer::singleShot(closeTimeoutMs, &waiting, &QEventLoop::quit);
-        m_runtime->send(*m_clientID, R"({"@type":"close"})"_ba);
-        waiting.exec();
-        m_closeWait = nullptr;
-    }
-    m_receiveLoop.reset();
-    // TDLib registers exit handlers inside its own code: unloading it before the
-    // process ends would leave them pointing nowhere. Keep it mapped until then,
-    // in a list that is never destroyed (and that leak checkers can still see).
-    if (m_runtime) {
-        static auto *keptLoaded = new std::vector<std::shared_ptr<const TDLibRuntime>>;
-        if (std::find(keptLoaded->cbegin(), keptLoaded->cend(), m_runtime) == keptLoaded->cend())
-            keptLoaded->push_back(m_runtime);
-        m_runtime.reset();
-    }
+    m_channel->shutDown();
 }

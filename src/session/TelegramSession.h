@@ -23,14 +23,14 @@
 #include <unordered_map>
 #include <vector>
 
-class QEventLoop;
 class QTimer;
-class ReceiveLoop;
 class SoundManager;
+class Announcer;
+class AuthorizationStore;
 class ContactStore;
 class StickerStore;
+class TDLibChannel;
 class UserStore;
-class TDLibRuntime;
 
 // The application's one model object: it owns the TDLib client, follows TDLib's
 // authorization, folds every TDLib answer and update into the published state the
@@ -66,10 +66,10 @@ public:
 
     // Where TDLib is loaded from; the main bundle unless set. No bundle: start
     // reports that TDLib is not bundled.
-    void setBundle(std::optional<AppBundle> bundle) { m_bundle = std::move(bundle); }
-    void setSoundManager(const SoundManager *soundManager) { m_soundManager = soundManager; }
-    void setRequestObserver(RequestObserver observer) { m_requestObserver = std::move(observer); }
-    void setResponseObserver(ResponseObserver observer) { m_responseObserver = std::move(observer); }
+    void setBundle(std::optional<AppBundle> bundle);
+    void setSoundManager(const SoundManager *soundManager);
+    void setRequestObserver(RequestObserver observer);
+    void setResponseObserver(ResponseObserver observer);
     // The clock behind date texts; the system clock unless set.
     void setClock(Clock clock)
     {
@@ -77,15 +77,15 @@ public:
         m_todayAge.invalidate();
     }
 
-    Step step() const { return m_step; }
-    bool isReady() const { return m_step.kind() == Step::Case::Ready; }
-    std::optional<QString> errorMessage() const { return m_errorMessage; }
-    QString errorMessageText() const { return m_errorMessage.value_or(QString()); }
+    Step step() const;
+    bool isReady() const;
+    std::optional<QString> errorMessage() const;
+    QString errorMessageText() const { return errorMessage().value_or(QString()); }
     // Where the login code went; set on each "authorizationStateWaitCode".
-    CodeInfo codeInfo() const { return m_codeInfo; }
-    QString startupStatus() const { return m_startupStatus; }
-    QString currentAccountName() const { return m_currentAccountName; }
-    QString currentAccountPhoneNumber() const { return m_currentAccountPhoneNumber; }
+    CodeInfo codeInfo() const;
+    QString startupStatus() const;
+    QString currentAccountName() const;
+    QString currentAccountPhoneNumber() const;
     // TDLib's link to Telegram, as its last "updateConnectionState" told.
     ConnectionState connectionState() const { return m_connectionState; }
     // The displayed chat list, in display order.
@@ -176,6 +176,7 @@ Q_SIGNALS:
     // A file shown in a message is arriving: progress from 0 to 1.
     void downloadProgressChanged(qint64 fileID, double progress);
     void stepChanged();
+    void connectionStateChanged();
     // Each time TDLib waits for a code, even for the same number again.
     void codeInfoChanged();
     void errorMessageChanged();
@@ -191,15 +192,12 @@ Q_SIGNALS:
     void creatingConversationChanged();
     void deletingChatsChanged();
     void newlyOpenedChatIDChanged();
-    void connectionStateChanged();
 
 private:
     // Channel
     void send(const QString &type, const TdObject &fields = {});
     // How the stores send: through send, so observers see their requests too.
     SendRequest storeSender();
-    void startClient();
-    void quietTDLibLog();
     friend class ChannelTest;
     void handle(const TdObject &object, const QString &type);
 
@@ -210,12 +208,10 @@ private:
     void handleGenericError(const TdObject &error);
 
     // Authorization
-    void handleAuthorizationState(const TdObject &state);
     void completeSignIn();
     void submitTDLibParameters();
     void beginClient();
     void resetAccountState();
-    void storeCurrentUser(const TdObject &user);
 
     // Chat list
     void addOrUpdateChat(const TdObject &chat);
@@ -296,41 +292,16 @@ private:
 
     // The user's calendar day, read from the clock at most once a second.
     QDate localToday();
-
-    void setStep(const Step &step);
-    void setErrorMessage(const std::optional<QString> &message);
-    void setStartupStatus(const QString &status);
-    void setCurrentAccount(const QString &name, const QString &phoneNumber);
     void setConnectionState(ConnectionState state);
 
-    RequestSender m_requestSender;
-    RequestObserver m_requestObserver;
-    ResponseObserver m_responseObserver;
-    std::optional<AppBundle> m_bundle;
-    const SoundManager *m_soundManager;
+    TDLibChannel *m_channel;
+    std::unique_ptr<Announcer> m_announcer;
     Clock m_now;
     QDate m_today;
     QElapsedTimer m_todayAge;
 
-    // Published
-    Step m_step;
-    CodeInfo m_codeInfo;
-    std::optional<QString> m_errorMessage;
-    QString m_startupStatus;
-    QString m_lastEventType; // the event type behind the status text, when it names one
-    QString m_currentAccountName;
-    QString m_currentAccountPhoneNumber;
+    AuthorizationStore *m_authorization;
     ConnectionState m_connectionState = ConnectionState::Ready;
-
-    // TDLib
-    std::optional<qint64> m_apiID;
-    std::optional<QString> m_apiHash;
-    std::shared_ptr<const TDLibRuntime> m_runtime;
-    std::optional<int> m_clientID;
-    std::unique_ptr<ReceiveLoop> m_receiveLoop;
-    std::optional<qint64> m_currentUserID;
-    bool m_restartingAfterLogout = false;
-    QEventLoop *m_closeWait = nullptr; // set while quitting waits for the client to close
 
     // Chat list. Each listed chat has a sort key; the ordered index of those keys is
     // brought up to date, and the list materialised, only when the list is read, so

@@ -1,8 +1,14 @@
 // The session's stores on their own: what each forgets when the account changes,
 // and that each leaves answers and updates that are not its own to the others.
 
+#include "platform/SoundPlayer.h"
+#include "session/Announcer.h"
+#include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
+#include "session/Preferences.h"
+#include "session/SoundManager.h"
 #include "session/StickerStore.h"
+#include "session/TDLibChannel.h"
 #include "session/UserStore.h"
 
 #include <QSignalSpy>
@@ -74,6 +80,12 @@ TdObject answer(const QString &type, const TdObject &extra, TdObject fields = {}
     fields.insert("@extra"_L1, extra);
     return fields;
 }
+
+// The sounds as the speaker would get them.
+struct HeardSounds : SoundPlayer {
+    QStringList names;
+    void play(const QString &name) override { names.append(name); }
+};
 
 } // namespace
 
@@ -207,6 +219,141 @@ private Q_SLOTS:
                                       answer(u"chat"_s, late, {{"id"_L1, 55}, {"title"_L1, u"Cleo"_s}})));
         QCOMPARE(opened.size(), 0);
         QVERIFY(!contacts.newlyOpenedChatID());
+    }
+
+    void authorizationResetForgetsTheAccount()
+    {
+        Sent sent;
+        AuthorizationStore authorization(sent.sender());
+        QSignalSpy received(&authorization, &AuthorizationStore::currentUserReceived);
+        const TdObject ready{{"authorization_state"_L1, TdObject{{"@type"_L1, u"authorizationStateReady"_s}}}};
+        QVERIFY(authorization.handleUpdate(u"updateAuthorizationState"_s, ready, false));
+        QVERIFY(authorization.isReady());
+        const TdObject me = sent.extraOf(u"getMe"_s);
+        TdObject self = user(12, u"Ada"_s);
+        self.insert("phone_number"_L1, u"15550100"_s);
+        QVERIFY(authorization.handleAnswer(me.value("purpose"_L1).toString(), u"user"_s, answer(u"user"_s, me, self)));
+        QCOMPARE(authorization.currentAccountName(), u"Ada"_s);
+        QCOMPARE(authorization.currentAccountPhoneNumber(), u"15550100"_s);
+        QCOMPARE(authorization.currentUserID(), std::optional<qint64>(12));
+        QCOMPARE(received.size(), 1);
+
+        QSignalSpy name(&authorization, &AuthorizationStore::currentAccountNameChanged);
+        QSignalSpy phone(&authorization, &AuthorizationStore::currentAccountPhoneNumberChanged);
+        authorization.reset();
+        QVERIFY(authorization.currentAccountName().isEmpty());
+        QVERIFY(authorization.currentAccountPhoneNumber().isEmpty());
+        QVERIFY(!authorization.currentUserID());
+        QCOMPARE(name.size(), 1);
+        QCOMPARE(phone.size(), 1);
+    }
+
+    void authorizationClosesQuietlyWhileQuitting()
+    {
+        Sent sent;
+        AuthorizationStore authorization(sent.sender());
+        QSignalSpy closed(&authorization, &AuthorizationStore::clientClosed);
+        QSignalSpy left(&authorization, &AuthorizationStore::accountLeft);
+        const auto state = [](const QString &type) {
+            return TdObject{{"authorization_state"_L1, TdObject{{"@type"_L1, type}}}};
+        };
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateReady"_s), false);
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateClosing"_s), true);
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateClosed"_s), true);
+        QCOMPARE(authorization.step(), Step::ready());
+        QCOMPARE(closed.size(), 1);
+        QCOMPARE(left.size(), 0);
+        // Closed without logging out or quitting: the session is over.
+        authorization.handleUpdate(u"updateAuthorizationState"_s, state(u"authorizationStateClosed"_s), false);
+        QCOMPARE(authorization.step(), Step::unavailable(u"The Telegram session closed."_s));
+        QCOMPARE(left.size(), 0);
+    }
+
+    void authorizationLeavesOtherAnswersAlone()
+    {
+        Sent sent;
+        AuthorizationStore authorization(sent.sender());
+        QSignalSpy step(&authorization, &AuthorizationStore::stepChanged);
+        QSignalSpy received(&authorization, &AuthorizationStore::currentUserReceived);
+        const TdObject roster{{"purpose"_L1, u"contact_roster_result"_s}};
+        QVERIFY(!authorization.handleAnswer(u"contact_roster_result"_s, u"user"_s,
+                                            answer(u"user"_s, roster, user(3, u"Cleo"_s))));
+        const TdObject me{{"purpose"_L1, u"current_user"_s}};
+        QVERIFY(!authorization.handleAnswer(u"current_user"_s, u"error"_s, answer(u"error"_s, me)));
+        const TdObject wrapped{{"authorization_state"_L1, TdObject{{"@type"_L1, u"authorizationStateReady"_s}}}};
+        QVERIFY(!authorization.handleUpdate(u"updateUser"_s, wrapped, false));
+        QVERIFY(!authorization.handleUpdate(u"updateConnectionState"_s, wrapped, false));
+        // Logging out before signing in does nothing.
+        authorization.logOut();
+        QCOMPARE(authorization.step(), Step::idle());
+        QCOMPARE(step.size(), 0);
+        QCOMPARE(received.size(), 0);
+        QVERIFY(authorization.currentAccountName().isEmpty());
+        QVERIFY(sent.requests.isEmpty());
+    }
+
+    void channelShowsEveryRequestAndEventToItsObservers()
+    {
+        Sent sent;
+        TDLibChannel channel(sent.sender());
+        QStringList observed;
+        channel.setRequestObserver([&observed](const QString &type, const TdObject &) { observed.append(type); });
+        QList<QByteArray> events;
+        channel.setResponseObserver([&events](const QByteArray &json) { events.append(json); });
+        channel.send(u"getMe"_s, {{"@extra"_L1, TdObject{{"purpose"_L1, u"current_user"_s}}}});
+        QCOMPARE(observed, QStringList{u"getMe"_s});
+        QCOMPARE(sent.extraOf(u"getMe"_s).value("purpose"_L1).toString(), u"current_user"_s);
+
+        const auto read = channel.read(R"({"@type":"ok","@client_id":3})"_ba);
+        QVERIFY(read);
+        QCOMPARE(typeOf(*read), u"ok"_s);
+        // Events that are not one JSON object are seen, and read as nothing.
+        QVERIFY(!channel.read("[1]"_ba));
+        QVERIFY(!channel.read(R"({"@type":)"_ba));
+        QVERIFY(!channel.read(QByteArray()));
+        QCOMPARE(events.size(), 4);
+        // Without a client of its own, no event is from one left behind.
+        QVERIFY(!channel.isStale(*read));
+        QVERIFY(!channel.isLoaded());
+        QVERIFY(!channel.isQuitting());
+    }
+
+    void channelWithoutTDLibReportsIt()
+    {
+        TDLibChannel channel;
+        channel.setBundle(std::nullopt);
+        const std::optional<QString> error = channel.load();
+        QVERIFY(error);
+        QVERIFY(!error->isEmpty());
+        QVERIFY(!channel.isLoaded());
+        // Requests before a client exists go nowhere and break nothing.
+        channel.send(u"getMe"_s, {});
+        channel.shutDown();
+    }
+
+    void announcerKeepsQuietForOwnAndMutedMessages()
+    {
+        Preferences::shared().setSoundsEnabled(true);
+        HeardSounds heard;
+        SoundManager sounds;
+        sounds.setPlayer(&heard);
+        Announcer announcer;
+        announcer.setSoundManager(&sounds);
+        const auto message = [](bool outgoing, QJsonValue content) {
+            return TdObject{{"chat_id"_L1, 42}, {"is_outgoing"_L1, outgoing}, {"content"_L1, content}};
+        };
+        const TdObject text{{"@type"_L1, u"messageText"_s},
+                            {"text"_L1, TdObject{{"@type"_L1, u"formattedText"_s}, {"text"_L1, u"hi"_s}}}};
+        announcer.announceMessage(message(true, text), false, u"Ada"_s);
+        announcer.announceMessage(message(false, text), true, u"Ada"_s);
+        announcer.announceMessage(message(false, u"not an object"_s), false, std::nullopt);
+        announcer.announceMessage(TdObject{{"content"_L1, text}}, false, std::nullopt);
+        QVERIFY(heard.names.isEmpty());
+        announcer.announceMessage(message(false, text), false, std::nullopt);
+        QCOMPARE(heard.names.size(), 1);
+        announcer.play(SoundEvent::Failure);
+        QCOMPARE(heard.names.size(), 2);
+        QVERIFY(heard.names.at(0) != heard.names.at(1));
     }
 
     void contactsLeaveOtherAnswersAlone()
