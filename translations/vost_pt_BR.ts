@@ -2,171 +2,202 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR">
 <context>
+    <name>Announcer</name>
+    <message>
+        <source>New Telegram message</source>
+        <translation>Nova mensagem do Telegram</translation>
+    </message>
+</context>
+<context>
     <name>AppConfigurationErrorView</name>
     <message>
         <source>Vost needs to be reinstalled</source>
-        <translation type="unfinished"></translation>
+        <translation>O Vost precisa ser reinstalado</translation>
     </message>
     <message>
         <source>This copy of Vost is missing its application configuration. Please install the latest complete release from the app’s distributor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta cópia do Vost está sem a configuração do app. Instale a versão completa mais recente fornecida pelo distribuidor do app.</translation>
     </message>
 </context>
 <context>
     <name>ArchiveHeader</name>
     <message numerus="yes">
         <source>Archived chats, %n unread</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Conversas arquivadas, %n mensagem não lida</numerusform>
+            <numerusform>Conversas arquivadas, %n mensagens não lidas</numerusform>
         </translation>
     </message>
     <message>
         <source>Archived chats</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversas arquivadas</translation>
     </message>
     <message>
         <source>Back to chats</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar às conversas</translation>
+    </message>
+</context>
+<context>
+    <name>AuthorizationStore</name>
+    <message>
+        <source>Waiting to start</source>
+        <translation>Aguardando o início</translation>
+    </message>
+    <message>
+        <source>Received TDLib event: %1</source>
+        <extracomment>%1 is the name of TDLib&apos;s event, such as updateOption.</extracomment>
+        <translation>Evento da TDLib recebido: %1</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>The Telegram session is closing.</source>
+        <translation>A sessão do Telegram está sendo encerrada.</translation>
+    </message>
+    <message>
+        <source>The Telegram session closed.</source>
+        <translation>A sessão do Telegram foi encerrada.</translation>
     </message>
 </context>
 <context>
     <name>CallCard</name>
     <message>
         <source>Cancelled call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada cancelada</translation>
     </message>
     <message>
         <source>Missed call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada perdida</translation>
     </message>
     <message>
         <source>Declined call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada recusada</translation>
     </message>
     <message>
         <source>Outgoing video call</source>
-        <translation type="unfinished"></translation>
+        <translation>Videochamada efetuada</translation>
     </message>
     <message>
         <source>Incoming video call</source>
-        <translation type="unfinished"></translation>
+        <translation>Videochamada recebida</translation>
     </message>
     <message>
         <source>Outgoing call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada efetuada</translation>
     </message>
     <message>
         <source>Incoming call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada recebida</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <extracomment>A call read aloud: %1 what kind of call, %2 how long it lasted.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>ChatLayout</name>
     <message>
         <source>Chats</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversas</translation>
     </message>
     <message>
         <source>Delete the chat with %1 and remove them from your contacts?</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar a conversa e remover %1 dos seus contatos?</translation>
     </message>
     <message>
         <source>Delete the chat “%1”?</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar a conversa “%1”?</translation>
     </message>
     <message>
         <source>Delete</source>
         <extracomment>A verb: the button that confirms deleting the chat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Apagar</translation>
     </message>
 </context>
 <context>
     <name>ChatListView</name>
     <message>
         <source>Sidebar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra lateral</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Chat list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de conversas</translation>
     </message>
     <message>
         <source>Scroll chats</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar conversas</translation>
     </message>
     <message>
         <source>No results</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum resultado</translation>
     </message>
     <message>
         <source>No chats yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma conversa ainda</translation>
     </message>
 </context>
 <context>
     <name>ChatMenu</name>
     <message>
         <source>Chat actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ações da conversa</translation>
     </message>
     <message>
         <source>Delete chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar conversa</translation>
     </message>
     <message>
         <source>Delete chat and contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar conversa e contato</translation>
     </message>
 </context>
 <context>
     <name>ChatRow</name>
     <message>
         <source>Deleting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagando…</translation>
     </message>
     <message>
         <source>Draft: %1</source>
         <extracomment>%1 is the start of the unsent text of the chat.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rascunho: %1</translation>
     </message>
     <message>
         <source>secret chat</source>
         <extracomment>Read aloud after a chat&apos;s title, like the other states of a chat here.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>chat secreto</translation>
     </message>
     <message>
         <source>pinned</source>
-        <translation type="unfinished"></translation>
+        <translation>fixada</translation>
     </message>
     <message>
         <source>muted</source>
-        <translation type="unfinished"></translation>
+        <translation>silenciada</translation>
     </message>
     <message>
         <source>archived</source>
-        <translation type="unfinished"></translation>
+        <translation>arquivada</translation>
     </message>
     <message numerus="yes">
         <source>%n unread</source>
         <extracomment>How many messages of the chat are unread.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mensagem não lida</numerusform>
+            <numerusform>%n mensagens não lidas</numerusform>
         </translation>
     </message>
     <message>
         <source>marked unread</source>
-        <translation type="unfinished"></translation>
+        <translation>marcada como não lida</translation>
     </message>
 </context>
 <context>
@@ -174,45 +205,70 @@
     <message>
         <source>Pasted image %1.png</source>
         <extracomment>The file name of a pasted image; %1 is a short random code.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Imagem colada %1.png</translation>
+    </message>
+</context>
+<context>
+    <name>CodeBlock</name>
+    <message>
+        <source>Copy</source>
+        <extracomment>A button on a block of code in a message: copies the code.</extracomment>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copies the %1 code</source>
+        <translation>Copia o código %1</translation>
+    </message>
+    <message>
+        <source>Copies the code</source>
+        <translation>Copia o código</translation>
+    </message>
+    <message>
+        <source>%1 code: %2</source>
+        <extracomment>How screen readers name a block of code in a message; %1 is the code.</extracomment>
+        <translation>Código %1: %2</translation>
+    </message>
+    <message>
+        <source>Code: %1</source>
+        <translation>Código: %1</translation>
     </message>
 </context>
 <context>
     <name>Composer</name>
     <message>
         <source>Composer</source>
-        <translation type="unfinished"></translation>
+        <translation>Caixa de mensagem</translation>
     </message>
     <message>
         <source>Attach</source>
         <extracomment>A verb: the button that adds files.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Anexar</translation>
     </message>
     <message>
         <source>Scroll message text</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar texto da mensagem</translation>
     </message>
     <message>
         <source>Message</source>
         <extracomment>A noun: the text being written.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem</translation>
     </message>
     <message>
         <source>Emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>Emoji</translation>
     </message>
     <message>
         <source>Stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Figurinhas</translation>
     </message>
     <message>
         <source>Save</source>
         <extracomment>The send button while a message is edited: a verb.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Send</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar</translation>
     </message>
 </context>
 <context>
@@ -220,255 +276,273 @@
     <message>
         <source>%1: %2</source>
         <extracomment>The banner above the composer read aloud: %1 its title, %2 the quoted message.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Edit message</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar mensagem</translation>
     </message>
     <message>
         <source>Reply to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Responder a %1</translation>
     </message>
     <message>
         <source>Cancel editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar edição</translation>
     </message>
     <message>
         <source>Cancel reply</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar resposta</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionStatus</name>
+    <message>
+        <source>Waiting for network…</source>
+        <extracomment>Above the chat list while the computer has no network connection</extracomment>
+        <translation>Aguardando rede…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <extracomment>Above the chat list while the link to Telegram is being made</extracomment>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Updating…</source>
+        <extracomment>Above the chat list while what happened offline is being fetched</extracomment>
+        <translation>Atualizando…</translation>
     </message>
 </context>
 <context>
     <name>ContactCard</name>
     <message>
         <source>Contact %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Contato %1, %2</translation>
     </message>
     <message>
         <source>Message</source>
         <extracomment>A verb: write to the person on the card.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Enviar mensagem</translation>
     </message>
 </context>
 <context>
     <name>ContactMenu</name>
     <message>
         <source>Contact actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ações do contato</translation>
     </message>
     <message>
         <source>Message</source>
         <extracomment>A verb: write to this contact.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Enviar mensagem</translation>
     </message>
     <message>
         <source>Delete contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar contato</translation>
     </message>
 </context>
 <context>
     <name>ContactRow</name>
     <message>
         <source>%1, online</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, online</translation>
     </message>
     <message>
         <source>online</source>
         <extracomment>Said of a contact who is using Telegram right now.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>online</translation>
     </message>
 </context>
 <context>
     <name>ContactStore</name>
     <message>
         <source>Telegram returned an unknown error.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram retornou um erro desconhecido.</translation>
     </message>
     <message>
         <source>Telegram took too long to respond. A submitted contact may already be saved. Check Contacts or try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram demorou demais para responder. O contato enviado talvez já tenha sido salvo. Verifique os Contatos ou tente novamente.</translation>
     </message>
     <message>
         <source>Enter a first name. First and last names can each contain up to 64 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um nome. O nome e o sobrenome podem ter até 64 caracteres cada.</translation>
     </message>
     <message>
         <source>Enter a valid phone number including + and the country code (for example, +44 7700 900123).</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um número de telefone válido com + e o código do país (por exemplo, +44 7700 900123).</translation>
     </message>
     <message>
         <source>Enter a Telegram username, such as @username, using letters, numbers and underscores.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um nome de usuário do Telegram, como @usuario, usando letras, números e sublinhados.</translation>
     </message>
     <message>
         <source>The contact was saved, but the chat could not be opened. Try opening it from Contacts.</source>
-        <translation type="unfinished"></translation>
+        <translation>O contato foi salvo, mas não foi possível abrir a conversa. Tente abri-la pelos Contatos.</translation>
     </message>
     <message>
         <source>No Telegram account could be found for that number. Check the country code or try their username; Telegram privacy settings can prevent phone-number lookup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma conta do Telegram foi encontrada para esse número. Verifique o código do país ou tente o nome de usuário; as configurações de privacidade do Telegram podem impedir a busca por número de telefone.</translation>
     </message>
     <message>
         <source>Telegram could not complete this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram não conseguiu concluir esta ação.</translation>
     </message>
     <message>
         <source>The chat was deleted, but the contact could not be removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A conversa foi apagada, mas não foi possível remover o contato.</translation>
     </message>
     <message>
         <source>Telegram contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Contato do Telegram</translation>
     </message>
 </context>
 <context>
     <name>ContentTexts</name>
     <message>
         <source>📷 Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>📷 Foto</translation>
     </message>
     <message>
         <source>Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>🎬 Video</source>
-        <translation type="unfinished"></translation>
+        <translation>🎬 Vídeo</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>🎤 Voice message</source>
-        <translation type="unfinished"></translation>
+        <translation>🎤 Mensagem de voz</translation>
     </message>
     <message>
         <source>Voice message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem de voz</translation>
     </message>
     <message>
         <source>Video message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem de vídeo</translation>
     </message>
     <message>
         <source>Sticker</source>
-        <translation type="unfinished"></translation>
+        <translation>Figurinha</translation>
     </message>
     <message>
         <source>Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animação</translation>
     </message>
     <message>
         <source>📎 Document</source>
-        <translation type="unfinished"></translation>
+        <translation>📎 Documento</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento</translation>
     </message>
     <message>
         <source>🎵 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>🎵 Áudio</translation>
     </message>
     <message>
         <source>Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Áudio</translation>
     </message>
     <message>
         <source>Call</source>
-        <translation type="unfinished"></translation>
+        <translation>Chamada</translation>
     </message>
     <message>
         <source>📍 Location</source>
-        <translation type="unfinished"></translation>
+        <translation>📍 Localização</translation>
     </message>
     <message>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Contato</translation>
     </message>
     <message>
         <source>Poll</source>
-        <translation type="unfinished"></translation>
+        <translation>Enquete</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem</translation>
     </message>
     <message>
         <source>Emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>Emoji</translation>
     </message>
     <message>
         <source>Unsupported message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem não suportada</translation>
     </message>
     <message>
         <source>No messages yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma mensagem ainda</translation>
     </message>
     <message>
         <source>Private conversation</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversa privada</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Group or channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo ou canal</translation>
     </message>
     <message>
         <source>Secret chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Chat secreto</translation>
     </message>
 </context>
 <context>
     <name>ConversationView</name>
     <message>
         <source>Conversation with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversa com %1</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagens</translation>
     </message>
     <message>
         <source>Scroll messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar mensagens</translation>
     </message>
     <message>
         <source>Loading older messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando mensagens anteriores</translation>
     </message>
     <message>
         <source>Start of the conversation</source>
-        <translation type="unfinished"></translation>
+        <translation>Início da conversa</translation>
     </message>
     <message>
         <source>Delete this message for everyone?</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar esta mensagem para todos?</translation>
     </message>
     <message>
         <source>Delete</source>
         <extracomment>A verb: the button that confirms deleting the message.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Apagar</translation>
     </message>
 </context>
 <context>
     <name>DateTexts</name>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontem</translation>
     </message>
 </context>
 <context>
@@ -476,29 +550,29 @@
     <message>
         <source>%1 rolled %2</source>
         <extracomment>%1 is the die&apos;s emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: resultado %2</translation>
     </message>
 </context>
 <context>
     <name>DocumentCard</name>
     <message>
         <source>Document %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento %1, %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>How much of the file has come and its whole size, as in &quot;1.2 MB of 5 MB&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>A verb: open the file with its application.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Save</source>
         <extracomment>A verb: save the file to a folder.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
 </context>
 <context>
@@ -506,86 +580,86 @@
     <message>
         <source>Downloading, %1 %</source>
         <extracomment>%1 is how much has come, in percent.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Baixando, %1 %</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixando</translation>
     </message>
 </context>
 <context>
     <name>EmojiPicker</name>
     <message>
         <source>Emoji picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Seletor de emojis</translation>
     </message>
     <message>
         <source>Recent</source>
         <extracomment>Emoji sent lately.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Recentes</translation>
     </message>
     <message>
         <source>Smileys &amp; Emotion</source>
-        <translation type="unfinished"></translation>
+        <translation>Carinhas e emoções</translation>
     </message>
     <message>
         <source>People &amp; Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Pessoas e corpo</translation>
     </message>
     <message>
         <source>Animals &amp; Nature</source>
-        <translation type="unfinished"></translation>
+        <translation>Animais e natureza</translation>
     </message>
     <message>
         <source>Food &amp; Drink</source>
-        <translation type="unfinished"></translation>
+        <translation>Comidas e bebidas</translation>
     </message>
     <message>
         <source>Travel &amp; Places</source>
-        <translation type="unfinished"></translation>
+        <translation>Viagens e lugares</translation>
     </message>
     <message>
         <source>Activities</source>
-        <translation type="unfinished"></translation>
+        <translation>Atividades</translation>
     </message>
     <message>
         <source>Objects</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetos</translation>
     </message>
     <message>
         <source>Symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>Símbolos</translation>
     </message>
     <message>
         <source>Flags</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandeiras</translation>
     </message>
     <message>
         <source>Search emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar emoji</translation>
     </message>
     <message>
         <source>Emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>Emoji</translation>
     </message>
     <message>
         <source>Scroll emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar emojis</translation>
     </message>
     <message>
         <source>No emoji found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum emoji encontrado</translation>
     </message>
 </context>
 <context>
     <name>EmptyConversationView</name>
     <message>
         <source>Conversation</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversa</translation>
     </message>
     <message>
         <source>Choose a Telegram chat or contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha uma conversa ou um contato do Telegram.</translation>
     </message>
 </context>
 <context>
@@ -593,108 +667,116 @@
     <message>
         <source>Dismiss</source>
         <extracomment>A verb: close the error message.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
     <name>ErrorTexts</name>
     <message>
         <source>That phone number isn’t valid. Enter it with + and the country code, for example +44 7700 900123.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esse número de telefone não é válido. Digite-o com + e o código do país, por exemplo, +44 7700 900123.</translation>
     </message>
     <message>
         <source>This phone number is banned from Telegram.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este número de telefone está banido do Telegram.</translation>
     </message>
     <message>
         <source>This number has asked for too many codes. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este número solicitou códigos demais. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>This number has no Telegram account yet. Sign up in Telegram’s phone app first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este número ainda não tem uma conta no Telegram. Cadastre-se primeiro no app do Telegram para celular.</translation>
     </message>
     <message>
         <source>That code isn’t right. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Código incorreto. Confira e tente novamente.</translation>
     </message>
     <message>
         <source>Enter the code Telegram sent you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o código que o Telegram enviou para você.</translation>
     </message>
     <message>
         <source>That code has expired. Use a different number, or enter this one again for a new code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esse código expirou. Use outro número ou digite este novamente para receber um novo código.</translation>
     </message>
     <message>
         <source>That password isn’t right. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Senha incorreta. Tente novamente.</translation>
     </message>
     <message>
         <source>Enter your two-step verification password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite sua senha da verificação em duas etapas.</translation>
     </message>
     <message>
         <source>Too many attempts. Wait a while, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muitas tentativas. Aguarde um pouco e tente novamente.</translation>
     </message>
     <message>
         <source>Signing in has to start again. Enter your number once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>É preciso recomeçar o login. Digite seu número novamente.</translation>
     </message>
     <message>
         <source>Telegram refused this copy of Vost. Install the latest release.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram recusou esta cópia do Vost. Instale a versão mais recente.</translation>
     </message>
     <message>
         <source>Nobody on Telegram has that username.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguém no Telegram tem esse nome de usuário.</translation>
     </message>
     <message>
         <source>That isn’t a valid username. Usernames use letters, numbers and underscores.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esse nome de usuário não é válido. Nomes de usuário usam letras, números e sublinhados.</translation>
     </message>
     <message>
         <source>Enter a first name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um nome.</translation>
     </message>
     <message>
         <source>That first name can’t be used. Try a shorter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esse nome não pode ser usado. Tente um mais curto.</translation>
     </message>
     <message>
         <source>That last name can’t be used. Try a shorter one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esse sobrenome não pode ser usado. Tente um mais curto.</translation>
     </message>
     <message>
         <source>Their privacy settings don’t allow this. Try their username instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>As configurações de privacidade dessa pessoa não permitem isso. Tente usar o nome de usuário.</translation>
     </message>
     <message>
         <source>That person can’t be added as a contact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Essa pessoa não pode ser adicionada como contato.</translation>
     </message>
 </context>
 <context>
     <name>FilePanel</name>
     <message>
         <source>Attach files</source>
-        <translation type="unfinished"></translation>
+        <translation>Anexar arquivos</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
 </context>
 <context>
     <name>Formats</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoje</translation>
     </message>
     <message>
         <source>Yesterday</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontem</translation>
+    </message>
+</context>
+<context>
+    <name>FormattedBody</name>
+    <message>
+        <source>Links to %1</source>
+        <extracomment>The addresses behind the links of a message&apos;s text, for screen readers.</extracomment>
+        <translation>Leva a %1</translation>
     </message>
 </context>
 <context>
@@ -702,129 +784,129 @@
     <message>
         <source>Forward to</source>
         <extracomment>The title of the list of chats a message can be forwarded to.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Encaminhar para</translation>
     </message>
     <message>
         <source>Search chats</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar conversas</translation>
     </message>
     <message>
         <source>Chats to forward to</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversas de destino</translation>
     </message>
     <message>
         <source>Scroll chats to forward to</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar conversas de destino</translation>
     </message>
     <message>
         <source>No results</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum resultado</translation>
     </message>
 </context>
 <context>
     <name>LocationCard</name>
     <message>
         <source>Location %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Localização %1</translation>
     </message>
     <message>
         <source>Open map</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir mapa</translation>
     </message>
 </context>
 <context>
     <name>LoginPresenter</name>
     <message>
         <source>We’ve sent the code for %1 to the Telegram app on your other device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviamos o código do número %1 para o app do Telegram no seu outro dispositivo.</translation>
     </message>
     <message>
         <source>We’ve sent the code to %1 by SMS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviamos o código para %1 por SMS.</translation>
     </message>
     <message>
         <source>Telegram is calling %1 to tell you the code.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram está ligando para %1 para informar o código.</translation>
     </message>
     <message>
         <source>Telegram is calling %1: the last digits of the calling number are the code.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram está ligando para %1: os últimos dígitos do número que está ligando são o código.</translation>
     </message>
     <message>
         <source>The code for %1 is waiting on fragment.com.</source>
-        <translation type="unfinished"></translation>
+        <translation>O código do número %1 está disponível em fragment.com.</translation>
     </message>
     <message>
         <source>The code for %1 was sent to Telegram on your phone.</source>
-        <translation type="unfinished"></translation>
+        <translation>O código do número %1 foi enviado para o Telegram no seu celular.</translation>
     </message>
     <message>
         <source>The code was sent for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>O código do número %1 foi enviado.</translation>
     </message>
 </context>
 <context>
     <name>LoginTexts</name>
     <message>
         <source>Preparing Telegram</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando o Telegram</translation>
     </message>
     <message>
         <source>Starting the secure TDLib connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando a conexão segura com a TDLib…</translation>
     </message>
     <message>
         <source>Sign in to Telegram</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrar no Telegram</translation>
     </message>
     <message>
         <source>Enter the telephone number associated with your Telegram account, including its international country code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite o número de telefone associado à sua conta do Telegram, incluindo o código internacional do país.</translation>
     </message>
     <message>
         <source>Telephone number, including country code</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de telefone, com o código do país</translation>
     </message>
     <message>
         <source>Enter your verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite seu código de verificação</translation>
     </message>
     <message>
         <source>Telegram sent a code to one of your existing Telegram sessions or by another supported method.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram enviou um código para uma das suas sessões ativas do Telegram ou por outro método compatível.</translation>
     </message>
     <message>
         <source>Telegram verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código de verificação do Telegram</translation>
     </message>
     <message>
         <source>Two-step verification</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificação em duas etapas</translation>
     </message>
     <message>
         <source>Your account uses an additional password. Enter it to complete sign-in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sua conta usa uma senha adicional. Digite-a para concluir o login.</translation>
     </message>
     <message>
         <source>Two-step verification password</source>
-        <translation type="unfinished"></translation>
+        <translation>Senha da verificação em duas etapas</translation>
     </message>
     <message>
         <source>Telegram is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram está indisponível</translation>
     </message>
     <message>
         <source>The app could not start its Telegram connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>O app não conseguiu iniciar a conexão com o Telegram.</translation>
     </message>
     <message>
         <source>Hint: %1</source>
         <extracomment>The two-step password&apos;s hint, as its owner wrote it.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dica: %1</translation>
     </message>
     <message>
         <source>Verification codes and passwords are sent directly to TDLib and are never saved by this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Códigos de verificação e senhas são enviados diretamente para a TDLib e nunca são salvos por este app.</translation>
     </message>
 </context>
 <context>
@@ -832,196 +914,204 @@
     <message>
         <source>sending</source>
         <extracomment>A message&apos;s delivery state, read aloud after its time; the next two as well.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>enviando</translation>
     </message>
     <message>
         <source>read</source>
-        <translation type="unfinished"></translation>
+        <translation>lida</translation>
     </message>
     <message>
         <source>sent</source>
-        <translation type="unfinished"></translation>
+        <translation>enviada</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>A message read aloud: %1 is its sender, %2 what it says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>You</source>
-        <translation type="unfinished"></translation>
+        <translation>Você</translation>
     </message>
     <message>
         <source>edited</source>
         <extracomment>Said of a message that was changed after it was sent.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>editada</translation>
     </message>
     <message>
         <source>%1 %2, yours</source>
         <extracomment>A reaction read aloud: %1 is its emoji, %2 how many reacted with it; you did too.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2, incluindo você</translation>
     </message>
     <message>
         <source>Unread messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagens não lidas</translation>
     </message>
     <message>
         <source>More</source>
         <extracomment>The button that opens a message&apos;s actions.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mais</translation>
     </message>
     <message>
         <source>Forwarded from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Encaminhada de %1</translation>
     </message>
     <message>
         <source>Link preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prévia do link: %1</translation>
     </message>
     <message>
         <source>edited  %1</source>
         <extracomment>An edited message&apos;s time; %1 is the time, such as 14:05.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>editada  %1</translation>
     </message>
 </context>
 <context>
     <name>MessageListModel</name>
     <message>
         <source>Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>GIF</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo</translation>
     </message>
 </context>
 <context>
     <name>MessageMenu</name>
     <message>
         <source>Message actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ações da mensagem</translation>
     </message>
     <message>
         <source>Reactions</source>
-        <translation type="unfinished"></translation>
+        <translation>Reações</translation>
     </message>
     <message>
         <source>Reply</source>
         <extracomment>Verbs: the actions of the message menu, down to Delete.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Responder</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Encaminhar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar</translation>
+    </message>
+</context>
+<context>
+    <name>MessageText</name>
+    <message>
+        <source>hidden text</source>
+        <extracomment>Read by screen readers in place of a spoiler, a part of a message hidden until clicked.</extracomment>
+        <translation>texto oculto</translation>
     </message>
 </context>
 <context>
     <name>NewChatView</name>
     <message>
         <source>New chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova conversa</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar</translation>
     </message>
     <message>
         <source>Search contacts</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar contatos</translation>
     </message>
     <message>
         <source>Contacts</source>
-        <translation type="unfinished"></translation>
+        <translation>Contatos</translation>
     </message>
     <message>
         <source>Scroll contacts</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar contatos</translation>
     </message>
     <message>
         <source>Found by Telegram</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrados no Telegram</translation>
     </message>
     <message>
         <source>No contacts found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum contato encontrado</translation>
     </message>
     <message>
         <source>No contacts yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum contato ainda</translation>
     </message>
     <message>
         <source>Remove %1 from your contacts?</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover %1 dos seus contatos?</translation>
     </message>
     <message>
         <source>Delete contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Apagar contato</translation>
     </message>
 </context>
 <context>
     <name>NewContactForms</name>
     <message>
         <source>Add contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar contato</translation>
     </message>
     <message>
         <source>First name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Last name</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrenome</translation>
     </message>
     <message>
         <source>Phone number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de telefone</translation>
     </message>
     <message>
         <source>Note</source>
         <extracomment>A noun: a private note about the new contact.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Observação</translation>
     </message>
     <message>
         <source>Open username</source>
         <extracomment>A form&apos;s title: open a chat by someone&apos;s public username.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Abrir por nome de usuário</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome de usuário</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>A verb: the button that opens the chat with that username.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Opening the chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrindo a conversa</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1029,74 +1119,74 @@
     <message>
         <source>↓</source>
         <extracomment>An arrow glyph pointing down, to the newest message; not a word.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>↓</translation>
     </message>
     <message numerus="yes">
         <source>Go to newest message, %n new</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ir para a mensagem mais recente, %n nova</numerusform>
+            <numerusform>Ir para a mensagem mais recente, %n novas</numerusform>
         </translation>
     </message>
     <message>
         <source>Go to newest message</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir para a mensagem mais recente</translation>
     </message>
 </context>
 <context>
     <name>PendingStrip</name>
     <message>
         <source>Files to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos para enviar</translation>
     </message>
     <message>
         <source>Scroll files to send</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar arquivos para enviar</translation>
     </message>
     <message>
         <source>Photo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto %1</translation>
     </message>
     <message>
         <source>Document %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento %1, %2</translation>
     </message>
     <message>
         <source>Remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover %1</translation>
     </message>
     <message>
         <source>Send as file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar como arquivo</translation>
     </message>
     <message>
         <source>%1 is empty and can’t be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está vazio e não pode ser enviado.</translation>
     </message>
     <message>
         <source>%1 is a folder; choose the files in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 é uma pasta; escolha os arquivos dentro dela.</translation>
     </message>
     <message>
         <source>%1 is larger than 2 GB, more than Telegram takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tem mais de 2 GB, acima do limite do Telegram.</translation>
     </message>
     <message>
         <source>%1 can’t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler %1.</translation>
     </message>
 </context>
 <context>
     <name>PhotoAlbum</name>
     <message>
         <source>Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message numerus="yes">
         <source>Album, %n photos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Álbum, %n foto</numerusform>
+            <numerusform>Álbum, %n fotos</numerusform>
         </translation>
     </message>
 </context>
@@ -1104,79 +1194,79 @@
     <name>PhotoViewer</name>
     <message>
         <source>Photo viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizador de fotos</translation>
     </message>
     <message>
         <source>Photo %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto %1 de %2</translation>
     </message>
     <message>
         <source>Video %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo %1 de %2</translation>
     </message>
     <message>
         <source>Previous</source>
         <extracomment>The previous picture of the album.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>Next</source>
         <extracomment>The next picture of the album.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Próxima</translation>
     </message>
     <message>
         <source>Save</source>
         <extracomment>A verb: save the picture to a folder.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Open</source>
         <extracomment>A verb: open the picture with its application.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>The picture shown and how many the album has, as in &quot;2 of 5&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
     <name>PollCard</name>
     <message>
         <source>Quiz</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiz</translation>
     </message>
     <message>
         <source>Anonymous poll</source>
-        <translation type="unfinished"></translation>
+        <translation>Enquete anônima</translation>
     </message>
     <message>
         <source>Poll</source>
-        <translation type="unfinished"></translation>
+        <translation>Enquete</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1, closed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, votação encerrada</translation>
     </message>
     <message>
         <source>%1, %2 %</source>
         <extracomment>A poll&apos;s answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 %</translation>
     </message>
     <message numerus="yes">
         <source>%n vote(s)</source>
         <extracomment>How many people voted in the poll.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n voto</numerusform>
+            <numerusform>%n votos</numerusform>
         </translation>
     </message>
 </context>
@@ -1184,145 +1274,145 @@
     <name>PreferencesView</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltar</translation>
     </message>
     <message>
         <source>Scroll preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar preferências</translation>
     </message>
     <message>
         <source>Appearance</source>
         <extracomment>Titles of the preferences&apos; sections.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aparência</translation>
     </message>
     <message>
         <source>System</source>
         <extracomment>The appearance that follows the system&apos;s light or dark setting.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Escuro</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sons</translation>
     </message>
     <message>
         <source>Play sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir sons</translation>
     </message>
     <message>
         <source>Sound pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Pacote de sons</translation>
     </message>
     <message>
         <source>Crystal</source>
         <extracomment>Names of the sound packs.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Cristal</translation>
     </message>
     <message>
         <source>Gentle</source>
-        <translation type="unfinished"></translation>
+        <translation>Suave</translation>
     </message>
     <message>
         <source>Classic</source>
-        <translation type="unfinished"></translation>
+        <translation>Clássico</translation>
     </message>
     <message>
         <source>Playful</source>
-        <translation type="unfinished"></translation>
+        <translation>Divertido</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Notificações</translation>
     </message>
     <message>
         <source>Show notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar notificações</translation>
     </message>
     <message>
         <source>Start Vost when I sign in to my computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar o Vost quando eu entrar no computador</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta</translation>
     </message>
     <message>
         <source>Change account</source>
         <extracomment>A verb: sign out and sign in to another account.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Trocar de conta</translation>
     </message>
     <message>
         <source>Demo account: nothing leaves this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta de demonstração: nada sai deste computador</translation>
     </message>
     <message>
         <source>Vost %1</source>
         <extracomment>%1 is the version, such as 0.1.0.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vost %1</translation>
     </message>
     <message>
         <source>Sign out of this account and sign in to another?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair desta conta e entrar em outra?</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>System</source>
         <comment>language</comment>
         <extracomment>The language that follows the system&apos;s own.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
 </context>
 <context>
     <name>ReplyQuote</name>
     <message>
         <source>You</source>
-        <translation type="unfinished"></translation>
+        <translation>Você</translation>
     </message>
     <message>
         <source>Message not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem não encontrada</translation>
     </message>
     <message>
         <source>Reply to %1: %2</source>
         <extracomment>A quoted message read aloud: %1 is its sender, %2 what it says.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Em resposta a %1: %2</translation>
     </message>
     <message>
         <source>a message</source>
-        <translation type="unfinished"></translation>
+        <translation>uma mensagem</translation>
     </message>
 </context>
 <context>
     <name>SidebarToolbar</name>
     <message>
         <source>New chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova conversa</translation>
     </message>
     <message>
         <source>New chat (Ctrl+N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nova conversa (Ctrl+N)</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências</translation>
     </message>
     <message>
         <source>Preferences (Ctrl+,)</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências (Ctrl+,)</translation>
     </message>
 </context>
 <context>
@@ -1330,265 +1420,255 @@
     <message numerus="yes">
         <source>Vost, %n unread messages</source>
         <extracomment>The tray icon&apos;s accessible name.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vost, %n mensagem não lida</numerusform>
+            <numerusform>Vost, %n mensagens não lidas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Waiting for network…</source>
+        <extracomment>The tray item&apos;s tool tip while the computer has no network connection</extracomment>
+        <translation>Aguardando rede…</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <extracomment>The tray item&apos;s tool tip while the link to Telegram is being made</extracomment>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Updating…</source>
+        <extracomment>The tray item&apos;s tool tip while what happened offline is being fetched</extracomment>
+        <translation>Atualizando…</translation>
     </message>
 </context>
 <context>
     <name>StickerPicker</name>
     <message>
         <source>Sticker picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Seletor de figurinhas</translation>
     </message>
     <message>
         <source>Recent</source>
         <extracomment>Tabs of the sticker picker: stickers sent lately, then installed, then popular ones.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Recentes</translation>
     </message>
     <message>
         <source>Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>Instaladas</translation>
     </message>
     <message>
         <source>Trending</source>
-        <translation type="unfinished"></translation>
+        <translation>Em alta</translation>
     </message>
     <message>
         <source>Search stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar figurinhas</translation>
     </message>
     <message>
         <source>Stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Figurinhas</translation>
     </message>
     <message>
         <source>Scroll stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar figurinhas</translation>
     </message>
     <message>
         <source>Sticker %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Figurinha %1</translation>
     </message>
     <message>
         <source>No stickers found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma figurinha encontrada</translation>
     </message>
     <message>
         <source>No stickers here yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma figurinha aqui ainda</translation>
     </message>
     <message>
         <source>Loading stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando figurinhas</translation>
     </message>
 </context>
 <context>
     <name>StickerStore</name>
     <message>
         <source>Unable to load stickers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar as figurinhas.</translation>
     </message>
 </context>
 <context>
     <name>StickerView</name>
     <message>
         <source>Sticker %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Figurinha %1</translation>
     </message>
 </context>
 <context>
     <name>TDLibRuntime</name>
     <message>
         <source>TDLib is not bundled in this build.</source>
-        <translation type="unfinished"></translation>
+        <translation>A TDLib não está incluída nesta versão.</translation>
     </message>
     <message>
         <source>TDLib could not be loaded: %1</source>
         <extracomment>%1 is the system loader&apos;s own message.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar a TDLib: %1</translation>
     </message>
     <message>
         <source>TDLib is missing the required function %1.</source>
         <extracomment>%1 is the name of a function of TDLib&apos;s library, such as td_create_client_id.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>A função obrigatória %1 não foi encontrada na TDLib.</translation>
     </message>
 </context>
 <context>
     <name>TelegramLoginView</name>
     <message>
         <source>Sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrar</translation>
     </message>
     <message>
         <source>Login Information</source>
         <extracomment>The group of fields where the sign-in details are typed.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dados de login</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar</translation>
     </message>
     <message>
         <source>Use a different number</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar outro número</translation>
     </message>
 </context>
 <context>
     <name>TelegramSession</name>
     <message>
         <source>Loading the bundled TDLib library…</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando a biblioteca TDLib incluída…</translation>
     </message>
     <message>
         <source>TDLib loaded; creating a client…</source>
-        <translation type="unfinished"></translation>
+        <translation>TDLib carregada; criando um cliente…</translation>
     </message>
     <message>
         <source>Client created; waiting for TDLib’s first event…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The Telegram session is closing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The Telegram session closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliente criado; aguardando o primeiro evento da TDLib…</translation>
     </message>
     <message>
         <source>Unable to refresh chats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar as conversas.</translation>
     </message>
     <message>
         <source>Telegram returned an unknown error.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Telegram retornou um erro desconhecido.</translation>
     </message>
     <message>
         <source>You</source>
         <extracomment>The sender&apos;s name on one&apos;s own messages.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>New Telegram message</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Waiting to start</source>
-        <translation type="unfinished"></translation>
+        <translation>Você</translation>
     </message>
     <message>
         <source>TDLib returned an unreadable response.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Received TDLib event: %1</source>
-        <extracomment>%1 is the name of TDLib&apos;s event, such as updateOption.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>A TDLib retornou uma resposta ilegível.</translation>
     </message>
     <message>
         <source>Online</source>
-        <translation type="unfinished"></translation>
+        <translation>Online</translation>
     </message>
     <message>
         <source>Private conversation</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversa privada</translation>
     </message>
 </context>
 <context>
     <name>TranscriptPlaceholder</name>
     <message>
         <source>No messages here yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma mensagem aqui ainda.</translation>
     </message>
     <message>
         <source>Loading messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando mensagens</translation>
     </message>
 </context>
 <context>
     <name>UserStore</name>
     <message>
         <source>Telegram user</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuário do Telegram</translation>
     </message>
     <message>
         <source>Typing…</source>
         <extracomment>The chat&apos;s subtitle while the other person types.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Digitando…</translation>
     </message>
     <message>
         <source>%1 is typing…</source>
         <extracomment>A group&apos;s subtitle while a member types; %1 is the member&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 está digitando…</translation>
     </message>
     <message>
         <source>Someone</source>
-        <translation type="unfinished"></translation>
+        <translation>Alguém</translation>
     </message>
 </context>
 <context>
     <name>VideoPlayer</name>
     <message>
         <source>GIF</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF</translation>
     </message>
     <message>
         <source>Video, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo, %1</translation>
     </message>
 </context>
 <context>
     <name>VoicePlayer</name>
     <message>
         <source>Audio %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Áudio %1, %2</translation>
     </message>
     <message>
         <source>Voice message, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem de voz, %1</translation>
     </message>
     <message>
         <source>Pause</source>
         <extracomment>Verbs: the voice message&apos;s play button.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <extracomment>The time played and the whole length, as in &quot;0:12 of 1:05&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
     <name>VostApp</name>
     <message>
         <source>A compact Telegram client for the system tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um cliente compacto do Telegram para a bandeja do sistema.</translation>
     </message>
     <message>
         <source>Use the offline demo account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar a conta de demonstração offline.</translation>
     </message>
     <message>
         <source>Another Vost is still closing or not answering. Start Vost again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Outra instância do Vost ainda está fechando ou não responde. Abra o Vost novamente daqui a pouco.</translation>
     </message>
     <message>
         <source>Open Vost</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir o Vost</translation>
     </message>
     <message>
         <source>Quit Vost</source>
-        <translation type="unfinished"></translation>
+        <translation>Sair do Vost</translation>
     </message>
 </context>
 </TS>
