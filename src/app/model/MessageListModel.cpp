@@ -223,13 +223,6 @@ int MessageListModel::rowOf(const QString &messageID) const
     return -1;
 }
 
-int MessageListModel::dividerRow() const
-{
-    const auto row =
-        std::find_if(m_rows.cbegin(), m_rows.cend(), [](const Row &candidate) { return candidate.showsUnreadDivider; });
-    return row == m_rows.cend() ? -1 : int(row - m_rows.cbegin());
-}
-
 QVariantList MessageListModel::media() const
 {
     QVariantList found;

@@ -99,8 +99,6 @@ public:
     QString chatID() const { return m_chatID; }
     // The row showing the message (an album's row for any of its messages), or -1.
     Q_INVOKABLE int rowOf(const QString &messageID) const;
-    // The row that shows the unread divider above its message, or -1.
-    Q_INVOKABLE int dividerRow() const;
     // The photos and videos of the loaded messages whose files are here, oldest
     // first, for the viewer: messageID, path, kind (MessageContent.Kind), fileName
     // and saveName.

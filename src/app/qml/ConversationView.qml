@@ -97,9 +97,6 @@ FocusScope {
 
         // Whether the newest message is in view; new ones then keep it in view.
         property bool atNewest: true
-        // The chat whose first screen has been placed (at its newest message or
-        // at its unread divider); other chats are placed when their messages come.
-        property string placedChat
 
         objectName: "transcript"
         anchors {
@@ -159,33 +156,6 @@ FocusScope {
             atNewest = true;
             if (count > 0)
                 currentIndex = 0;
-        }
-
-        // The newest message; but when the messages from row on do not all fit,
-        // row at the top instead, so that the first of them is read first.
-        function showFrom(row) {
-            positionViewAtBeginning();
-            atNewest = true;
-            if (row <= 0)
-                return;
-            forceLayout();
-            const fits = itemAtIndex(row);
-            if (fits && fits.y >= contentY)
-                return;
-            positionViewAtIndex(row, ListView.Contain);
-            forceLayout();
-            const item = itemAtIndex(row);
-            if (item)
-                contentY = item.y - topMargin;
-        }
-
-        // A chat's first screen: from its unread divider when it has one.
-        function placeFirstScreen() {
-            const chatID = conversation.messageList.chatID;
-            if (placedChat === chatID || count === 0 || !conversation.viewModel.messagesArrived)
-                return;
-            placedChat = chatID;
-            showFrom(conversation.messageList.dividerRow());
         }
 
         // The very top, once the items there are laid out with their real heights.
@@ -284,14 +254,8 @@ FocusScope {
                 transcript.currentIndex = -1;
                 transcript.positionViewAtBeginning();
                 transcript.atNewest = true;
-                transcript.placedChat = "";
-                Qt.callLater(transcript.placeFirstScreen);
             }
             function onRowsInserted(parent, first, last) {
-                if (transcript.placedChat !== conversation.messageList.chatID) {
-                    Qt.callLater(transcript.placeFirstScreen);
-                    return;
-                }
                 // Row 0 is the newest: a message that arrives while the reader is
                 // at the bottom comes into view.
                 if (first === 0 && transcript.atNewest)
@@ -305,7 +269,6 @@ FocusScope {
             target: conversation.viewModel
 
             function onHistoryStateChanged() {
-                Qt.callLater(transcript.placeFirstScreen);
                 Qt.callLater(transcript.loadOlderIfNearTop);
             }
         }
