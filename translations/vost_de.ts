@@ -1365,16 +1365,6 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation>Von diesem Konto abmelden und mit einem anderen anmelden?</translation>
     </message>
-    <message>
-        <source>Language</source>
-        <translation>Sprache</translation>
-    </message>
-    <message>
-        <source>System</source>
-        <comment>language</comment>
-        <extracomment>The language that follows the system&apos;s own.</extracomment>
-        <translation>System</translation>
-    </message>
 </context>
 <context>
     <name>ReplyQuote</name>
@@ -1610,6 +1600,10 @@
     <message>
         <source>Someone</source>
         <translation>Jemand</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>online</translation>
     </message>
 </context>
 <context>

@@ -1365,16 +1365,6 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation>¿Cerrar sesión en esta cuenta e iniciar sesión en otra?</translation>
     </message>
-    <message>
-        <source>Language</source>
-        <translation>Idioma</translation>
-    </message>
-    <message>
-        <source>System</source>
-        <comment>language</comment>
-        <extracomment>The language that follows the system&apos;s own.</extracomment>
-        <translation>Sistema</translation>
-    </message>
 </context>
 <context>
     <name>ReplyQuote</name>
@@ -1610,6 +1600,10 @@
     <message>
         <source>Someone</source>
         <translation>Alguien</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>En línea</translation>
     </message>
 </context>
 <context>

@@ -1360,16 +1360,6 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation>از این حساب خارج شوید و با حساب دیگری وارد شوید؟</translation>
     </message>
-    <message>
-        <source>Language</source>
-        <translation>زبان</translation>
-    </message>
-    <message>
-        <source>System</source>
-        <comment>language</comment>
-        <extracomment>The language that follows the system&apos;s own.</extracomment>
-        <translation>سیستم</translation>
-    </message>
 </context>
 <context>
     <name>ReplyQuote</name>
@@ -1604,6 +1594,10 @@
     <message>
         <source>Someone</source>
         <translation>کسی</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>آنلاین</translation>
     </message>
 </context>
 <context>

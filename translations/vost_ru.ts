@@ -1370,16 +1370,6 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation>Выйти из этого аккаунта и войти в другой?</translation>
     </message>
-    <message>
-        <source>Language</source>
-        <translation>Язык</translation>
-    </message>
-    <message>
-        <source>System</source>
-        <comment>language</comment>
-        <extracomment>The language that follows the system&apos;s own.</extracomment>
-        <translation>Как в системе</translation>
-    </message>
 </context>
 <context>
     <name>ReplyQuote</name>
@@ -1616,6 +1606,10 @@
     <message>
         <source>Someone</source>
         <translation>Кто-то</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>В сети</translation>
     </message>
 </context>
 <context>

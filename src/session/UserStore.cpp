@@ -73,7 +73,7 @@ const User *UserStore::user(qint64 userID) const
 QString UserStore::presenceSubtitle(std::optional<qint64> privateChatUser, const QString &fallback) const
 {
     if (privateChatUser && m_onlineUsers.contains(*privateChatUser))
-        return u"Online"_s;
+        return tr("Online");
     return fallback;
 }
 

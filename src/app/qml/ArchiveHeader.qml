@@ -82,6 +82,7 @@ Item {
                 verticalCenter: parent.verticalCenter
             }
             symbol: "chevron.left"
+            directional: true
             Accessible.name: qsTr("Back to chats")
             Accessible.ignored: !parent.visible
             onClicked: header.archive.showsArchived = false

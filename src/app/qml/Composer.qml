@@ -230,6 +230,7 @@ FocusScope {
                 }
                 side: 32
                 symbol: "paperplane.fill"
+                directional: true
                 tint: Appearance.accentText
                 enabled: composer.viewModel.canSendMessages
                 //: The send button while a message is edited: a verb.

@@ -14,6 +14,9 @@ AbstractButton {
     property color tint: Appearance.secondaryText
     property bool highlighted: false
     property int side: 28
+    // A symbol that points along the reading direction (send, back, previous):
+    // it turns round when the layout is mirrored for a right-to-left language.
+    property bool directional: false
     // The tool tip shown on hover; the accessible name by default.
     property string tip: Accessible.name
 
@@ -43,12 +46,18 @@ AbstractButton {
 
     contentItem: Item {
         SymbolIcon {
+            id: icon
+
             anchors.centerIn: parent
             width: Math.round(button.side * 0.57)
             height: width
             visible: button.symbol !== ""
             name: button.symbol
             color: button.enabled ? button.tint : Appearance.separator
+            transform: Scale {
+                origin.x: icon.width / 2
+                xScale: button.directional && button.LayoutMirroring.enabled ? -1 : 1
+            }
         }
         Text {
             anchors.centerIn: parent

@@ -112,6 +112,7 @@ Popup {
             }
             side: 40
             symbol: "chevron.left"
+            directional: true
             tint: "white"
             visible: viewer.index > 0
             //: The previous picture of the album.
@@ -126,6 +127,7 @@ Popup {
             }
             side: 40
             symbol: "chevron.right"
+            directional: true
             tint: "white"
             visible: viewer.index < viewer.items.length - 1
             //: The next picture of the album.

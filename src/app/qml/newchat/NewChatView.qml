@@ -60,6 +60,7 @@ FocusScope {
                 verticalCenter: parent.verticalCenter
             }
             symbol: "chevron.left"
+            directional: true
             Accessible.name: qsTr("Back")
             onClicked: view.closed()
         }

@@ -52,6 +52,7 @@ FocusScope {
                 verticalCenter: parent.verticalCenter
             }
             symbol: "chevron.left"
+            directional: true
             Accessible.name: qsTr("Back")
             onClicked: page.closed()
         }
@@ -137,28 +138,6 @@ FocusScope {
                         text: modelData.label
                         chosen: Appearance.mode === modelData.mode
                         onPicked: Appearance.mode = modelData.mode
-                    }
-                }
-            }
-
-            SectionTitle {
-                text: qsTr("Language")
-            }
-            Flow {
-                Layout.fillWidth: true
-                spacing: 16
-
-                Repeater {
-                    //: The language that follows the system's own.
-                    model: [{code: "", name: qsTr("System", "language")}].concat(AppLanguage.choices)
-
-                    delegate: PreferenceChoice {
-                        required property var modelData
-
-                        // Each language in its own words, whatever the page speaks.
-                        text: modelData.name
-                        chosen: AppLanguage.choice === modelData.code
-                        onPicked: AppLanguage.choice = modelData.code
                     }
                 }
             }
