@@ -8,6 +8,7 @@
 //   bench-stickerplayers [N]          both players, N stickers (default 12)
 //   bench-stickerplayers native|web N one player, in this process
 
+#include "../tests/support/Gzip.h"
 #include "ProcessMemory.h"
 #include "StickerEngine.h"
 
@@ -23,28 +24,12 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <unistd.h>
-#include <zlib.h>
 
 Q_IMPORT_QML_PLUGIN(Vost_RenderPlugin)
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray gzip(const QByteArray &data)
-{
-    z_stream stream{};
-    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, 16 + MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
-    QByteArray out(int(deflateBound(&stream, uLong(data.size()))), Qt::Uninitialized);
-    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(data.constData()));
-    stream.avail_in = uInt(data.size());
-    stream.next_out = reinterpret_cast<Bytef *>(out.data());
-    stream.avail_out = uInt(out.size());
-    deflate(&stream, Z_FINISH);
-    out.resize(qsizetype(stream.total_out));
-    deflateEnd(&stream);
-    return out;
-}
 
 // A bouncing ball of 60 frames, the size of a Telegram sticker's canvas.
 QByteArray sticker(int seed)

@@ -55,7 +55,6 @@ private Q_SLOTS:
     {
         QVERIFY(m_home.isValid());
         qputenv("HOME", QFile::encodeName(m_home.path()));
-        qputenv("VOST_DEMO_DETERMINISTIC", "1");
         QStandardPaths::setTestModeEnabled(true);
 
         m_session = std::make_unique<TelegramSession>();

@@ -2,6 +2,7 @@
 // every kind of broken or hostile file is refused with its reason, quickly and
 // within bounded memory.
 
+#include "../support/Gzip.h"
 #include "render/LottieAnimation.h"
 #include "render/StickerPage.h"
 
@@ -9,26 +10,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <zlib.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray gzip(const QByteArray &data)
-{
-    z_stream stream{};
-    deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, 16 + MAX_WBITS, 8, Z_DEFAULT_STRATEGY);
-    QByteArray out(int(deflateBound(&stream, uLong(data.size()))), Qt::Uninitialized);
-    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(data.constData()));
-    stream.avail_in = uInt(data.size());
-    stream.next_out = reinterpret_cast<Bytef *>(out.data());
-    stream.avail_out = uInt(out.size());
-    deflate(&stream, Z_FINISH);
-    out.resize(qsizetype(stream.total_out));
-    deflateEnd(&stream);
-    return out;
-}
 
 // A red square that moves across a canvas of the given size over 30 frames.
 QByteArray lottie(int width = 512, int height = 512)
