@@ -4,7 +4,7 @@ import QtQuick.Layouts
 import Vost.App
 import Vost.Model
 
-// The preferences page, over the whole popover: appearance, language, sounds and their
+// The preferences page, over the whole popover: appearance and language, sounds and their
 // pack (each pack previews itself when chosen), notifications, starting at
 // login, the account with "Change account", and the version. Esc or "Back"
 // returns to the chats.
@@ -140,6 +140,9 @@ FocusScope {
                         onPicked: Appearance.mode = modelData.mode
                     }
                 }
+            }
+            LanguageChoice {
+                Layout.topMargin: 2
             }
 
             SectionTitle {
