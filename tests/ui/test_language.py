@@ -42,7 +42,6 @@ class SystemLanguage(VostTestCase):
     def open_in(self, lang, language=None):
         vost = self.launch(extra_env=language_env(lang, language))
         vost.open_popover()
-        vost.wait_for_chats()
         return vost
 
     def open_emma(self, vost, messages_name):
@@ -50,7 +49,6 @@ class SystemLanguage(VostTestCase):
         row.press()
         messages = vost.find("list", messages_name)
         wait_until(lambda: len(vost.all("list item", within=messages)) >= 3, what="Emma's messages")
-        vost.wait_for_rest()
         return messages
 
     def test_russian_names_controls_and_dates_in_russian(self):
@@ -87,15 +85,19 @@ class SystemLanguage(VostTestCase):
 class Switching(VostTestCase):
     def test_choosing_deutsch_changes_what_is_shown_at_once(self):
         vost = self.open_signed_in()
+        # A chat whose preview the session makes ("Message" for a location).
+        vost.fill(vost.find("text", "Search"), "Hikers")
         hikers = vost.find("list item", "Weekend Hikers", contains=True)
         self.assertTrue(hikers.name.endswith("Message"), hikers.name)
+        vost.find("heading", "Weekend Hikers", contains=True)
+        vost.fill(vost.find("text", "Search"), "Emma")
         vost.open_chat("Emma Wilson")
         vost.find("heading", "Emma Wilson, Online", contains=True)
         vost.find("push button", "Preferences").press()
         page = vost.find("panel", "Preferences")
         choice = vost.find("combo box", "Language", within=page)
         choice.press()
-        menu = vost.find("menu", "Language")
+        menu = vost.find("popup menu", "Language")
         names = [item.name for item in vost.all("menu item", within=menu)]
         self.assertEqual(names, ["System", "English", "Русский", "Deutsch", "Español", "Português (Brasil)", "فارسی"])
         vost.find("menu item", "Deutsch", within=menu).press()
@@ -104,21 +106,25 @@ class Switching(VostTestCase):
         vost.key("Escape")
         vost.find("list", "Chatliste")
         # Texts the session had already made speak German too.
+        vost.fill(vost.find("text", "Suche"), "Hikers")
         wait_until(lambda: vost.find("list item", "Weekend Hikers", contains=True).name.endswith("Nachricht"),
                    what="the preview in German")
+        vost.fill(vost.find("text", "Suche"), "Emma")
         vost.find("heading", "Emma Wilson, online", contains=True)
         vost.find("push button", "Senden")
 
 
 class RightToLeftText(VostTestCase):
     def ink(self, vost, box):
-        """Where the text's ink lies inside box (x, y, w, h): its left and right edges."""
+        """Where the text's ink lies inside box (x, y, w, h): its leftmost and rightmost
+        columns darker than the bubble behind it."""
         path = self.desktop.screenshot(os.path.join(self.desktop.work, "ink.png"), crop=box)
-        out = subprocess.run(["convert", path, "-fuzz", "30%", "-trim", "-format", "%@", "info:"],
-                             capture_output=True, text=True, check=True).stdout
-        width, rest = out.split("x", 1)
-        _, left, _ = rest.split("+")
-        return int(left), int(left) + int(width)
+        out = subprocess.run(["convert", path, "-colorspace", "gray", "-scale", f"{box[2]}x1!", "-depth", "8",
+                              "txt:-"], capture_output=True, text=True, check=True).stdout
+        shades = [int(line.split("(")[1].split(")")[0].split(",")[0]) for line in out.splitlines()[1:]]
+        background = max(shades)
+        inked = [i for i, shade in enumerate(shades) if shade < background - 12]
+        return inked[0], inked[-1] + 1
 
     def test_a_persian_message_runs_right_to_left_in_an_english_popover(self):
         vost = self.open_signed_in()
