@@ -106,14 +106,14 @@ class Switching(VostTestCase):
         vost.find("heading", "Emma Wilson, Online", contains=True)
         vost.find("push button", "Preferences").press()
         page = vost.find("panel", "Preferences")
-        choice = vost.find("combo box", "Language", within=page)
+        choice = vost.find("push button", "Language", within=page)
         choice.press()
         menu = vost.find("popup menu", "Language")
         names = [item.name for item in vost.all("menu item", within=menu)]
         self.assertEqual(names, ["System", "English", "Русский", "Deutsch", "Español", "Português (Brasil)", "فارسی"])
         vost.find("menu item", "Deutsch", within=menu).press()
         vost.find("heading", "Einstellungen")
-        self.assertEqual(vost.find("combo box", "Language").description, "Deutsch")
+        self.assertEqual(vost.find("push button", "Language").description, "Deutsch")
         vost.key("Escape")
         vost.find("list", "Chatliste")
         # Texts the session had already made speak German too.
