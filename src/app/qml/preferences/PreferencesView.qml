@@ -140,9 +140,10 @@ FocusScope {
                         onPicked: Appearance.mode = modelData.mode
                     }
                 }
-            }
-            LanguageChoice {
-                Layout.topMargin: 2
+                // On the appearance's line: the page fits the popover whole.
+                LanguageChoice {
+                    Layout.leftMargin: 24
+                }
             }
 
             SectionTitle {
