@@ -35,11 +35,12 @@ DEBIAN_PACKAGES=(
 )
 # What the tests add: a virtual screen and session bus, tray hosts (trayer, Xfce's
 # and LXQt's panels), a notification server, a sound server, the accessibility bus
-# and its Python client, pointer and keyboard, screenshots and the clipboard; the
-# package's builder and checkers.
+# and its Python client, pointer and keyboard, screenshots and the clipboard, the
+# locales' sources (the language cases compile Russian and Persian ones for
+# themselves); the package's builder and checkers.
 TEST_PACKAGES=(
     xvfb xauth dbus trayer xdotool at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip
-    pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel
+    pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel locales
     dpkg-dev fakeroot lintian desktop-file-utils appstream
 )
 # What making the Debian package adds.

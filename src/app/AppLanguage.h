@@ -27,6 +27,8 @@ class AppLanguage : public QObject
     Q_PROPERTY(QString choice READ choice WRITE setChoice NOTIFY choiceChanged)
     // {code, name} for English and each catalog, each named in its own language.
     Q_PROPERTY(QVariantList choices READ choices CONSTANT)
+    // The language in effect: "" for English, else a catalog's code.
+    Q_PROPERTY(QString language READ language NOTIFY languageChanged)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft NOTIFY languageChanged)
 
 public:

@@ -43,8 +43,9 @@ QString Formats::coordinates(double latitude, double longitude)
     return part(latitude, u'N', u'S') + u", "_s + part(longitude, u'E', u'W');
 }
 
-QString Formats::dayLabel(const QDateTime &date)
+QString Formats::dayLabel(const QDateTime &date, const QString &language)
 {
+    Q_UNUSED(language)
     return date.isValid() ? dayLabel(date.toLocalTime().date(), QDate::currentDate()) : QString();
 }
 

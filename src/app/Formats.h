@@ -22,7 +22,10 @@ public:
     // coordinate that is not a number.
     Q_INVOKABLE static QString coordinates(double latitude, double longitude);
     // A day as the transcript's separators name it: "Today", "Yesterday", the
-    // weekday within the last week, else the date; relative to today.
-    Q_INVOKABLE static QString dayLabel(const QDateTime &date);
+    // weekday within the last week, else the date; relative to today. The views
+    // pass the language in effect (AppLanguage.language) so that their bindings
+    // make the label again when it changes; the label itself speaks the default
+    // locale and the installed catalog.
+    Q_INVOKABLE static QString dayLabel(const QDateTime &date, const QString &language = {});
     static QString dayLabel(const QDate &day, const QDate &today);
 };

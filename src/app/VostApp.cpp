@@ -286,6 +286,7 @@ bool VostApp::launch()
     connect(&events, &AppEvents::filePanelDidFinish, this, &VostApp::restorePopoverAfterFilePanel);
     connect(qApp, &QCoreApplication::aboutToQuit, m_session, &TelegramSession::shutDown);
     connect(m_session, &TelegramSession::connectionStateChanged, this, &VostApp::updateToolTip);
+    connect(&AppLanguage::shared(), &AppLanguage::languageChanged, m_session, &TelegramSession::retranslate);
 
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
         createTrayIcon();

@@ -88,6 +88,8 @@ void TelegramSession::addOrUpdateChat(const TdObject &object)
             m_privateChatsByUser.insert(*userID, id);
         }
     }
+    record.chatType = typeOf(type);
+    record.lastMessage = lastMessage.isObject() ? std::optional(StoredMessage(lastMessage.toObject())) : std::nullopt;
     QString baseSubtitle = chatSubtitle(type);
     chat.subtitle = m_users->presenceSubtitle(record.privateChatUser, baseSubtitle);
     record.baseSubtitle = std::move(baseSubtitle);
@@ -105,6 +107,8 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
 {
     const std::optional<qint64> date =
         message.isObject() ? integerFrom(message.toObject().value("date"_L1)) : std::nullopt;
+    if (ChatRecord *record = findChatRecord(chatID); record && record->chat)
+        record->lastMessage = message.isObject() ? std::optional(StoredMessage(message.toObject())) : std::nullopt;
     // The texts are made only for a chat that is known and can show them.
     updateChat(chatID, [&](Chat &chat) {
         chat.preview = previewText(message.isObject() ? std::optional(message.toObject()) : std::nullopt);
@@ -114,6 +118,33 @@ void TelegramSession::updateChatLastMessage(const QString &chatID, const QJsonVa
     if (!knownChat(chatID) && hasListPosition(chatID))
         requestChat(chatID.toLongLong());
     sortChats();
+}
+
+void TelegramSession::retranslate()
+{
+    const QDate today = localToday();
+    bool changed = false;
+    for (auto &[numericID, record] : m_chatRecords) {
+        if (!record.chat)
+            continue;
+        Chat &chat = *record.chat;
+        const std::optional<TdObject> last =
+            record.lastMessage ? std::optional(record.lastMessage->object()) : std::nullopt;
+        chat.preview = previewText(last);
+        chat.timestamp = timestampText(last ? integerFrom(last->value("date"_L1)) : std::optional<qint64>(), today);
+        const QString baseSubtitle = chatSubtitle(TdObject{{"@type"_L1, record.chatType}});
+        // A subtitle that tells who is typing stays until the next chat action.
+        if (!chat.isTyping)
+            chat.subtitle = m_users->presenceSubtitle(record.privateChatUser, baseSubtitle);
+        record.baseSubtitle = baseSubtitle;
+        changed = changed || record.listKey;
+    }
+    if (changed) {
+        m_publishedChatsValid = false;
+        Q_EMIT chatsChanged();
+    }
+    for (const QString &chatID : m_rawMessagesByChat.keys())
+        publishMessages(chatID);
 }
 
 void TelegramSession::updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing)

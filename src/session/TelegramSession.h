@@ -86,6 +86,9 @@ public:
     QString startupStatus() const;
     QString currentAccountName() const;
     QString currentAccountPhoneNumber() const;
+    // Makes again, in the language now in effect, the texts already made for chats
+    // and messages (previews, times, subtitles, "You"), and republishes them.
+    void retranslate();
     // TDLib's link to Telegram, as its last "updateConnectionState" told.
     ConnectionState connectionState() const { return m_connectionState; }
     // The displayed chat list, in display order.
@@ -331,9 +334,11 @@ private:
     struct ChatRecord {
         std::optional<Chat> chat; // once TDLib has described the chat
         ChatPositions positions;
-        std::optional<ChatSortKey> listKey;    // while the chat is listed
-        std::optional<qint64> privateChatUser; // the other person in a private chat
-        std::optional<QString> baseSubtitle;   // the subtitle when nobody is online or typing
+        std::optional<ChatSortKey> listKey;       // while the chat is listed
+        std::optional<qint64> privateChatUser;    // the other person in a private chat
+        std::optional<QString> baseSubtitle;      // the subtitle when nobody is online or typing
+        QString chatType;                         // TDLib's "@type" of the chat's type
+        std::optional<StoredMessage> lastMessage; // what the preview and the time were made from
         qint64 lastReadInbox = 0;
         bool isMuted = false;
     };

@@ -1,13 +1,19 @@
 // Which catalog the client speaks for the system's preferred languages and for
 // the choice in the preferences, and what applying a choice changes: the stored
 // choice, the default locale (dates, and the language code TDLib gets), the
-// layout direction, and the sign-in texts announced again.
+// layout direction, the sign-in texts announced again, and the texts the session
+// had already made for chats and messages made again in the new language.
 
 #include "app/AppLanguage.h"
 #include "app/LoginPresenter.h"
+#include "session/TelegramSession.h"
 #include "session/UserDefaults.h"
 
 #include <QGuiApplication>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -15,6 +21,24 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+// The few Russian texts the session's case needs: the catalogs are built into the
+// program, not into this test.
+class RussianTexts : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        static const QHash<QString, QString> texts{{u"Photo"_s, u"Фотография"_s},
+                                                   {u"Yesterday"_s, u"Вчера"_s},
+                                                   {u"Group"_s, u"Группа"_s},
+                                                   {u"You"_s, u"Вы"_s}};
+        return texts.value(QString::fromUtf8(source));
+    }
+};
+} // namespace
 
 class AppLanguageTest : public QObject
 {
@@ -126,6 +150,59 @@ private Q_SLOTS:
         AppLanguage::shared().load();
         QCOMPARE(AppLanguage::shared().choice(), QString());
         QCOMPARE(QLocale(), QLocale::system());
+    }
+
+    void textsTheSessionMadeFollowASwitch()
+    {
+        AppLanguage &language = AppLanguage::shared();
+        language.setChoice(u"en"_s);
+        const QDateTime now = QDateTime::fromSecsSinceEpoch(1760000000);
+        TelegramSession session([](const QString &, const TdObject &) {});
+        session.setClock([now] { return now; });
+        const qint64 yesterday = now.addDays(-1).toSecsSinceEpoch();
+        const QJsonObject photo{{"@type"_L1, u"messagePhoto"_s},
+                                {"caption"_L1, QJsonObject{{"@type"_L1, u"formattedText"_s}, {"text"_L1, u""_s}}}};
+        const QJsonObject lastMessage{{"@type"_L1, u"message"_s},
+                                      {"id"_L1, 10},
+                                      {"chat_id"_L1, 7},
+                                      {"date"_L1, yesterday},
+                                      {"content"_L1, photo}};
+        const QJsonObject chat{
+            {"@type"_L1, u"chat"_s},
+            {"id"_L1, 7},
+            {"title"_L1, u"Hikers"_s},
+            {"type"_L1, QJsonObject{{"@type"_L1, u"chatTypeBasicGroup"_s}, {"basic_group_id"_L1, 3}}},
+            {"last_message"_L1, lastMessage},
+            {"positions"_L1, QJsonArray{QJsonObject{{"@type"_L1, u"chatPosition"_s},
+                                                    {"list"_L1, QJsonObject{{"@type"_L1, u"chatListMain"_s}}},
+                                                    {"order"_L1, u"100"_s},
+                                                    {"is_pinned"_L1, false}}}}};
+        session.handleResponse(
+            QJsonDocument(QJsonObject{{"@type"_L1, u"updateNewChat"_s}, {"chat"_L1, chat}}).toJson());
+        QJsonObject own = lastMessage;
+        own.insert("is_outgoing"_L1, true);
+        session.handleResponse(
+            QJsonDocument(QJsonObject{{"@type"_L1, u"updateNewMessage"_s}, {"message"_L1, own}}).toJson());
+        QCOMPARE(session.chats().size(), 1);
+        QCOMPARE(session.chats().first().preview, u"Photo"_s);
+        QCOMPARE(session.chats().first().timestamp, u"Yesterday"_s);
+        QCOMPARE(session.chats().first().subtitle, u"Group"_s);
+        QCOMPARE(session.messagesByChat().value(u"7"_s).first().sender.name, u"You"_s);
+
+        QSignalSpy chatsChanged(&session, &TelegramSession::chatsChanged);
+        QSignalSpy messagesChanged(&session, &TelegramSession::messagesChanged);
+        language.setChoice(u"ru"_s);
+        RussianTexts russian;
+        QCoreApplication::installTranslator(&russian);
+        session.retranslate();
+        QCOMPARE(session.chats().first().preview, u"Фотография"_s);
+        QCOMPARE(session.chats().first().timestamp, u"Вчера"_s);
+        QCOMPARE(session.chats().first().subtitle, u"Группа"_s);
+        QCOMPARE(session.messagesByChat().value(u"7"_s).first().sender.name, u"Вы"_s);
+        QVERIFY(!chatsChanged.isEmpty());
+        QCOMPARE(messagesChanged.size(), 1);
+        QCoreApplication::removeTranslator(&russian);
+        language.setChoice(u"en"_s);
     }
 
 private:

@@ -30,12 +30,16 @@ def scroll_to(vost, messages, start, wheels=60):
         time.sleep(0.15)
 
 
-def session(desktop, mode, shots):
+def session(desktop, mode, shots, language=None):
     desktop.new_home()
-    vost = Vost(desktop, home_template=signed_in_template(), settings={"vostAppearanceMode": mode}).start()
+    settings = {"vostAppearanceMode": mode}
+    if language:
+        settings["vostLanguage"] = language
+    vost = Vost(desktop, home_template=signed_in_template(), settings=settings).start()
     try:
         vost.open_popover()
-        vost.wait_for_chats()
+        if not language:  # the chat list goes by another name in another language
+            vost.wait_for_chats()
         shots(desktop, vost)
     finally:
         vost.quit()
@@ -99,12 +103,24 @@ def dark(desktop, vost):
     new_chat(desktop, vost, "dark")
 
 
+def translated(suffix, messages_name):
+    """Emma Wilson's chat in another language: the messages list goes by its name there."""
+    def shots(desktop, vost):
+        vost.find("list item", "Emma Wilson", contains=True).press()
+        messages = vost.find("list", messages_name)
+        wait_until(lambda: len(vost.all("list item", within=messages)) >= 3, what="Emma's messages")
+        shoot(desktop, vost, f"messages-{suffix}.png")
+    return shots
+
+
 def main():
     os.makedirs(OUT, exist_ok=True)
     desktop = Desktop()
     try:
         session(desktop, "light", light)
         session(desktop, "dark", dark)
+        session(desktop, "light", translated("ru", "Сообщения"), language="ru")
+        session(desktop, "light", translated("fa", "پیام‌ها"), language="fa")
     finally:
         desktop.close()
 

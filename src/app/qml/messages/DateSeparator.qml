@@ -8,7 +8,7 @@ Item {
 
     property var date
 
-    readonly property string label: date ? Formats.dayLabel(date) : ""
+    readonly property string label: date ? Formats.dayLabel(date, AppLanguage.language) : ""
 
     implicitHeight: 32
     visible: label !== ""

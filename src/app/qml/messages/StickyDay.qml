@@ -10,7 +10,7 @@ Rectangle {
 
     readonly property var topItem: view.itemAt(view.width / 2, view.contentY + height)
     // The footer (the spinner, the start of the conversation) has no date.
-    readonly property string label: topItem && topItem.date ? Formats.dayLabel(topItem.date) : ""
+    readonly property string label: topItem && topItem.date ? Formats.dayLabel(topItem.date, AppLanguage.language) : ""
 
     height: 34
     color: Appearance.background

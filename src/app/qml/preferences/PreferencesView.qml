@@ -4,7 +4,7 @@ import QtQuick.Layouts
 import Vost.App
 import Vost.Model
 
-// The preferences page, over the whole popover: appearance, language, sounds and their
+// The preferences page, over the whole popover: appearance and language, sounds and their
 // pack (each pack previews itself when chosen), notifications, starting at
 // login, the account with "Change account", and the version. Esc or "Back"
 // returns to the chats.
@@ -139,6 +139,10 @@ FocusScope {
                         chosen: Appearance.mode === modelData.mode
                         onPicked: Appearance.mode = modelData.mode
                     }
+                }
+                // On the appearance's line: the page fits the popover whole.
+                LanguageChoice {
+                    Layout.leftMargin: 24
                 }
             }
 
