@@ -4,10 +4,10 @@ import QtQuick.Layouts
 import Vost.App
 import Vost.Model
 
-// The preferences page, over the whole popover: appearance, language, sounds and their
-// pack (each pack previews itself when chosen), notifications, starting at
-// login, the account with "Change account", and the version. Esc or "Back"
-// returns to the chats.
+// The preferences page, over the whole popover: appearance, language, spelling,
+// sounds and their pack (each pack previews itself when chosen), notifications,
+// starting at login, the account with "Change account", and the version. Esc or
+// "Back" returns to the chats.
 FocusScope {
     id: page
 
@@ -140,6 +140,12 @@ FocusScope {
                         onPicked: Appearance.mode = modelData.mode
                     }
                 }
+            }
+            PreferenceCheck {
+                //: Whether the composer underlines misspelt words.
+                text: qsTr("Check spelling")
+                value: page.preferences.checksSpelling
+                onFlipped: on => page.preferences.checksSpelling = on
             }
 
             SectionTitle {
