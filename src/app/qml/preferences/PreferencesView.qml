@@ -140,12 +140,14 @@ FocusScope {
                         onPicked: Appearance.mode = modelData.mode
                     }
                 }
-            }
-            PreferenceCheck {
-                //: Whether the composer underlines misspelt words.
-                text: qsTr("Check spelling")
-                value: page.preferences.checksSpelling
-                onFlipped: on => page.preferences.checksSpelling = on
+                // Beside the appearance: the page has no height to spare.
+                PreferenceCheck {
+                    Layout.leftMargin: 24
+                    //: Whether the composer underlines misspelt words.
+                    text: qsTr("Check spelling")
+                    value: page.preferences.checksSpelling
+                    onFlipped: on => page.preferences.checksSpelling = on
+                }
             }
 
             SectionTitle {
