@@ -21,7 +21,8 @@ BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
 # What building Vost needs, and what it loads when it runs: Qt's platform plugin,
 # QML modules, image formats, the media backend's GStreamer plugins, the emoji font,
-# the translation tools (lupdate/lrelease) and fonts with Cyrillic and Arabic-script glyphs.
+# the translation tools (lupdate/lrelease), fonts with Cyrillic and Arabic-script glyphs, and
+# Hunspell with the dictionaries of English and of the catalogs' languages (spelling).
 DEBIAN_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
     librsvg2-bin
@@ -32,6 +33,7 @@ DEBIAN_PACKAGES=(
     gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-libav
     fonts-noto-color-emoji fonts-noto-core
     qt6-l10n-tools qt6-tools-dev
+    libhunspell-dev hunspell-en-us hunspell-ru hunspell-de-de hunspell-es hunspell-pt-br myspell-fa
 )
 # What the tests add: a virtual screen and session bus, tray hosts (trayer, Xfce's
 # and LXQt's panels), a notification server, a sound server, the accessibility bus

@@ -11,6 +11,7 @@ namespace {
 const QString soundsEnabledKey = u"soundsEnabled"_s;
 const QString soundPackKey = u"soundPack"_s;
 const QString showNotificationsKey = u"showNotifications"_s;
+const QString checkSpellingKey = u"checkSpelling"_s;
 
 // Only a stored boolean false counts as off. The settings file keeps booleans as
 // the words true and false, so those words count as booleans.
@@ -79,6 +80,17 @@ void Preferences::setShowsNotifications(bool shown)
 {
     if (storeFlag(showNotificationsKey, shown))
         Q_EMIT showsNotificationsChanged();
+}
+
+bool Preferences::checksSpelling() const
+{
+    return storedFlag(checkSpellingKey);
+}
+
+void Preferences::setChecksSpelling(bool checks)
+{
+    if (storeFlag(checkSpellingKey, checks))
+        Q_EMIT checksSpellingChanged();
 }
 
 void Preferences::previewSoundPack(const QString &name)

@@ -8,7 +8,7 @@
 // The user's preferences in one place: the sound manager, the notification
 // service and the preferences page read and write them here, and hear about
 // changes. They live in the user-defaults store ("soundsEnabled", "soundPack",
-// "showNotifications"); the appearance mode has its own home in Appearance.
+// "showNotifications", "checkSpelling"); the appearance mode has its own home in Appearance.
 class Preferences : public QObject
 {
     Q_OBJECT
@@ -16,8 +16,9 @@ class Preferences : public QObject
     // The pack's raw value: "crystal", "gentle", "classic" or "playful".
     Q_PROPERTY(QString soundPack READ soundPackName WRITE setSoundPackName NOTIFY soundPackChanged)
     Q_PROPERTY(QStringList soundPacks READ soundPacks CONSTANT)
-    Q_PROPERTY(bool showsNotifications READ showsNotifications WRITE setShowsNotifications NOTIFY
-                   showsNotificationsChanged)
+    Q_PROPERTY(
+        bool showsNotifications READ showsNotifications WRITE setShowsNotifications NOTIFY showsNotificationsChanged)
+    Q_PROPERTY(bool checksSpelling READ checksSpelling WRITE setChecksSpelling NOTIFY checksSpellingChanged)
 
 public:
     static Preferences &shared();
@@ -33,6 +34,9 @@ public:
     // Desktop notifications are shown unless the user turned them off.
     bool showsNotifications() const;
     void setShowsNotifications(bool shown);
+    // The composer marks misspelt words unless the user turned that off.
+    bool checksSpelling() const;
+    void setChecksSpelling(bool checks);
 
     // Plays the pack's two preview sounds, one after the other, whether sounds are
     // on or not.
@@ -42,6 +46,7 @@ Q_SIGNALS:
     void soundsEnabledChanged();
     void soundPackChanged();
     void showsNotificationsChanged();
+    void checksSpellingChanged();
 
 private:
     using QObject::QObject;

@@ -7,7 +7,9 @@ import Vost.Model
 // "Attach", the text (growing up to six lines), "Emoji", "Stickers" and "Send".
 // Enter sends, Shift+Enter starts a new line, Up in an empty composer edits the
 // user's last message, and a pasted picture waits to be sent like an attached
-// one. Esc closes an open picker; after that it is the chat layout's.
+// one. Esc closes an open picker; after that it is the chat layout's. Misspelt
+// words are underlined; a right click on one, or the Menu key or Shift+F10 with
+// the cursor in it, offers its corrections.
 FocusScope {
     id: composer
 
@@ -176,6 +178,11 @@ FocusScope {
                             field.cursorPosition = field.length;
                     }
                     Keys.onPressed: event => {
+                        if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)) {
+                            const caret = field.cursorRectangle;
+                            event.accepted = composer.offerCorrections(field.cursorPosition, caret.x, caret.y + caret.height);
+                            return;
+                        }
                         if (event.key === Qt.Key_End && event.modifiers === Qt.NoModifier && field.text === "") {
                             composer.newestRequested();
                             event.accepted = true;
@@ -188,6 +195,27 @@ FocusScope {
                                 composer.viewModel.queueFiles([path]);
                             event.accepted = true;
                         }
+                    }
+
+                    TapHandler {
+                        acceptedButtons: Qt.RightButton
+                        onTapped: eventPoint => {
+                            const point = eventPoint.position;
+                            composer.offerCorrections(field.positionAt(point.x, point.y), point.x, point.y);
+                        }
+                    }
+
+                    SpellCheck {
+                        id: spelling
+
+                        // Over the lines on screen, wherever the text is scrolled to.
+                        y: scroll.contentItem.contentY
+                        width: field.width
+                        height: scroll.height
+                        origin: Qt.point(field.leftPadding, field.topPadding - y)
+                        document: field.textDocument
+                        active: AppPreferences.preferences.checksSpelling
+                        color: Appearance.badge
                     }
                 }
             }
@@ -280,6 +308,26 @@ FocusScope {
             }
             onClosed: if (!emoji.opened) field.forceActiveFocus()
         }
+    }
+
+    OnDemand {
+        id: spellingMenu
+
+        sourceComponent: SpellingMenu {
+            parent: composer
+            onCorrected: (start, word, replacement) => spelling.replace(start, word, replacement)
+            onAdded: word => spelling.addToDictionary(word)
+            onClosed: field.forceActiveFocus()
+        }
+    }
+
+    // The corrections of the misspelt word at a position of the text, if it is one.
+    function offerCorrections(position, x, y) {
+        const misspelt = spelling.misspeltWordAt(position);
+        if (misspelt.word === undefined)
+            return false;
+        spellingMenu.instance().openFor(misspelt, spelling.suggestions(misspelt.word), field, x, y);
+        return true;
     }
 
     function handleReturn(event) {

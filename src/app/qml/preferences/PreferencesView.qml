@@ -4,10 +4,10 @@ import QtQuick.Layouts
 import Vost.App
 import Vost.Model
 
-// The preferences page, over the whole popover: appearance and language, sounds and their
-// pack (each pack previews itself when chosen), notifications, starting at
-// login, the account with "Change account", and the version. Esc or "Back"
-// returns to the chats.
+// The preferences page, over the whole popover: appearance, language, spelling,
+// sounds and their pack (each pack previews itself when chosen), notifications,
+// starting at login, the account with "Change account", and the version. Esc or
+// "Back" returns to the chats.
 FocusScope {
     id: page
 
@@ -143,6 +143,13 @@ FocusScope {
                 // On the appearance's line: the page fits the popover whole.
                 LanguageChoice {
                     Layout.leftMargin: 24
+                }
+                PreferenceCheck {
+                    Layout.leftMargin: 24
+                    //: Whether the composer underlines misspelt words.
+                    text: qsTr("Check spelling")
+                    value: page.preferences.checksSpelling
+                    onFlipped: on => page.preferences.checksSpelling = on
                 }
             }
 
