@@ -25,10 +25,15 @@ def top_within_view(item, view):
 
 
 class OpeningAtTheLine(VostTestCase):
+    def open_hikers(self, vost):
+        # Further down the chat list than a screen.
+        vost.fill(vost.find("text", "Search"), "Weekend")
+        vost.open_chat("Weekend Hikers")
+
     def test_more_unread_than_fit_opens_at_the_line_with_the_first_unread_message(self):
         vost = self.open_signed_in()
         # Eight unread messages, a poll and a location among them.
-        vost.open_chat("Weekend Hikers")
+        self.open_hikers(vost)
         messages = vost.find("list", "Messages")
         divider = vost.find("paragraph", DIVIDER, within=messages)
         vost.wait_for_rest()
@@ -56,13 +61,14 @@ class OpeningAtTheLine(VostTestCase):
 
     def test_a_chat_opens_at_its_line_once_and_at_the_newest_afterwards(self):
         vost = self.open_signed_in()
-        vost.open_chat("Weekend Hikers")
+        self.open_hikers(vost)
         messages = vost.find("list", "Messages")
         vost.find("paragraph", DIVIDER, within=messages)
         vost.find("push button", "Go to newest message")
+        vost.fill(vost.find("text", "Search"), "Family")
         vost.open_chat("Family")
         vost.find("list item", "Grandma loved the photos", contains=True)
-        vost.open_chat("Weekend Hikers")
+        self.open_hikers(vost)
         vost.find("list", "Messages")
         vost.wait_for_rest()
         vost.absent("push button", "Go to newest message")
