@@ -124,6 +124,17 @@ QJsonObject linkSample()
                entity(text, u"#qt6"_s, object("textEntityTypeHashtag"))});
 }
 
+// A block quote and a name that stands for a user (who has no username to mention).
+QJsonObject quoteSample(qint64 userID)
+{
+    const QString text = u"Henry said it last year:\n"
+                         u"Start before eight, the clouds come in at noon.\n"
+                         u"Still true!"_s;
+    return formattedContent(text, {entity(text, u"Henry"_s, object("textEntityTypeMentionName", {{"user_id", userID}})),
+                                   entity(text, u"Start before eight, the clouds come in at noon.\n"_s,
+                                          object("textEntityTypeBlockQuote"))});
+}
+
 } // namespace
 
 void AccountBuilder::build(const QString &firstName, const QString &phone)
@@ -255,6 +266,7 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
 
     DemoChat &hikers = groupChat(ChatKind::BasicGroup, 3002, u"Weekend Hikers"_s, 8, true);
     fillTalk(hikers, {henry, grace, daniel, me, liam}, 35, 12000, 300);
+    add(hikers, grace, 295, quoteSample(henry));
     QJsonArray options;
     const QString choices[] = {u"Saturday"_s, u"Sunday"_s, u"Both!"_s};
     const int votes[] = {3, 1, 2};
@@ -295,7 +307,8 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
         object("messageLocation",
                {{"location",
                  object("location", {{"latitude", 46.5586}, {"longitude", 7.9826}, {"horizontal_accuracy", 0.0}})}}));
-    markRead(hikers, 4);
+    // More unread than a screen holds: the chat opens at its "Unread messages" line.
+    markRead(hikers, 8);
 
     DemoChat &qt = groupChat(ChatKind::Supergroup, 4001, u"Qt Developers"_s, 1840, true);
     qt.muted = true;
@@ -303,7 +316,7 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
     add(qt, daniel, 68, codeSample());
     add(qt, noah, 67, linkSample());
     add(qt, grace, 65, a.textContent(u"Docs for QImage: https://doc.qt.io/qt-6/qimage.html"_s));
-    markRead(qt, 12);
+    markRead(qt, 3);
 
     DemoChat &photos = groupChat(ChatKind::Channel, 4002, u"Daily Photo"_s, 12400, true);
     for (int i = 0; i < 18; ++i) {

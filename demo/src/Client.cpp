@@ -53,6 +53,9 @@ void Client::start()
     const QString networkSwitch = qEnvironmentVariable("VOST_DEMO_NETWORK_SWITCH");
     if (!networkSwitch.isEmpty())
         watchNetworkSwitch(networkSwitch);
+    const QString incoming = qEnvironmentVariable("VOST_DEMO_INCOMING");
+    if (!incoming.isEmpty())
+        watchIncoming(incoming);
 }
 
 void Client::answer(const QJsonObject &request, QJsonObject result)

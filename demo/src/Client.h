@@ -70,6 +70,9 @@ private:
     void lifeTick();
     void presenceTick();
 
+    // A message on request (Living.cpp).
+    void watchIncoming(const QString &path);
+
     // The network, switched off and on by hand (Network.cpp).
     void watchNetworkSwitch(const QString &path);
     void networkSwitched(bool offline);

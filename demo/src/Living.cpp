@@ -3,6 +3,8 @@
 #include "Json.h"
 #include "Runtime.h"
 
+#include <QFile>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -30,7 +32,35 @@ QJsonObject typingUpdate(qint64 chatID, qint64 userID, const char *action)
                                        {"action", object(action)}});
 }
 
+constexpr int kIncomingPollMs = 100;
+
 } // namespace
+
+void Client::watchIncoming(const QString &path)
+{
+    // The file names the chat on its first line; the rest is the text, sent by the
+    // chat's other side (a group's last sender, nobody in a channel).
+    QFile file(path);
+    if (m_account && file.open(QIODevice::ReadOnly)) {
+        const QString request = QString::fromUtf8(file.readAll());
+        file.close();
+        file.remove();
+        const qsizetype lineEnd = request.indexOf(u'\n');
+        const QString title = request.left(lineEnd).trimmed();
+        const QString text = lineEnd < 0 ? QString() : request.mid(lineEnd + 1).trimmed();
+        for (auto &[id, chat] : m_account->chats) {
+            if (chat.title != title || text.isEmpty())
+                continue;
+            qint64 sender = chat.userID;
+            for (auto it = chat.messages.crbegin(); sender == 0 && it != chat.messages.crend(); ++it)
+                if (it->second.senderUserID != m_account->selfID())
+                    sender = it->second.senderUserID;
+            receiveMessage(chat, sender, m_account->textContent(text));
+            break;
+        }
+    }
+    after(kIncomingPollMs, [path](Client &client) { client.watchIncoming(path); });
+}
 
 void Client::receiveMessage(DemoChat &chat, qint64 senderID, const QJsonObject &content)
 {

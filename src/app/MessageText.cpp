@@ -82,6 +82,7 @@ QVariantList MessageText::blocks(const QString &text, const QVariant &entities, 
     QVariantList items;
     for (const FormattedBlock &block : blocksOf(text, entities, spoilersRevealed, linkColor, veilColor))
         items.append(QVariantMap{{u"isCode"_s, block.isCode},
+                                 {u"isQuote"_s, block.isQuote},
                                  {u"html"_s, block.html},
                                  {u"spokenText"_s, block.spokenText},
                                  {u"code"_s, block.code},
@@ -104,10 +105,17 @@ MessageText::LinkKind MessageText::linkKind(const QString &link)
         return LinkKind::Spoiler;
     if (link.startsWith(FormattedLinks::mentionPrefix))
         return LinkKind::Mention;
+    if (link.startsWith(FormattedLinks::userPrefix))
+        return LinkKind::UserMention;
     return LinkKind::Web;
 }
 
 QString MessageText::mentionedName(const QString &link)
 {
     return link.startsWith(FormattedLinks::mentionPrefix) ? link.mid(FormattedLinks::mentionPrefix.size()) : QString();
+}
+
+QString MessageText::mentionedUser(const QString &link)
+{
+    return link.startsWith(FormattedLinks::userPrefix) ? link.mid(FormattedLinks::userPrefix.size()) : QString();
 }

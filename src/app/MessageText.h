@@ -14,13 +14,13 @@ class MessageText : public QObject
 
 public:
     // What a click on a link of the rich text does.
-    enum class LinkKind { Web, Spoiler, Mention };
+    enum class LinkKind { Web, Spoiler, Mention, UserMention };
     Q_ENUM(LinkKind)
 
     explicit MessageText(QObject *parent = nullptr);
 
     // The text with its entities (MessageDetails' entities) as blocks: maps with
-    // isCode, html, spokenText, code, language and linkTargets. Hidden spoilers
+    // isCode, isQuote, html, spokenText, code, language and linkTargets. Hidden spoilers
     // are veiled in veilColor until revealed.
     Q_INVOKABLE static QVariantList blocks(const QString &text, const QVariant &entities, bool spoilersRevealed,
                                            const QString &linkColor, const QString &veilColor);
@@ -29,6 +29,8 @@ public:
     Q_INVOKABLE static MessageText::LinkKind linkKind(const QString &link);
     // The username a mention's link names, without "@".
     Q_INVOKABLE static QString mentionedName(const QString &link);
+    // The id of the user a name mention's link stands for.
+    Q_INVOKABLE static QString mentionedUser(const QString &link);
 
     // Rich text for a Text item with textFormat Text.RichText (or StyledText);
     // linkColor colours the links.

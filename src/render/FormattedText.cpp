@@ -23,7 +23,14 @@ struct Span {
 
 bool isLink(Type type)
 {
-    return type == Type::TextUrl || type == Type::Url || type == Type::EmailAddress || type == Type::Mention;
+    return type == Type::TextUrl || type == Type::Url || type == Type::EmailAddress || type == Type::Mention ||
+           type == Type::MentionName;
+}
+
+// Blocks of code and quotes are shown apart from the paragraphs around them.
+bool isBlock(Type type)
+{
+    return type == Type::Pre || type == Type::BlockQuote;
 }
 
 bool splitsPair(const QString &text, qsizetype at)
@@ -45,15 +52,15 @@ QList<Span> checkedSpans(const QString &text, const TextEntities &entities)
         spans.append(span);
     }
     std::stable_sort(spans.begin(), spans.end(), [](const Span &a, const Span &b) { return a.start < b.start; });
-    // Blocks of code cannot hold one another, nor links one another: of two that
-    // overlap, the one that starts first is kept.
+    // Blocks (of code, quotes) cannot hold one another, nor links one another: of
+    // two that overlap, the one that starts first is kept.
     QList<Span> kept;
-    qsizetype codeEnd = 0;
+    qsizetype blockEnd = 0;
     qsizetype linkEnd = 0;
     for (const Span &span : std::as_const(spans)) {
-        const bool isCode = span.entity.type == Type::Pre;
-        if (isCode || isLink(span.entity.type)) {
-            qsizetype &end = isCode ? codeEnd : linkEnd;
+        const bool block = isBlock(span.entity.type);
+        if (block || isLink(span.entity.type)) {
+            qsizetype &end = block ? blockEnd : linkEnd;
             if (span.start < end)
                 continue;
             end = span.end;
@@ -127,6 +134,8 @@ QString linkTarget(const QString &text, const Span &span)
         return u"mailto:"_s + shown.trimmed();
     case Type::Mention:
         return shown.startsWith(u'@') && shown.size() > 1 ? FormattedLinks::mentionPrefix + shown.mid(1) : QString();
+    case Type::MentionName:
+        return FormattedLinks::userPrefix + span.entity.argument;
     default:
         return {};
     }
@@ -139,7 +148,7 @@ FormattedBlock paragraph(const QString &text, qsizetype from, qsizetype to, cons
         style.linkColor.isEmpty() ? QString() : u" style=\"color:%1\""_s.arg(style.linkColor.toHtmlEscaped());
     QList<qsizetype> cuts{from, to};
     for (const Span &span : spans) {
-        if (span.entity.type == Type::Pre)
+        if (isBlock(span.entity.type))
             continue;
         for (const qsizetype at : {span.start, span.end})
             if (at > from && at < to)
@@ -157,7 +166,7 @@ FormattedBlock paragraph(const QString &text, qsizetype from, qsizetype to, cons
         QSet<Type> types;
         const Span *link = nullptr;
         for (const Span &span : spans) {
-            if (span.entity.type == Type::Pre || span.start > start || span.end < end)
+            if (isBlock(span.entity.type) || span.start > start || span.end < end)
                 continue;
             types.insert(span.entity.type);
             if (isLink(span.entity.type))
@@ -216,23 +225,32 @@ QList<FormattedBlock> formattedBlocks(const QString &text, const TextEntities &e
 {
     const QList<Span> spans = checkedSpans(text, entities);
     QList<FormattedBlock> blocks;
-    // The text between blocks of code, without the line breaks that only set the
-    // blocks apart.
-    const auto addParagraph = [&](qsizetype from, qsizetype to, bool beforeCode, bool afterCode) {
-        while (afterCode && from < to && text.at(from) == u'\n')
+    // The text between blocks, without the line breaks that only set the blocks
+    // apart.
+    const auto addParagraph = [&](qsizetype from, qsizetype to, bool beforeBlock, bool afterBlock) {
+        while (afterBlock && from < to && text.at(from) == u'\n')
             ++from;
-        while (beforeCode && to > from && text.at(to - 1) == u'\n')
+        while (beforeBlock && to > from && text.at(to - 1) == u'\n')
             --to;
-        if (from < to || (blocks.isEmpty() && !beforeCode))
+        if (from < to || (blocks.isEmpty() && !beforeBlock))
             blocks.append(paragraph(text, from, to, spans, style));
     };
     qsizetype position = 0;
     for (const Span &span : spans) {
-        if (span.entity.type != Type::Pre)
+        if (!isBlock(span.entity.type))
             continue;
         addParagraph(position, span.start, true, position > 0);
-        const QString code = text.mid(span.start, span.end - span.start);
-        blocks.append({true, {}, code, code, span.entity.argument.trimmed(), {}});
+        if (span.entity.type == Type::Pre) {
+            const QString code = text.mid(span.start, span.end - span.start);
+            blocks.append({true, false, {}, code, code, span.entity.argument.trimmed(), {}});
+        } else {
+            qsizetype end = span.end;
+            while (end > span.start && text.at(end - 1) == u'\n')
+                --end;
+            FormattedBlock quote = paragraph(text, span.start, end, spans, style);
+            quote.isQuote = true;
+            blocks.append(quote);
+        }
         position = span.end;
     }
     if (position < text.size() || blocks.isEmpty())

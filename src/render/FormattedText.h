@@ -8,11 +8,13 @@
 
 // Message text with its entities as the transcript shows it: paragraphs of rich
 // text (every piece of the message HTML-escaped, typed smileys as emoji, links
-// clickable) and blocks of code shown apart, in monospace, each with its text for
-// copying. Entities past the end of the text, empty ones or ones that cross a
+// clickable), quoted paragraphs and blocks of code shown apart, in monospace, each
+// with its text for copying. Entities past the end of the text, empty ones or ones that cross a
 // block of code are dropped or cut: the text itself is always shown whole.
 struct FormattedBlock {
     bool isCode = false;
+    // A quoted paragraph, shown set apart.
+    bool isQuote = false;
     // A paragraph's rich text; empty for a block of code.
     QString html;
     // What a screen reader reads: the plain text, hidden spoilers left out.
@@ -42,6 +44,8 @@ namespace FormattedLinks {
 inline constexpr QLatin1StringView spoilerLink{"vost-spoiler:"};
 // A mention: the prefix, then the username without "@".
 inline constexpr QLatin1StringView mentionPrefix{"vost-mention:"};
+// A name that stands for a user: the prefix, then the user's id.
+inline constexpr QLatin1StringView userPrefix{"vost-user:"};
 } // namespace FormattedLinks
 
 QList<FormattedBlock> formattedBlocks(const QString &text, const TextEntities &entities,

@@ -28,6 +28,6 @@ void Announcer::announceMessage(const TdObject &message, bool muted, const std::
         return;
     const QString title = listedTitle.value_or(QCoreApplication::translate("Announcer", "New Telegram message"));
     if (Preferences::shared().showsNotifications())
-        NotificationService::shared().notify(title, messageText(content.toObject()), QString::number(*chat));
+        NotificationService::shared().notify(title, veiledMessageText(content.toObject()), QString::number(*chat));
     m_soundManager->play(SoundEvent::IncomingMessage);
 }

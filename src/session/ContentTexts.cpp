@@ -1,6 +1,11 @@
 #include "session/ContentTexts.h"
 
+#include "session/MessageDetails.h"
+
 #include <QCoreApplication>
+
+#include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -89,12 +94,55 @@ QString messageText(const TdObject &content)
     return kind->hasCaption ? caption(content).value_or(text) : text;
 }
 
+QString veiledText(const QString &text, const TextEntities &entities)
+{
+    std::vector<bool> hidden(size_t(text.size()), false);
+    for (const TextEntity &entity : entities) {
+        if (entity.type != TextEntity::Type::Spoiler || entity.offset < 0 || entity.length <= 0)
+            continue;
+        const qsizetype end = std::min<qsizetype>(qsizetype(entity.offset) + entity.length, text.size());
+        for (qsizetype at = entity.offset; at < end; ++at)
+            hidden[size_t(at)] = true;
+    }
+    // A character outside the basic plane is veiled whole, even when a spoiler
+    // covers only half of it, and shows as one "▒".
+    QString shown;
+    shown.reserve(text.size());
+    for (qsizetype at = 0; at < text.size();) {
+        const bool pair = text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate();
+        const qsizetype width = pair ? 2 : 1;
+        const bool veiled = hidden[size_t(at)] || (pair && hidden[size_t(at + 1)]);
+        if (veiled && !text.at(at).isSpace())
+            shown += u'▒';
+        else
+            shown += text.mid(at, width);
+        at += width;
+    }
+    return shown;
+}
+
+QString veiledMessageText(const TdObject &content)
+{
+    const QString text = messageText(content);
+    const QString type = typeOf(content);
+    if (type == "messageText"_L1) {
+        const TdObject formatted = content.value("text"_L1).toObject();
+        if (formatted.value("text"_L1).toString() == text)
+            return veiledText(text, textEntities(formatted));
+    } else if (const std::optional<QString> shown = caption(content); shown && *shown == text) {
+        return veiledText(text, textEntities(content.value("caption"_L1).toObject()));
+    }
+    return text;
+}
+
 QString previewText(const std::optional<TdObject> &message)
 {
     if (!message || !message->value("content"_L1).isObject())
         return QCoreApplication::translate("ContentTexts", "No messages yet");
     const TdObject content = message->value("content"_L1).toObject();
     const QString type = typeOf(content);
+    if (type == "messageText"_L1 && content.value("text"_L1).toObject().value("text"_L1).isString())
+        return veiledMessageText(content);
     if (std::optional<QString> text = typedText(type, content))
         return *text;
     const ContentKind *kind = contentKind(type);

@@ -4,13 +4,21 @@
 // the readers of a message's sticker format and reactions.
 
 #include "session/ModelTypes.h"
+#include "session/TextEntity.h"
 #include "tdlib/TdJson.h"
 
 #include <optional>
 
 // The text of a message bubble.
 QString messageText(const TdObject &content);
-// The chat-list preview of a last message; none gives "No messages yet".
+// The text with each character of its spoilers (but blanks and line breaks) shown
+// as "▒": what they hide never leaves the bubble that can reveal it.
+QString veiledText(const QString &text, const TextEntities &entities);
+// messageText with the spoilers of its text or caption veiled: for quotes and
+// notifications.
+QString veiledMessageText(const TdObject &content);
+// The chat-list preview of a last message, spoilers veiled; none gives "No
+// messages yet".
 QString previewText(const std::optional<TdObject> &message);
 // A non-empty "caption"."text".
 std::optional<QString> caption(const TdObject &content);

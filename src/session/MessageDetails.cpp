@@ -191,17 +191,18 @@ void readReply(MessageDetails &details, const TdObject &message, const MessageDe
     if (!id || *id == 0)
         return;
     details.replyToMessageID = QString::number(*id);
-    const QString quote = reply.value("quote"_L1).toObject().value("text"_L1).toObject().value("text"_L1).toString();
+    const TdObject quoted = reply.value("quote"_L1).toObject().value("text"_L1).toObject();
+    const QString quote = veiledText(quoted.value("text"_L1).toString(), textEntities(quoted));
     if (const TdObject *replied = context.storedMessage ? context.storedMessage(*id) : nullptr) {
         details.replyToIsOutgoing = replied->value("is_outgoing"_L1).toBool();
         if (!details.replyToIsOutgoing)
             details.replyToSender = senderName(*replied, context);
-        details.replyToText = messageText(replied->value("content"_L1).toObject());
+        details.replyToText = veiledMessageText(replied->value("content"_L1).toObject());
     } else {
         // A message of another chat, or one not loaded: what TDLib says of it.
         details.replyToSender = originName(reply.value("origin"_L1).toObject(), context);
         if (reply.value("content"_L1).isObject())
-            details.replyToText = messageText(reply.value("content"_L1).toObject());
+            details.replyToText = veiledMessageText(reply.value("content"_L1).toObject());
         else if (context.missingMessage && context.missingMessage(*id))
             details.replyToMissing = true;
     }
@@ -228,6 +229,9 @@ TextEntities textEntities(const TdObject &formattedText)
         {u"textEntityTypeEmailAddress"_s, Type::EmailAddress},
         {u"textEntityTypeMention"_s, Type::Mention},
         {u"textEntityTypeHashtag"_s, Type::Hashtag},
+        {u"textEntityTypeMentionName"_s, Type::MentionName},
+        {u"textEntityTypeBlockQuote"_s, Type::BlockQuote},
+        {u"textEntityTypeExpandableBlockQuote"_s, Type::BlockQuote},
     };
     TextEntities entities;
     for (const QJsonValue &value : formattedText.value("entities"_L1).toArray()) {
@@ -244,6 +248,14 @@ TextEntities textEntities(const TdObject &formattedText)
             argument = stringOf(type, "language");
         else if (*found == Type::TextUrl)
             argument = stringOf(type, "url");
+        const std::optional<qint64> user =
+            *found == Type::MentionName ? int64From(type.value("user_id"_L1)) : std::nullopt;
+        if (*found == Type::MentionName) {
+            // A name that leads to nobody is shown as plain text.
+            if (!user || *user <= 0)
+                continue;
+            argument = QString::number(*user);
+        }
         entities.append({int(*offset), int(*length), *found, argument});
     }
     return entities;

@@ -24,7 +24,11 @@ struct TextEntity {
         EmailAddress,
         // "@name": opens that public chat.
         Mention,
+        // A name that stands for a user (argument: the user's id): opens their chat.
+        MentionName,
         Hashtag,
+        // A quoted block; an expandable one is shown whole as well.
+        BlockQuote,
     };
 
     int offset = 0;

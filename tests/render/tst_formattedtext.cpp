@@ -149,6 +149,27 @@ private Q_SLOTS:
         QCOMPARE(bare.first().language, QString());
     }
 
+    void quotesStandApartAndNamesLeadToTheirUser()
+    {
+        const QString text = u"Ann said:\nStart early, bold move.\nTrue"_s;
+        const TextEntities entities{span(0, 3, Type::MentionName, u"42"_s), span(10, 24, Type::BlockQuote),
+                                    span(23, 4, Type::Bold)};
+        const QList<FormattedBlock> blocks = formattedBlocks(text, entities);
+        QCOMPARE(blocks.size(), 3);
+        QCOMPARE(blocks.at(0).html, u"<a href=\"vost-user:42\">Ann</a> said:"_s);
+        QVERIFY(!blocks.at(0).isQuote && blocks.at(1).isQuote && !blocks.at(2).isQuote);
+        // The quote keeps its styles, without the line break that ends it.
+        QCOMPARE(blocks.at(1).html, u"Start early, <b>bold</b> move."_s);
+        QCOMPARE(blocks.at(1).spokenText, u"Start early, bold move."_s);
+        QCOMPARE(blocks.at(2).html, u"True"_s);
+        // A quote inside a quote, or across a block of code, is not one: its text stays.
+        const QList<FormattedBlock> overlapping = formattedBlocks(
+            u"one two three"_s, {span(0, 7, Type::BlockQuote), span(4, 9, Type::Pre), span(2, 3, Type::BlockQuote)});
+        QCOMPARE(overlapping.size(), 2);
+        QVERIFY(overlapping.at(0).isQuote);
+        QCOMPARE(overlapping.at(0).spokenText + overlapping.at(1).spokenText, u"one two three"_s);
+    }
+
     void spoilersHideTheirTextUntilRevealed()
     {
         const QString text = u"The butler did it."_s;
@@ -177,12 +198,18 @@ private Q_SLOTS:
               {"@type":"textEntity","offset":-1,"length":3,"type":{"@type":"textEntityTypeBold"}},
               {"@type":"textEntity","offset":"x","length":3,"type":{"@type":"textEntityTypeBold"}},
               {"@type":"textEntity","offset":1,"length":3},
+              {"@type":"textEntity","offset":0,"length":2,"type":{"@type":"textEntityTypeMentionName","user_id":77}},
+              {"@type":"textEntity","offset":3,"length":2,"type":{"@type":"textEntityTypeMentionName","user_id":0}},
+              {"@type":"textEntity","offset":3,"length":8,"type":{"@type":"textEntityTypeExpandableBlockQuote"}},
+              {"@type":"textEntity","offset":0,"length":2,"type":{"@type":"textEntityTypeBlockQuote"}},
               "junk"]}}})")
                                      .object();
         const MessageDetails details = messageDetails(message);
         QCOMPARE(details.text, u"go here now"_s);
-        QCOMPARE(details.entities,
-                 (TextEntities{span(3, 4, Type::TextUrl, u"https://a.org"_s), span(0, 2, Type::Pre, u"sh"_s)}));
+        // A name for nobody is plain text; both kinds of quote are quotes.
+        QCOMPARE(details.entities, (TextEntities{span(3, 4, Type::TextUrl, u"https://a.org"_s),
+                                                 span(0, 2, Type::Pre, u"sh"_s), span(0, 2, Type::MentionName, u"77"_s),
+                                                 span(3, 8, Type::BlockQuote), span(0, 2, Type::BlockQuote)}));
         // A caption's entities go with the caption.
         const TdObject photo = QJsonDocument::fromJson(R"({"content":{"@type":"messagePhoto","photo":{"sizes":[]},
             "caption":{"text":"Lake","entities":[{"offset":0,"length":4,"type":{"@type":"textEntityTypeItalic"}}]}}})")

@@ -1,5 +1,6 @@
-// What chats and messages show: content texts, previews, drafts, subtitles,
-// initials, date texts across midnight, file helpers and reactions.
+// What chats and messages show: content texts, previews (spoilers veiled),
+// drafts, subtitles, initials, date texts across midnight, file helpers and
+// reactions.
 
 #include "session/ContentTexts.h"
 #include "session/DateTexts.h"
@@ -74,6 +75,46 @@ private Q_SLOTS:
         QCOMPARE(draftText(QJsonValue()), QString());
         QCOMPARE(chatSubtitle(json(R"({"@type":"chatTypeSupergroup","is_channel":true})")), u"Group or channel"_s);
         QCOMPARE(chatSubtitle(QJsonValue()), u"Telegram"_s);
+    }
+
+    void spoilersStayVeiledOutsideTheBubble()
+    {
+        const auto veiled = [](const char *content) {
+            const TdObject message{{"content"_L1, json(content)}};
+            return std::pair(previewText(message), veiledMessageText(message.value("content"_L1).toObject()));
+        };
+        // The preview and the notification's text: the spoiler's characters
+        // veiled, its blanks kept; the bubble's own text is whole.
+        const char *text = R"({"@type":"messageText","text":{"text":"It was the butler, sorry","entities":[
+            {"@type":"textEntity","offset":11,"length":6,"type":{"@type":"textEntityTypeSpoiler"}},
+            {"@type":"textEntity","offset":0,"length":2,"type":{"@type":"textEntityTypeBold"}}]}})";
+        QCOMPARE(veiled(text), std::pair(u"It was the ▒▒▒▒▒▒, sorry"_s, u"It was the ▒▒▒▒▒▒, sorry"_s));
+        QCOMPARE(messageText(json(text)), u"It was the butler, sorry"_s);
+        QCOMPARE(veiled(R"({"@type":"messageText","text":{"text":"a b","entities":[
+            {"offset":0,"length":3,"type":{"@type":"textEntityTypeSpoiler"}}]}})"),
+                 std::pair(u"▒ ▒"_s, u"▒ ▒"_s));
+        // A caption's spoiler: the preview names the photo, a notification veils it.
+        QCOMPARE(veiled(R"({"@type":"messagePhoto","caption":{"text":"guess who","entities":[
+            {"offset":6,"length":3,"type":{"@type":"textEntityTypeSpoiler"}}]}})"),
+                 std::pair(u"Photo"_s, u"guess ▒▒▒"_s));
+        // A spoiler past the end, before the start or of no length hides what it covers and nothing else.
+        QCOMPARE(veiled(R"({"@type":"messageText","text":{"text":"secret","entities":[
+            {"offset":3,"length":99,"type":{"@type":"textEntityTypeSpoiler"}},
+            {"offset":-2,"length":4,"type":{"@type":"textEntityTypeSpoiler"}},
+            {"offset":0,"length":0,"type":{"@type":"textEntityTypeSpoiler"}}]}})"),
+                 std::pair(u"sec▒▒▒"_s, u"sec▒▒▒"_s));
+    }
+
+    void veilingKeepsCharactersWhole()
+    {
+        // "🍕" is two UTF-16 units: half of it in a spoiler veils all of it, as one.
+        const QString pizza = u"a🍕b"_s;
+        QCOMPARE(veiledText(pizza, {{1, 1, TextEntity::Type::Spoiler, {}}}), u"a▒b"_s);
+        QCOMPARE(veiledText(pizza, {{2, 1, TextEntity::Type::Spoiler, {}}}), u"a▒b"_s);
+        QCOMPARE(veiledText(pizza, {{0, 4, TextEntity::Type::Spoiler, {}}}), u"▒▒▒"_s);
+        // Line breaks stay, other entities change nothing.
+        QCOMPARE(veiledText(u"x\ny"_s, {{0, 3, TextEntity::Type::Spoiler, {}}}), u"▒\n▒"_s);
+        QCOMPARE(veiledText(pizza, {{0, 4, TextEntity::Type::Bold, {}}}), pizza);
     }
 
     void initialsOfNames_data()

@@ -2,6 +2,8 @@
 
 #include "Attachments.h"
 
+#include "session/ContentTexts.h"
+
 #include <QFileInfo>
 #include <QLocale>
 #include <QUrl>
@@ -669,7 +671,15 @@ QVariant ChatViewModel::pendingStickerItem() const
 
 QVariant ChatViewModel::replyToMessageItem() const
 {
-    return m_replyToMessage ? QVariant(messageItem(*m_replyToMessage)) : QVariant::fromValue(nullptr);
+    if (!m_replyToMessage)
+        return QVariant::fromValue(nullptr);
+    QVariantMap item = messageItem(*m_replyToMessage);
+    // The banner quotes the message as a reply's quote does: its spoilers veiled.
+    for (const MessageDetails &details : messageDetails(selectedChatIDText())) {
+        if (details.messageID == m_replyToMessage->id && details.text == m_replyToMessage->text)
+            item.insert(u"text"_s, veiledText(details.text, details.entities));
+    }
+    return item;
 }
 
 QVariant ChatViewModel::editingMessageItem() const

@@ -223,6 +223,23 @@ int MessageListModel::rowOf(const QString &messageID) const
     return -1;
 }
 
+int MessageListModel::dividerRowToOpenAt() const
+{
+    const auto row =
+        std::find_if(m_rows.cbegin(), m_rows.cend(), [](const Row &candidate) { return candidate.showsUnreadDivider; });
+    if (row == m_rows.cend() || m_openedDividers.contains(m_chatID + u'/' + row->message.id))
+        return -1;
+    return int(row - m_rows.cbegin());
+}
+
+void MessageListModel::dividerOpened()
+{
+    const auto row =
+        std::find_if(m_rows.cbegin(), m_rows.cend(), [](const Row &candidate) { return candidate.showsUnreadDivider; });
+    if (row != m_rows.cend())
+        m_openedDividers.insert(m_chatID + u'/' + row->message.id);
+}
+
 QVariantList MessageListModel::media() const
 {
     QVariantList found;

@@ -6,6 +6,7 @@
 #include "session/ModelTypes.h"
 
 #include <QPointer>
+#include <QSet>
 #include <QtQml/qqmlregistration.h>
 
 class ChatViewModel;
@@ -99,6 +100,13 @@ public:
     QString chatID() const { return m_chatID; }
     // The row showing the message (an album's row for any of its messages), or -1.
     Q_INVOKABLE int rowOf(const QString &messageID) const;
+    // The row of the unread divider the chat has yet to open at, or -1: a chat may
+    // open at its divider once, the first time it shows it, and later opens at its
+    // newest message like any other.
+    Q_INVOKABLE int dividerRowToOpenAt() const;
+    // The chat's first screen with its divider has been shown (at the divider, or
+    // at the newest message with the divider in view).
+    Q_INVOKABLE void dividerOpened();
     // The photos and videos of the loaded messages whose files are here, oldest
     // first, for the viewer: messageID, path, kind (MessageContent.Kind), fileName
     // and saveName.
@@ -128,4 +136,6 @@ private:
     QPointer<ChatViewModel> m_viewModel;
     QString m_chatID;
     QList<Row> m_rows;
+    // Chat and divider ids ("chat/message") whose first screen has been shown.
+    QSet<QString> m_openedDividers;
 };

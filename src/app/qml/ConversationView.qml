@@ -243,6 +243,7 @@ FocusScope {
         onContentYChanged: {
             atNewest = contentY + height >= originY + contentHeight - 2;
             loadOlderIfNearTop();
+            placement.noteSeen();
         }
         onCountChanged: Qt.callLater(loadOlderIfNearTop)
         onHeightChanged: if (atNewest) positionViewAtBeginning()
@@ -254,6 +255,7 @@ FocusScope {
                 transcript.currentIndex = -1;
                 transcript.positionViewAtBeginning();
                 transcript.atNewest = true;
+                placement.chatChanged();
             }
             function onRowsInserted(parent, first, last) {
                 // Row 0 is the newest: a message that arrives while the reader is
@@ -261,7 +263,8 @@ FocusScope {
                 if (first === 0 && transcript.atNewest)
                     Qt.callLater(transcript.positionViewAtBeginning);
                 else if (first === 0)
-                    toNewest.unseen += last - first + 1;
+                    placement.arrived(last - first + 1);
+                Qt.callLater(placement.openAtDivider);
             }
         }
 
@@ -270,7 +273,16 @@ FocusScope {
 
             function onHistoryStateChanged() {
                 Qt.callLater(transcript.loadOlderIfNearTop);
+                Qt.callLater(placement.openAtDivider);
             }
+        }
+
+        TranscriptPlacement {
+            id: placement
+
+            view: transcript
+            messages: conversation.messageList
+            messagesArrived: conversation.viewModel.messagesArrived
         }
 
         Component.onCompleted: positionViewAtBeginning()
@@ -301,7 +313,13 @@ FocusScope {
             bottomMargin: 12
         }
         visible: !transcript.atNewest && transcript.count > 0
-        onClicked: transcript.showNewest()
+        unseen: placement.unseen
+        onClicked: {
+            if (placement.unseen > 0)
+                placement.showArrived();
+            else
+                transcript.showNewest();
+        }
     }
 
     AudioPlayback {

@@ -333,6 +333,8 @@ Item {
                     shown: visible && message.onScreen
                     maximumWidth: bubble.innerWidth
                     onMentionActivated: username => message.mentionActivated(username)
+                    // A name that stands for a user opens their chat, as a contact card does.
+                    onUserMentionActivated: userID => message.contactMessageRequested(userID)
                 }
 
                 Loader {

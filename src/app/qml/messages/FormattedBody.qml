@@ -2,9 +2,10 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Vost.App
 
-// A message's text as its sender formatted it: paragraphs of rich text and blocks
-// of code. Spoilers stay under a veil, and out of what screen readers read, until
-// a click (or the paragraph's Press action) reveals them.
+// A message's text as its sender formatted it: paragraphs of rich text, quoted
+// paragraphs (a bar at their side) and blocks of code. Spoilers stay under a
+// veil, and out of what screen readers read, until a click (or the paragraph's
+// Press action) reveals them.
 Column {
     id: body
 
@@ -17,7 +18,13 @@ Column {
     property real maximumWidth: 300
     property bool spoilersRevealed: false
 
+    //: Said by screen readers of a quoted paragraph in a message.
+    readonly property string quotation: qsTr("Quotation")
+    //: The addresses behind the links of a message's text, for screen readers.
+    readonly property string linksTo: qsTr("Links to %1")
+
     signal mentionActivated(string username)
+    signal userMentionActivated(string userID)
 
     readonly property var blocks: MessageText.blocks(text, entities, spoilersRevealed,
                                                      outgoing ? "#FFFFFF" : Appearance.accent.toString(),
@@ -29,6 +36,8 @@ Column {
             spoilersRevealed = true;
         else if (kind === MessageText.Mention)
             mentionActivated(MessageText.mentionedName(link));
+        else if (kind === MessageText.UserMention)
+            userMentionActivated(MessageText.mentionedUser(link));
         else
             Qt.openUrlExternally(link);
     }
@@ -48,6 +57,7 @@ Column {
 
                 visible: !block.modelData.isCode
                 width: Math.min(implicitWidth, body.maximumWidth)
+                leftPadding: block.modelData.isQuote ? 10 : 0
                 text: block.modelData.html
                 textFormat: Text.RichText
                 wrapMode: Text.Wrap
@@ -56,11 +66,21 @@ Column {
                 onLinkActivated: link => body.activate(link)
                 Accessible.role: Accessible.Paragraph
                 Accessible.name: block.modelData.spokenText
-                //: The addresses behind the links of a message's text, for screen readers.
-                Accessible.description: block.modelData.linkTargets.length > 0
-                                        ? qsTr("Links to %1").arg(block.modelData.linkTargets.join(", ")) : ""
+                Accessible.description: [block.modelData.isQuote ? body.quotation : "",
+                                         block.modelData.linkTargets.length > 0
+                                         ? body.linksTo.arg(block.modelData.linkTargets.join(", ")) : ""]
+                                        .filter(part => part !== "").join(", ")
                 Accessible.ignored: !visible || !body.shown
                 Accessible.onPressAction: body.spoilersRevealed = true
+
+                // A quote's bar.
+                Rectangle {
+                    visible: block.modelData.isQuote
+                    width: 3
+                    height: parent.height
+                    radius: 1.5
+                    color: body.outgoing ? "#FFFFFF" : Appearance.accent
+                }
 
                 HoverHandler {
                     id: pointer
