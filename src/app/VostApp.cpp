@@ -12,6 +12,8 @@
 #include "StatusItemImage.h"
 #include "StickerEngine.h"
 #include "bundle/AppBundle.h"
+#include "platform/ColorScheme.h"
+#include "platform/LauncherEntry.h"
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "platform/TerminationSignals.h"
@@ -65,16 +67,6 @@ constexpr int contentSettleMs = 1000;
 // The demo account's fixed credentials: the demo library accepts any.
 constexpr qint64 demoAPIID = 12345;
 constexpr auto demoAPIHash = "vost-demo";
-
-// The colour of text on the panel the tray item sits on. Qt cannot ask the tray
-// host, so this follows the desktop: GNOME's top bar is always dark, elsewhere the
-// panel follows the system palette.
-QColor panelTextColor()
-{
-    if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains("GNOME"_L1, Qt::CaseInsensitive))
-        return Qt::white;
-    return QGuiApplication::palette().color(QPalette::WindowText);
-}
 
 void nameApplication()
 {
@@ -281,7 +273,12 @@ bool VostApp::launch()
     const AppEvents &events = AppEvents::shared();
     connect(&events, &AppEvents::unreadCountDidChange, this, [this](qint64 total) {
         updateStatusItem(int(std::clamp<qint64>(total, 0, std::numeric_limits<int>::max())));
+        LauncherEntry::showCount(total);
     });
+    // A dock keeps the last count it was sent, also from a run that ended badly.
+    LauncherEntry::showCount(0);
+    m_colorScheme = makeSystemColorSchemeWatcher();
+    connect(m_colorScheme.get(), &ColorSchemeWatcher::schemeChanged, this, [this] { updateStatusItem(m_unreadCount); });
     connect(&events, &AppEvents::filePanelWillPresent, this, &VostApp::suspendPopoverForFilePanel);
     connect(&events, &AppEvents::filePanelDidFinish, this, &VostApp::restorePopoverAfterFilePanel);
     connect(qApp, &QCoreApplication::aboutToQuit, m_session, &TelegramSession::shutDown);
@@ -350,14 +347,19 @@ void VostApp::updateStatusItem(int unreadCount)
 {
     m_unreadCount = std::max(unreadCount, 0);
     if (m_trayIcon) {
-        const QColor glyphColor = panelTextColor();
+        const QColor glyphColor = StatusItem::glyphColor(
+            m_colorScheme ? m_colorScheme->scheme() : DesktopColorScheme::Unknown,
+            StatusItem::panelIsAlwaysDark(qEnvironmentVariable("XDG_CURRENT_DESKTOP")), QGuiApplication::palette());
+        // Trays give square slots: one picture per usual side, the host takes the
+        // nearest (the 2x ones for HiDPI screens and 44 to 64 pixel panels).
         QIcon icon;
         QList<qreal> ratios{1.0, 2.0};
         for (const QScreen *screen : QGuiApplication::screens())
             if (!ratios.contains(screen->devicePixelRatio()))
                 ratios.append(screen->devicePixelRatio());
-        for (const qreal ratio : ratios)
-            icon.addPixmap(QPixmap::fromImage(StatusItem::image(m_unreadCount, ratio, glyphColor)));
+        for (const int side : StatusItem::squareSides)
+            for (const qreal ratio : ratios)
+                icon.addPixmap(QPixmap::fromImage(StatusItem::squareImage(m_unreadCount, side, ratio, glyphColor)));
         m_trayIcon->setIcon(icon);
         // Painting an icon caches a copy under that icon's key; every unread count
         // makes a new icon, so the copies of the old ones would pile up.

@@ -10,6 +10,7 @@
 #include <optional>
 
 class AppRootView;
+class ColorSchemeWatcher;
 class CredentialStore;
 class NotificationPoster;
 class PopoverWindow;
@@ -84,6 +85,7 @@ private:
     QTimer *m_trayWatch = nullptr;
     std::unique_ptr<NotificationPoster> m_poster;
     std::unique_ptr<SoundPlayer> m_soundPlayer;
+    std::unique_ptr<ColorSchemeWatcher> m_colorScheme;
     QPoint m_clickPoint;
     bool m_hasClickPoint = false;
     bool m_placedOnce = false;

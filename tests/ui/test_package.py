@@ -91,6 +91,9 @@ class Package(unittest.TestCase):
                             shot)
         icons = os.path.join(self.usr, "share", "icons", "hicolor")
         self.assertTrue(os.path.exists(os.path.join(icons, "scalable", "apps", APP_ID + ".svg")))
+        # The tray glyph for themes that recolour symbolic icons.
+        with open(os.path.join(icons, "symbolic", "apps", "vost-symbolic.svg")) as file:
+            self.assertIn("<path", file.read())
         for size in (16, 22, 24, 32, 48, 64, 128, 256, 512):
             icon = os.path.join(icons, f"{size}x{size}", "apps", APP_ID + ".png")
             with open(icon, "rb") as file:

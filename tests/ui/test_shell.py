@@ -16,6 +16,49 @@ def unread_total(vost):
     return int(UNREAD.fullmatch(vost.tooltip()).group(1))
 
 
+def red_and_white(desktop, box):
+    """The bounding boxes (x, y, w, h, relative to box) of the badge's red and of
+    the white inside it, as the screen shows them."""
+    x, y, w, h = box
+    path = desktop.screenshot(os.path.join(desktop.work, "slot.png"), crop=box)
+    data = subprocess.run(["convert", path, "-depth", "8", "ppm:-"], capture_output=True, check=True).stdout
+    pixels = data.split(b"\n", 3)[3]
+    red, white = [], []
+    for i in range(0, w * h * 3, 3):
+        r, g, b = pixels[i], pixels[i + 1], pixels[i + 2]
+        point = (i // 3 % w, i // 3 // w)
+        if r > 190 and g < 90 and b < 90:
+            red.append(point)
+        elif r > 240 and g > 200 and b > 200:
+            white.append(point)
+
+    def bounds(points):
+        if not points:
+            return None
+        xs, ys = [p[0] for p in points], [p[1] for p in points]
+        return min(xs), min(ys), max(xs) - min(xs) + 1, max(ys) - min(ys) + 1
+    red_box = bounds(red)
+    inside = [p for p in white if red_box and red_box[0] <= p[0] < red_box[0] + red_box[2]
+              and red_box[1] <= p[1] < red_box[1] + red_box[3]]
+    return red_box, bounds(inside)
+
+
+def launcher_updates(path):
+    """The Unity launcher Update signals dbus-monitor saw: (app_uri, count, visible)."""
+    with open(path, errors="replace") as file:
+        text = file.read()
+    updates = []
+    for block in text.split("\nsignal ")[1:]:
+        if "interface=com.canonical.Unity.LauncherEntry; member=Update" not in block:
+            continue
+        uri = re.search(r'string "([^"]*)"', block)
+        count = re.search(r'string "count"\s+variant\s+int64 (-?\d+)', block)
+        visible = re.search(r'string "count-visible"\s+variant\s+boolean (true|false)', block)
+        if uri and count and visible:
+            updates.append((uri.group(1), int(count.group(1)), visible.group(1) == "true"))
+    return updates
+
+
 class Tray(VostTestCase):
     def test_the_badge_counts_unread_messages_and_reading_a_chat_lowers_it(self):
         vost = self.open_signed_in()
@@ -106,6 +149,50 @@ class Tray(VostTestCase):
         self.assertEqual(second.returncode, 0, second.stderr)
         wait_until(vost.popover_shown, what="the first one's popover")
         self.assertTrue(vost.running())
+
+
+class TrayPicture(VostTestCase):
+    def test_the_square_slot_shows_the_badge_at_a_readable_size(self):
+        # trayer gives the item a square slot: the badge fills its top-right corner
+        # at over half the slot's height, with the count in white inside it.
+        vost = self.launch()
+        slot = wait_until(vost.tray_icon_geometry, what="the tray item")
+        self.assertLessEqual(abs(slot[2] - slot[3]), 2, f"slot {slot}")
+        red, white = wait_until(lambda: red_and_white(self.desktop, slot)[0] and red_and_white(self.desktop, slot),
+                                timeout=20, what="the badge in the slot")
+        x, y, w, h = red
+        self.assertGreater(h, slot[3] / 2, f"badge {red} in slot {slot}")
+        self.assertLessEqual(y, 1)
+        self.assertGreaterEqual(x + w, slot[2] - 1)
+        self.assertIsNotNone(white, "no white count in the badge")
+        self.assertGreaterEqual(white[3], 7, f"count {white} in badge {red}")
+
+
+class LauncherCount(VostTestCase):
+    def test_the_launcher_count_is_the_unread_total_and_follows_it(self):
+        log = os.path.join(self.desktop.work, f"launcher-{self.desktop.homes}.log")
+        with open(log, "wb") as out:
+            monitor = subprocess.Popen(["dbus-monitor", "--session",
+                                        "type='signal',interface='com.canonical.Unity.LauncherEntry'"],
+                                       env=self.desktop.env, stdout=out, stderr=subprocess.DEVNULL)
+        self.addCleanup(monitor.wait, 5)
+        self.addCleanup(monitor.terminate)
+        # dbus-monitor prints the name the bus gave it once it is listening.
+        wait_until(lambda: "NameAcquired" in open(log, errors="replace").read(), what="dbus-monitor listening")
+        vost = self.launch()
+        uri = "application://com.corvella.Vost.desktop"
+        # At start-up a stale count is cleared; then the total arrives.
+        first = wait_until(lambda: launcher_updates(log), what="a launcher update")[0]
+        self.assertEqual(first, (uri, 0, False))
+        wait_until(lambda: launcher_updates(log)[-1][1] > 3, timeout=20, what="the unread total on the launcher")
+        total = unread_total(vost)
+        wait_until(lambda: launcher_updates(log)[-1] == (uri, total, True), what=f"the launcher count at {total}")
+        vost.open_popover()
+        vost.wait_for_chats()
+        vost.find("list item", "Family, pinned, 3 unread", contains=True).press()
+        vost.find("panel", "Conversation with Family")
+        wait_until(lambda: launcher_updates(log)[-1] == (uri, total - 3, True), timeout=15,
+                   what="the launcher count less Family's 3")
 
 
 class WithoutTray(VostTestCase):

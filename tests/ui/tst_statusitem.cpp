@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QPainter>
+#include <QPalette>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -70,108 +71,192 @@ private Q_SLOTS:
         QCOMPARE(StatusItem::toolTip(-2, ConnectionState::Updating), u"Vost\nUpdating\u2026"_s);
     }
 
-    void badgeTextAndFont()
+    void badgeText()
     {
         QCOMPARE(StatusItem::badgeText(0), QString());
+        QCOMPARE(StatusItem::badgeText(-5), QString());
         QCOMPARE(StatusItem::badgeText(1), u"1"_s);
         QCOMPARE(StatusItem::badgeText(99), u"99"_s);
         QCOMPARE(StatusItem::badgeText(100), u"99+"_s);
-        QCOMPARE(StatusItem::badgeFontSize(1), 9.0);
-        QCOMPARE(StatusItem::badgeFontSize(9), 9.0);
-        QCOMPARE(StatusItem::badgeFontSize(10), 7.5);
-        QCOMPARE(StatusItem::badgeFontSize(99), 7.5);
-        QCOMPARE(StatusItem::badgeFontSize(100), 6.1);
     }
 
-    void sizes_data()
+    void squareSizes_data()
     {
         QTest::addColumn<int>("count");
+        QTest::addColumn<int>("side");
         QTest::addColumn<qreal>("ratio");
         QTest::addColumn<QSize>("pixels");
-        QTest::newRow("0 at 1x") << 0 << 1.0 << QSize(22, 22);
-        QTest::newRow("-3 at 1x") << -3 << 1.0 << QSize(22, 22);
-        QTest::newRow("1 at 1x") << 1 << 1.0 << QSize(38, 22);
-        QTest::newRow("0 at 2x") << 0 << 2.0 << QSize(44, 44);
-        QTest::newRow("5 at 2x") << 5 << 2.0 << QSize(76, 44);
-        QTest::newRow("5 at 1.5x") << 5 << 1.5 << QSize(57, 33);
+        QTest::newRow("0, 22 at 1x") << 0 << 22 << 1.0 << QSize(22, 22);
+        QTest::newRow("-3, 22 at 1x") << -3 << 22 << 1.0 << QSize(22, 22);
+        QTest::newRow("5, 24 at 1x") << 5 << 24 << 1.0 << QSize(24, 24);
+        QTest::newRow("5, 32 at 2x") << 5 << 32 << 2.0 << QSize(64, 64);
+        QTest::newRow("500, 22 at 1.5x") << 500 << 22 << 1.5 << QSize(33, 33);
+        QTest::newRow("1, 22 at a bad ratio") << 1 << 22 << 0.0 << QSize(22, 22);
     }
 
-    void sizes()
+    void squareSizes()
     {
         QFETCH(int, count);
+        QFETCH(int, side);
         QFETCH(qreal, ratio);
         QFETCH(QSize, pixels);
-        const QImage image = StatusItem::image(count, ratio, glyph);
+        const QImage image = StatusItem::squareImage(count, side, ratio, glyph);
         QCOMPARE(image.size(), pixels);
-        QCOMPARE(image.devicePixelRatio(), ratio);
+        QCOMPARE(image.devicePixelRatio(), ratio > 0 ? ratio : 1.0);
     }
 
-    void withoutBadgeTheGlyphIsCentred()
+    void theGlyphFillsTheSlot_data()
     {
-        const QImage image = StatusItem::image(0, 1.0, glyph);
-        const QRect ink = inkBox(image, image.rect());
-        // Inside x 3..19, y 3..19, and centred within a pixel.
-        QVERIFY2(QRect(3, 3, 16, 16).contains(ink),
-                 qPrintable(u"ink %1,%2 %3x%4"_s.arg(ink.x()).arg(ink.y()).arg(ink.width()).arg(ink.height())));
-        QVERIFY(qAbs((ink.left() - 0) - (21 - ink.right())) <= 1);
-        // The glyph's colour, and the ellipsis cut out of it.
-        QCOMPARE(QColor(image.pixel(5, 8)).rgb(), glyph.rgb());
-        QCOMPARE(qAlpha(image.pixel(11, 9)), 0);
-        for (int x = 0; x < image.width(); ++x)
-            QVERIFY(!isBadgeRed(image.pixel(x, 11)));
+        QTest::addColumn<int>("side");
+        QTest::addColumn<qreal>("ratio");
+        for (const int side : StatusItem::squareSides)
+            for (const qreal ratio : {1.0, 2.0})
+                QTest::addRow("%d at %gx", side, ratio) << side << ratio;
     }
 
-    void badgeDisc_data()
+    void theGlyphFillsTheSlot()
+    {
+        QFETCH(int, side);
+        QFETCH(qreal, ratio);
+        const QImage image = StatusItem::squareImage(0, side, ratio, glyph);
+        const QRect ink = inkBox(image, image.rect());
+        // Within a pixel or so of every edge, and centred.
+        QVERIFY2(ink.width() >= image.width() - 2 * ratio && ink.height() >= image.height() * 0.8,
+                 qPrintable(u"ink %1x%2 in %3"_s.arg(ink.width()).arg(ink.height()).arg(image.width())));
+        QVERIFY(qAbs(ink.left() - (image.width() - 1 - ink.right())) <= 1);
+        // The glyph's colour in the bubble's body, the ellipsis cut out of it.
+        const auto at = [&](qreal x, qreal y) { return image.pixel(int(x * side * ratio), int(y * side * ratio)); };
+        QCOMPARE(QColor(at(0.15, 0.3)).rgb(), glyph.rgb());
+        QCOMPARE(qAlpha(at(0.5, 0.42)), 0);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                QVERIFY(!isBadgeRed(image.pixel(x, y)));
+    }
+
+    void theBadgeCoversTheTopRightCorner_data()
     {
         QTest::addColumn<int>("count");
+        QTest::addColumn<int>("side");
         QTest::addColumn<qreal>("ratio");
-        for (const int count : {1, 7, 10, 99, 100, 5000})
-            for (const qreal ratio : {1.0, 2.0})
-                QTest::addRow("%d at %gx", count, ratio) << count << ratio;
+        for (const int count : {1, 7, 42, 99, 100, 5000})
+            for (const int side : StatusItem::squareSides)
+                for (const qreal ratio : {1.0, 2.0})
+                    QTest::addRow("%d in %d at %gx", count, side, ratio) << count << side << ratio;
     }
 
-    void badgeDisc()
+    void theBadgeCoversTheTopRightCorner()
     {
         QFETCH(int, count);
+        QFETCH(int, side);
         QFETCH(qreal, ratio);
-        const QImage image = StatusItem::image(count, ratio, glyph);
-        const auto at = [&](qreal x, qreal y) { return image.pixel(int(x * ratio), int(y * ratio)); };
-        // The glyph moved left: it starts at x 1.
-        const QRect glyphInk = inkBox(image, QRect(0, 0, int(20 * ratio), image.height()));
-        QVERIFY(glyphInk.left() >= int(1 * ratio) - 1 && glyphInk.left() <= int(2 * ratio));
-        // The red disc fills x 22..36, y 4..18 around the text; the corners of its
-        // square stay clear.
-        QVERIFY(isBadgeRed(at(25.5, 6.5)));
-        QVERIFY(isBadgeRed(at(32.5, 6.5)));
-        QVERIFY(isBadgeRed(at(25.5, 15.5)));
-        QVERIFY(isBadgeRed(at(32.5, 15.5)));
-        QCOMPARE(qAlpha(at(22.3, 4.3)), 0);
-        QCOMPARE(qAlpha(at(35.7, 17.7)), 0);
-        QCOMPARE(qAlpha(at(29, 1)), 0);
-        QCOMPARE(qAlpha(at(29, 20.5)), 0);
-        // White text centred in the disc.
-        const QRect disc(int(22 * ratio), int(4 * ratio), int(14 * ratio), int(14 * ratio));
-        const QRect text = whiteBox(image, disc);
-        QVERIFY2(!text.isEmpty(), "no white text in the badge");
+        const QImage image = StatusItem::squareImage(count, side, ratio, glyph);
+        const QRectF badge = StatusItem::squareBadgeRect(count, side);
+        const QRect device(int(badge.x() * ratio), int(badge.y() * ratio), int(std::ceil(badge.width() * ratio)),
+                           int(std::ceil(badge.height() * ratio)));
+        // Over half the slot high, at its top and right edges, narrower than the slot
+        // for one or two digits.
+        QVERIFY(badge.height() > side / 2.0);
+        QCOMPARE(badge.top(), 0.0);
+        QCOMPARE(badge.right(), qreal(side));
+        QVERIFY(badge.width() <= side);
+        if (count < 100)
+            QVERIFY(badge.width() < side);
+        // Red around the count, nothing red outside the badge; the glyph is still
+        // there under it.
+        QVERIFY(isBadgeRed(image.pixel(device.left() + device.width() / 2, device.top() + int(ratio))));
+        QVERIFY(
+            isBadgeRed(image.pixel(device.right() - int(std::ceil(1.5 * ratio)), device.top() + device.height() / 2)));
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (!device.contains(x, y))
+                    QVERIFY(!isBadgeRed(image.pixel(x, y)));
+        QCOMPARE(QColor(image.pixel(int(0.25 * side * ratio), int(0.7 * side * ratio))).rgb(), glyph.rgb());
+
+        // The count in white inside the badge, centred, its digits at least 7 pixels
+        // tall at 22 (the rows of the badge with white in them).
+        const QRect text = whiteBox(image, device);
+        QVERIFY2(!text.isEmpty(), "no white count in the badge");
+        QVERIFY(device.adjusted(1, 1, -1, -1).contains(text));
+        int whiteRows = 0;
+        for (int y = device.top(); y <= device.bottom(); ++y) {
+            bool white = false;
+            for (int x = device.left(); x <= device.right() && !white; ++x)
+                white = isWhitish(image.pixel(x, y));
+            whiteRows += white ? 1 : 0;
+        }
+        QVERIFY2(whiteRows >= int(std::floor(7.0 * side / 22 * ratio)),
+                 qPrintable(u"digits %1 pixels tall"_s.arg(whiteRows)));
         const QPointF centre = QRectF(text).center() / ratio;
-        QVERIFY2(qAbs(centre.x() - 29) <= 1.0 && qAbs(centre.y() - 11) <= 1.5,
-                 qPrintable(u"text centred at %1,%2"_s.arg(centre.x()).arg(centre.y())));
-        QVERIFY(disc.contains(text));
+        QVERIFY2(qAbs(centre.x() - badge.center().x()) <= 1.0 && qAbs(centre.y() - badge.center().y()) <= 1.0,
+                 qPrintable(u"count centred at %1,%2"_s.arg(centre.x()).arg(centre.y())));
     }
 
-    void longerTextIsSmallerButWider()
+    // "99+" keeps its three characters apart and whole: three runs of white
+    // columns, none touching the badge's ends.
+    void ninetyNinePlusFits()
     {
-        const QRect disc(22, 4, 14, 14);
-        const QImage one = StatusItem::image(8, 4.0, glyph);
-        const QImage two = StatusItem::image(88, 4.0, glyph);
-        const QImage three = StatusItem::image(888, 4.0, glyph);
-        const QRect scaled(disc.topLeft() * 4, disc.size() * 4);
-        const QRect oneBox = whiteBox(one, scaled);
-        const QRect twoBox = whiteBox(two, scaled);
-        const QRect threeBox = whiteBox(three, scaled);
-        QVERIFY(oneBox.height() > twoBox.height());
-        QVERIFY(twoBox.height() > threeBox.height());
-        QVERIFY(threeBox.width() > oneBox.width());
+        for (const int side : StatusItem::squareSides) {
+            const QImage image = StatusItem::squareImage(1234, side, 1.0, glyph);
+            const QRect badge = StatusItem::squareBadgeRect(1234, side).toRect();
+            int runs = 0;
+            bool inRun = false;
+            for (int x = badge.left(); x <= badge.right(); ++x) {
+                bool white = false;
+                for (int y = badge.top(); y <= badge.bottom() && !white; ++y)
+                    white = isWhitish(image.pixel(x, y));
+                runs += white && !inRun ? 1 : 0;
+                inRun = white;
+            }
+            QVERIFY2(runs == 3, qPrintable(u"%1 runs of white at %2"_s.arg(runs).arg(side)));
+            const QRect text = whiteBox(image, badge);
+            QVERIFY(text.left() > badge.left() + 1 && text.right() < badge.right() - 1);
+        }
+    }
+
+    void glyphColours_data()
+    {
+        QTest::addColumn<int>("scheme");
+        QTest::addColumn<bool>("alwaysDark");
+        QTest::addColumn<bool>("darkPalette");
+        QTest::addColumn<bool>("lightGlyph");
+        using Scheme = DesktopColorScheme;
+        QTest::newRow("portal prefers dark, light palette") << int(Scheme::Dark) << false << false << true;
+        QTest::newRow("portal prefers light, dark palette") << int(Scheme::Light) << false << true << false;
+        QTest::newRow("portal prefers dark, dark palette") << int(Scheme::Dark) << false << true << true;
+        QTest::newRow("no preference, dark palette") << int(Scheme::NoPreference) << false << true << true;
+        QTest::newRow("no preference, light palette") << int(Scheme::NoPreference) << false << false << false;
+        QTest::newRow("no portal, light palette") << int(Scheme::Unknown) << false << false << false;
+        QTest::newRow("no portal, dark palette") << int(Scheme::Unknown) << false << true << true;
+        QTest::newRow("dark bar, light palette") << int(Scheme::Unknown) << true << false << true;
+        QTest::newRow("dark bar, portal prefers light") << int(Scheme::Light) << true << false << true;
+    }
+
+    void glyphColours()
+    {
+        QFETCH(int, scheme);
+        QFETCH(bool, alwaysDark);
+        QFETCH(bool, darkPalette);
+        QFETCH(bool, lightGlyph);
+        QPalette palette;
+        palette.setColor(QPalette::Window, darkPalette ? QColor(0x2B, 0x2B, 0x2B) : QColor(0xEF, 0xEF, 0xEF));
+        palette.setColor(QPalette::WindowText, darkPalette ? QColor(0xF0, 0xF0, 0xF0) : QColor(0x10, 0x10, 0x10));
+        const QColor colour = StatusItem::glyphColor(DesktopColorScheme(scheme), alwaysDark, palette);
+        QCOMPARE(colour.alpha(), 255);
+        if (lightGlyph)
+            QVERIFY2(colour.lightness() >= 200, qPrintable(colour.name()));
+        else
+            QVERIFY2(colour.lightness() <= 60, qPrintable(colour.name()));
+        // The palette's own text colour where it is the right shade.
+        if (lightGlyph == darkPalette)
+            QCOMPARE(colour, palette.color(QPalette::WindowText));
+    }
+
+    void desktopsWithDarkBars()
+    {
+        for (const auto &name : {u"GNOME"_s, u"ubuntu:GNOME"_s, u"gnome"_s, u"sway"_s, u"Hyprland"_s, u"Pantheon"_s})
+            QVERIFY2(StatusItem::panelIsAlwaysDark(name), qPrintable(name));
+        for (const auto &name : {u""_s, u"KDE"_s, u"XFCE"_s, u"LXQt"_s, u"GNOME-Classic:GNOME"_s, u"GNOMEish"_s})
+            QVERIFY2(!StatusItem::panelIsAlwaysDark(name), qPrintable(name));
     }
 
     void symbolsAreKnown()
