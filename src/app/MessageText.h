@@ -30,6 +30,9 @@ public:
     // The username a mention's link names, without "@".
     Q_INVOKABLE static QString mentionedName(const QString &link);
 
+    // The rich text with every occurrence of the words, ignoring case, marked
+    // (outside tags only); unchanged when the words are empty.
+    Q_INVOKABLE static QString highlighted(const QString &html, const QString &words);
     // Rich text for a Text item with textFormat Text.RichText (or StyledText);
     // linkColor colours the links.
     Q_INVOKABLE static QString richText(const QString &text, const QString &linkColor = QString());

@@ -16,6 +16,8 @@ Column {
     property bool shown: true
     property real maximumWidth: 300
     property bool spoilersRevealed: false
+    // Words a search found here, marked wherever they occur; "" for none.
+    property string highlight
 
     signal mentionActivated(string username)
 
@@ -48,7 +50,7 @@ Column {
 
                 visible: !block.modelData.isCode
                 width: Math.min(implicitWidth, body.maximumWidth)
-                text: block.modelData.html
+                text: MessageText.highlighted(block.modelData.html, body.highlight)
                 textFormat: Text.RichText
                 wrapMode: Text.Wrap
                 color: body.foreground
