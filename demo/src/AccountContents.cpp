@@ -181,6 +181,8 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
     DemoChat &e = privateChat(emma);
     e.pinIndex = 2;
     fillTalk(e, {emma, me}, 200, 60 * 24 * 60, 400);
+    // The first message says what no other does: a search finds it alone, at the start.
+    e.messages.begin()->second.content = a.textContent(u"So nice to meet you at the lighthouse museum yesterday!"_s);
     add(e, emma, 390, a.photoContent(m_seed++, 1280, 960, u"Sunset at the lake 🌅"_s));
     const qint64 albumID = a.newAlbumID();
     for (int i = 0; i < 3; ++i) {

@@ -28,7 +28,40 @@ bool isArchiveList(const QJsonObject &request)
     return typeOf(request.value("chat_list"_L1)) == "chatListArchive"_L1;
 }
 
+// What a search looks through: a message's text, or its media's caption.
+QString searchableText(const DemoMessage &message)
+{
+    const QJsonObject content = message.content;
+    const QJsonValue text = content.value("text"_L1).toObject().value("text"_L1);
+    return text.isString() ? text.toString() : content.value("caption"_L1).toObject().value("text"_L1).toString();
+}
+
 } // namespace
+
+QJsonObject Client::searchChat(const DemoChat &chat, const QString &query, qint64 fromMessageID, int limit) const
+{
+    // Newest first; a page starts below from_message_id and the next one below its last.
+    QJsonArray page;
+    int total = 0;
+    qint64 last = 0;
+    bool more = false;
+    for (auto it = chat.messages.rbegin(); it != chat.messages.rend(); ++it) {
+        const DemoMessage &message = it->second;
+        if (message.pending || !searchableText(message).contains(query, Qt::CaseInsensitive))
+            continue;
+        ++total;
+        if (fromMessageID != 0 && message.id >= fromMessageID)
+            continue;
+        if (page.size() < limit) {
+            page.append(m_account->messageJson(message));
+            last = message.id;
+        } else {
+            more = true;
+        }
+    }
+    return object("foundChatMessages",
+                  {{"total_count", total}, {"messages", page}, {"next_from_message_id", more ? last : qint64(0)}});
+}
 
 QByteArray makeBytes(const DemoFile &file)
 {
@@ -207,6 +240,20 @@ bool Client::handleChats(const QString &type, const QJsonObject &request)
         } else {
             answer(request, ok());
         }
+        return true;
+    }
+    if (type == "searchChatMessages"_L1) {
+        const DemoChat *chat = account.chat(chatID);
+        const int limit = int(request.value("limit"_L1).toInteger());
+        if (!chat)
+            answer(request, error(400, u"Chat not found"_s));
+        else if (limit <= 0)
+            answer(request, error(400, u"Parameter limit must be positive"_s));
+        else if (request.value("offset"_L1).toInteger() != 0)
+            answer(request, error(400, u"Only offset 0 is supported"_s));
+        else
+            answer(request, searchChat(*chat, request.value("query"_L1).toString().trimmed(),
+                                       int64Of(request.value("from_message_id"_L1)), std::min(limit, 100)));
         return true;
     }
     if (type == "getMessage"_L1) {

@@ -49,6 +49,8 @@ private:
     void chatLastMessageChanged(const DemoChat &chat);
     void chatReadInboxChanged(const DemoChat &chat);
     QJsonObject history(DemoChat &chat, qint64 fromMessageID, int offset, int limit, bool onlyLocal);
+    // "foundChatMessages": the chat's messages whose text or caption holds the query, ignoring case.
+    QJsonObject searchChat(const DemoChat &chat, const QString &query, qint64 fromMessageID, int limit) const;
     void downloadFile(const QJsonObject &request, int fileID, bool synchronous);
     void finishDownload(int fileID);
 

@@ -119,3 +119,42 @@ QString MessageText::mentionedUser(const QString &link)
 {
     return link.startsWith(FormattedLinks::userPrefix) ? link.mid(FormattedLinks::userPrefix.size()) : QString();
 }
+
+QString MessageText::highlighted(const QString &html, const QString &words)
+{
+    const QString needle = words.trimmed().toHtmlEscaped();
+    if (needle.isEmpty())
+        return html;
+    // Dark text on yellow reads in incoming and outgoing bubbles alike.
+    static const QString open = u"<span style=\"background-color:#FFD54F;color:#1C1C1E\">"_s;
+    static const QString close = u"</span>"_s;
+    QString marked;
+    marked.reserve(html.size() + 64);
+    const QStringView source(html);
+    qsizetype at = 0;
+    while (at < source.size()) {
+        if (source.at(at) == u'<') {
+            const qsizetype tagEnd = source.indexOf(u'>', at);
+            const qsizetype end = tagEnd < 0 ? source.size() : tagEnd + 1;
+            marked += source.mid(at, end - at);
+            at = end;
+            continue;
+        }
+        qsizetype textEnd = source.indexOf(u'<', at);
+        if (textEnd < 0)
+            textEnd = source.size();
+        const QStringView text = source.mid(at, textEnd - at);
+        qsizetype from = 0;
+        for (qsizetype found = text.indexOf(needle, 0, Qt::CaseInsensitive); found >= 0;
+             found = text.indexOf(needle, from, Qt::CaseInsensitive)) {
+            marked += text.mid(from, found - from);
+            marked += open;
+            marked += text.mid(found, needle.size());
+            marked += close;
+            from = found + needle.size();
+        }
+        marked += text.mid(from);
+        at = textEnd;
+    }
+    return marked;
+}

@@ -32,6 +32,9 @@ public:
     // The id of the user a name mention's link stands for.
     Q_INVOKABLE static QString mentionedUser(const QString &link);
 
+    // The rich text with every occurrence of the words, ignoring case, marked
+    // (outside tags only); unchanged when the words are empty.
+    Q_INVOKABLE static QString highlighted(const QString &html, const QString &words);
     // Rich text for a Text item with textFormat Text.RichText (or StyledText);
     // linkColor colours the links.
     Q_INVOKABLE static QString richText(const QString &text, const QString &linkColor = QString());

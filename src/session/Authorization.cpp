@@ -2,6 +2,7 @@
 
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
+#include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
@@ -137,6 +138,9 @@ void TelegramSession::resetAccountState()
     m_authorization->reset();
     m_contacts->reset();
     m_stickers->reset();
+    m_chatSearch->reset();
+    m_historyAround.clear();
+    m_historyAroundRequests.clear();
 
     m_removedChatIDs.clear();
     m_privateChatsByUser.clear();

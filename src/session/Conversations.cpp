@@ -106,6 +106,8 @@ void TelegramSession::forgetChat(const QString &chatID)
     m_loadingOlderHistory.remove(chatID);
     m_exhaustedHistory.remove(chatID);
     m_expandedHistory.remove(chatID);
+    m_historyAround.remove(chatID);
+    m_historyAroundRequests.remove(chatID);
     m_messageDetailsByChat.remove(chatID);
     if (m_messagesByChat.remove(chatID) > 0)
         Q_EMIT messagesChanged(chatID);

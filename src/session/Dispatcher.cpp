@@ -3,6 +3,7 @@
 
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
+#include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/SoundManager.h"
@@ -93,6 +94,12 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
         return true;
     if (m_authorization->handleAnswer(purpose, type, object))
         return true;
+    if (m_chatSearch->handleAnswer(purpose, type, object))
+        return true;
+    if (purpose == "history_around"_L1) {
+        storeHistoryAround(type, object);
+        return true;
+    }
     if (purpose == "replied_message"_L1) {
         storeRepliedMessage(object.value("@extra"_L1).toObject(), type, object);
         return true;

@@ -33,9 +33,15 @@ Q_ENUM_NS(PendingAttachmentKind)
 // How far TDLib's link to Telegram stands: Ready once it is up to date.
 enum class ConnectionState { WaitingForNetwork, ConnectingToProxy, Connecting, Updating, Ready };
 Q_ENUM_NS(ConnectionState)
+
+// Where a search in one chat stands: nothing asked, an answer on its way, found
+// messages, none found, or Telegram refused the search.
+enum class ChatSearchState { Idle, Searching, Found, NoResults, Failed };
+Q_ENUM_NS(ChatSearchState)
 } // namespace Model
 
 using Model::AvatarColor;
+using Model::ChatSearchState;
 using Model::ConnectionState;
 using Model::MessageDeliveryState;
 using Model::MessageMediaKind;

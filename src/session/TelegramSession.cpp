@@ -4,6 +4,7 @@
 
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
+#include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
@@ -22,7 +23,9 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_users(new UserStore(storeSender(), this))
     , m_stickers(new StickerStore(storeSender(), this))
     , m_contacts(new ContactStore(storeSender(), *m_users, this))
+    , m_chatSearch(new ChatSearchStore(storeSender(), this))
 {
+    connect(m_chatSearch, &ChatSearchStore::resultShown, this, &TelegramSession::loadHistoryAround);
     connect(m_authorization, &AuthorizationStore::stepChanged, this, &TelegramSession::stepChanged);
     connect(m_authorization, &AuthorizationStore::codeInfoChanged, this, &TelegramSession::codeInfoChanged);
     connect(m_authorization, &AuthorizationStore::errorMessageChanged, this, &TelegramSession::errorMessageChanged);

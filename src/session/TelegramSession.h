@@ -27,6 +27,7 @@ class QTimer;
 class SoundManager;
 class Announcer;
 class AuthorizationStore;
+class ChatSearchStore;
 class ContactStore;
 class StickerStore;
 class TDLibChannel;
@@ -49,6 +50,8 @@ class TelegramSession : public QObject
     Q_PROPERTY(QString conversationError READ conversationErrorText NOTIFY conversationErrorChanged)
     Q_PROPERTY(QString currentAccountPhoneNumber READ currentAccountPhoneNumber NOTIFY currentAccountPhoneNumberChanged)
     Q_PROPERTY(Model::ConnectionState connectionState READ connectionState NOTIFY connectionStateChanged)
+    // The search in the open chat; the transcript follows its shown result.
+    Q_PROPERTY(ChatSearchStore *chatSearch READ chatSearch CONSTANT)
 
 public:
     // When set, every request goes to the sender instead of TDLib: the type and
@@ -120,6 +123,14 @@ public:
     // or the start of the chat reached.
     bool isLoadingOlderMessages(const QString &chatID) const { return m_loadingOlderHistory.contains(chatID); }
     bool isHistoryExhausted(const QString &chatID) const { return m_exhaustedHistory.contains(chatID); }
+    ChatSearchStore *chatSearch() const { return m_chatSearch; }
+    // Brings the history around a message into the chat's transcript, in place of
+    // what it showed, unless the message is loaded already.
+    Q_INVOKABLE void loadHistoryAround(const QString &chatID, const QString &messageID);
+    // After history around a message: the chat's newest messages again, loaded afresh.
+    Q_INVOKABLE void returnToNewest(const QString &chatID);
+    // Whether the chat shows history around a message rather than its newest.
+    bool showsHistoryAround(const QString &chatID) const { return m_historyAround.contains(chatID); }
 
     // Sending, editing, forwarding and deleting. Identifiers are decimal text;
     // a bad one sends nothing.
@@ -245,6 +256,7 @@ private:
     // Messages
     void requestInitialHistory(qint64 chatID, qint64 fromMessageID, int attempt);
     void storeMessages(const QJsonArray &messages, const TdObject &extra);
+    void storeHistoryAround(const QString &type, const TdObject &answer);
     void storeNewMessage(const TdObject &message);
     void removeMessage(qint64 messageID, std::optional<qint64> chatID);
     void updateMessageField(const TdObject &update, const QString &field, const QJsonValue &value);
@@ -382,6 +394,9 @@ private:
     QSet<QString> m_exhaustedHistory;
     QSet<QString> m_expandedHistory;
     QSet<QString> m_preloadedHistory;
+    // Chats showing history around a message, and the message last asked for in each.
+    QSet<QString> m_historyAround;
+    QHash<QString, qint64> m_historyAroundRequests;
 
     // Files
     QHash<qint64, QSet<QString>> m_messageMediaOwners;
@@ -395,4 +410,5 @@ private:
 
     StickerStore *m_stickers;
     ContactStore *m_contacts;
+    ChatSearchStore *m_chatSearch;
 };

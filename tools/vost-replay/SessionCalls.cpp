@@ -4,6 +4,7 @@
 #include "ReplayDriver.h"
 #include "ReplayModules.h"
 
+#include "session/ChatSearchStore.h"
 #include "session/ModelNames.h"
 #include "session/TelegramSession.h"
 #include "session/UserDefaults.h"
@@ -49,6 +50,18 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session)
     driver.addCall(u"loadOlderMessages"_s, [&session](const QJsonArray &args) {
         session.loadOlderMessages(stringArgument(args, 0), stringArgument(args, 1));
     });
+    ChatSearchStore &search = *session.chatSearch();
+    driver.addCall(u"searchChat"_s, [&search](const QJsonArray &args) {
+        search.search(stringArgument(args, 0), stringArgument(args, 1));
+    });
+    driver.addCall(u"stepOlderResult"_s, [&search](const QJsonArray &) { search.stepOlder(); });
+    driver.addCall(u"stepNewerResult"_s, [&search](const QJsonArray &) { search.stepNewer(); });
+    driver.addCall(u"clearSearch"_s, [&search](const QJsonArray &) { search.clear(); });
+    driver.addCall(u"loadHistoryAround"_s, [&session](const QJsonArray &args) {
+        session.loadHistoryAround(stringArgument(args, 0), stringArgument(args, 1));
+    });
+    driver.addCall(u"returnToNewest"_s,
+                   [&session](const QJsonArray &args) { session.returnToNewest(stringArgument(args, 0)); });
     driver.addCall(u"markMessagesRead"_s, [&session](const QJsonArray &args) {
         session.markMessagesRead(messagesFromJson(args.at(0).toArray()), stringArgument(args, 1));
     });
@@ -93,6 +106,32 @@ void registerSessionCalls(ReplayDriver &driver, TelegramSession &session)
             byChat.insert(it.key(), replies);
         }
         return QJsonValue(byChat);
+    });
+    // Read as the views read it: the state through the published property.
+    driver.addState(u"chatSearch"_s, [&search] {
+        const QMetaProperty property = search.metaObject()->property(search.metaObject()->indexOfProperty("state"));
+        QJsonArray results;
+        for (const ChatSearchResult &result : search.results())
+            results.append(QJsonObject{
+                {"id"_L1, QString::number(result.messageID)},
+                {"date"_L1, result.date.isValid() ? QJsonValue(result.date.toSecsSinceEpoch()) : QJsonValue()}});
+        return QJsonValue(QJsonObject{{"state"_L1, caseName(property.enumerator(), property.read(&search).toInt())},
+                                      {"chatID"_L1, search.chatID()},
+                                      {"query"_L1, search.query()},
+                                      {"totalCount"_L1, search.totalCount()},
+                                      {"currentIndex"_L1, search.currentIndex()},
+                                      {"currentMessageID"_L1, search.currentMessageID()},
+                                      {"hasOlder"_L1, search.hasOlder()},
+                                      {"hasNewer"_L1, search.hasNewer()},
+                                      {"results"_L1, results}});
+    });
+    driver.addState(u"showsHistoryAround"_s, [&session] {
+        QJsonArray chats;
+        for (const QString &chatID : session.messagesByChat().keys()) {
+            if (session.showsHistoryAround(chatID))
+                chats.append(chatID);
+        }
+        return QJsonValue(chats);
     });
     driver.addState(u"currentAccountPhoneNumber"_s,
                     [&session] { return QJsonValue(session.currentAccountPhoneNumber()); });

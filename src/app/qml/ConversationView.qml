@@ -56,8 +56,8 @@ FocusScope {
             anchors {
                 left: headerAvatar.right
                 leftMargin: 10
-                right: parent.right
-                rightMargin: 14
+                right: searchButton.left
+                rightMargin: 8
                 verticalCenter: parent.verticalCenter
             }
 
@@ -81,6 +81,20 @@ FocusScope {
             }
         }
 
+        IconButton {
+            id: searchButton
+
+            anchors {
+                right: parent.right
+                rightMargin: 12
+                verticalCenter: parent.verticalCenter
+            }
+            symbol: "magnifyingglass"
+            highlighted: searchBar.active
+            Accessible.name: qsTr("Search in chat")
+            onClicked: searchBar.active ? searchBar.close() : searchBar.open()
+        }
+
         Rectangle {
             anchors {
                 left: parent.left
@@ -90,6 +104,30 @@ FocusScope {
             height: 1
             color: Appearance.separator
         }
+    }
+
+    ChatSearchBar {
+        id: searchBar
+
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: header.bottom
+        }
+        search: conversation.host.session.chatSearch
+        chatID: conversation.viewModel.selectedChatID
+        messageList: conversation.messageList
+        onResultShown: messageID => transcript.revealMessage(messageID)
+        onClosed: chatID => {
+            conversation.host.session.returnToNewest(chatID);
+            transcript.showNewest();
+        }
+    }
+
+    Shortcut {
+        sequence: StandardKey.Find
+        enabled: conversation.visible && !!conversation.chat
+        onActivated: searchBar.open()
     }
 
     ListView {
@@ -102,7 +140,7 @@ FocusScope {
         anchors {
             left: parent.left
             right: parent.right
-            top: header.bottom
+            top: searchBar.bottom
             bottom: composer.top
         }
         clip: true
@@ -168,6 +206,7 @@ FocusScope {
             paneWidth: ListView.view.width
             showsSenders: !isOutgoing && senderName !== "" && senderName !== conversation.chatTitle
             isCurrent: ListView.isCurrentItem && transcript.activeFocus
+            highlight: searchBar.highlight
             playback: audio
             onMenuRequested: (anchor, x, y) => menu.openFor(messageID, kind === MessageContent.Text && conversation.viewModel.canEdit(messageID),
                                                             bodyText, reactions, anchor, x, y)
@@ -232,6 +271,18 @@ FocusScope {
             forceActiveFocus();
         }
 
+        // A search result, in the middle of the view, without taking the keyboard
+        // from the search field; again once the items around it have their heights.
+        function revealMessage(messageID) {
+            const row = conversation.messageList.rowOf(messageID);
+            if (row < 0)
+                return;
+            atNewest = false;
+            positionViewAtIndex(row, ListView.Center);
+            currentIndex = row;
+            Qt.callLater(() => positionViewAtIndex(row, ListView.Center));
+        }
+
         // Half a screen from the top, the page before the oldest message is asked
         // for; the view model asks once per oldest message and the session once at
         // a time.
@@ -274,6 +325,9 @@ FocusScope {
             function onHistoryStateChanged() {
                 Qt.callLater(transcript.loadOlderIfNearTop);
                 Qt.callLater(placement.openAtDivider);
+            }
+            function onSelectedChatIDChanged() {
+                searchBar.close();
             }
         }
 

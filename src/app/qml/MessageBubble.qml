@@ -48,6 +48,8 @@ Item {
     property bool showsSenders: false
     property real paneWidth: width
     property bool isCurrent: false
+    // Words a search found in this message, marked in its text.
+    property string highlight
     required property AudioPlayback playback
 
     signal menuRequested(Item anchor, real x, real y)
@@ -332,6 +334,7 @@ Item {
                     foreground: message.foreground
                     shown: visible && message.onScreen
                     maximumWidth: bubble.innerWidth
+                    highlight: message.highlight
                     onMentionActivated: username => message.mentionActivated(username)
                     // A name that stands for a user opens their chat, as a contact card does.
                     onUserMentionActivated: userID => message.contactMessageRequested(userID)

@@ -17,6 +17,8 @@ Column {
     property bool shown: true
     property real maximumWidth: 300
     property bool spoilersRevealed: false
+    // Words a search found here, marked wherever they occur; "" for none.
+    property string highlight
 
     //: Said by screen readers of a quoted paragraph in a message.
     readonly property string quotation: qsTr("Quotation")
@@ -58,7 +60,7 @@ Column {
                 visible: !block.modelData.isCode
                 width: Math.min(implicitWidth, body.maximumWidth)
                 leftPadding: block.modelData.isQuote ? 10 : 0
-                text: block.modelData.html
+                text: MessageText.highlighted(block.modelData.html, body.highlight)
                 textFormat: Text.RichText
                 wrapMode: Text.Wrap
                 color: body.foreground

@@ -1,0 +1,82 @@
+// The history around a message a search found, in place of the chat's newest
+// messages, and the way back to those.
+
+#include "session/TelegramSession.h"
+
+#include <QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Newer messages asked for beside the found one; as many older ones come with it.
+constexpr int newerAroundMessage = 7;
+constexpr int aroundWindow = 2 * newerAroundMessage + 1;
+
+} // namespace
+
+void TelegramSession::loadHistoryAround(const QString &chatID, const QString &messageID)
+{
+    const std::optional<qint64> chat = parseInt64(chatID);
+    const std::optional<qint64> message = parseInt64(messageID);
+    if (!chat || !message)
+        return;
+    const QList<StoredMessage> &held = m_rawMessagesByChat.value(chatID);
+    if (std::any_of(held.cbegin(), held.cend(), [&](const StoredMessage &stored) { return stored.id() == message; }))
+        return;
+    m_historyAroundRequests.insert(chatID, *message);
+    send(u"getChatHistory"_s,
+         {{"chat_id"_L1, *chat},
+          {"from_message_id"_L1, *message},
+          {"offset"_L1, -newerAroundMessage},
+          {"limit"_L1, aroundWindow},
+          {"only_local"_L1, false},
+          {"@extra"_L1,
+           TdObject{{"purpose"_L1, u"history_around"_s}, {"chat_id"_L1, *chat}, {"message_id"_L1, *message}}}});
+}
+
+void TelegramSession::storeHistoryAround(const QString &type, const TdObject &answer)
+{
+    const TdObject extra = answer.value("@extra"_L1).toObject();
+    const std::optional<qint64> chat = int64From(extra.value("chat_id"_L1));
+    if (!chat)
+        return;
+    const QString chatID = QString::number(*chat);
+    // Only the answer for the message last asked for counts; a failed one leaves
+    // the transcript as it was.
+    const auto request = m_historyAroundRequests.constFind(chatID);
+    if (request == m_historyAroundRequests.cend() || int64From(extra.value("message_id"_L1)) != *request)
+        return;
+    m_historyAroundRequests.erase(request);
+    if (type != "messages"_L1 || m_removedChatIDs.contains(chatID))
+        return;
+    QList<StoredMessage> window;
+    for (const QJsonValue &value : answer.value("messages"_L1).toArray()) {
+        const TdObject message = value.toObject();
+        if (int64From(message.value("chat_id"_L1)) == chat && int64From(message.value("id"_L1)))
+            window.append(StoredMessage(message));
+    }
+    if (window.isEmpty())
+        return;
+    m_rawMessagesByChat.insert(chatID, window);
+    m_historyAround.insert(chatID);
+    // Older pages follow on from the window, and its start is not the chat's.
+    m_expandedHistory.insert(chatID);
+    m_exhaustedHistory.remove(chatID);
+    Q_EMIT historyStateChanged(chatID);
+    publishMessages(chatID);
+}
+
+void TelegramSession::returnToNewest(const QString &chatID)
+{
+    m_historyAroundRequests.remove(chatID);
+    if (!m_historyAround.remove(chatID))
+        return;
+    m_expandedHistory.remove(chatID);
+    m_exhaustedHistory.remove(chatID);
+    m_loadingOlderHistory.remove(chatID);
+    // Between the window and the newest messages lies a gap: the chat loads afresh.
+    m_rawMessagesByChat[chatID].clear();
+    Q_EMIT historyStateChanged(chatID);
+    loadMessages(chatID);
+}

@@ -1,0 +1,83 @@
+#!/usr/bin/python3
+"""Searching in a chat: Ctrl+F or the header's button opens the search field, a
+word found only in Emma Wilson's first message brings the transcript to that
+message, the count and the buttons follow the results, and Esc returns to the
+newest message."""
+
+import time
+
+from vostui import VostTestCase, main, wait_until
+
+NEWEST = "You: Of course! See you at 7 🍕"
+FIRST = "So nice to meet you at the lighthouse museum yesterday!"
+
+
+def inside(inner, outer, slack=2):
+    x, y, w, h = inner
+    ox, oy, ow, oh = outer
+    return x >= ox - slack and y >= oy - slack and x + w <= ox + ow + slack and y + h <= oy + oh + slack
+
+
+class Search(VostTestCase):
+    def open_emma(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        messages = vost.find("list", "Messages")
+        vost.find("list item", NEWEST, contains=True, within=messages)
+        time.sleep(0.5)
+        return vost, messages
+
+    def shown(self, vost, messages, text):
+        """The bubble holding text, once it is in view in the transcript."""
+        def look():
+            for item in vost.all("list item", within=messages):
+                if text in item.name and inside(item.extents(), messages.extents(), slack=20):
+                    return item
+            return None
+        return wait_until(look, timeout=15, what=f"{text!r} in view")
+
+    def test_a_word_of_the_first_message_brings_it_into_view_and_esc_returns_to_the_newest(self):
+        vost, messages = self.open_emma()
+        self.assertFalse(vost.all("list item", FIRST, contains=True, within=messages))
+        vost.key("ctrl+f")
+        field = vost.find("text", "Search in chat")
+        wait_until(lambda: field.has_state("focused"), timeout=5, what="the search field focused")
+        vost.type("LightHouse")
+        vost.find("label", "1 of 1")
+        bubble = self.shown(vost, messages, FIRST)
+        self.assertTrue(bubble.showing)
+        # The newest message is far away now.
+        vost.absent("list item", NEWEST, contains=True, within=messages)
+        # One result: neither way leads anywhere.
+        self.assertFalse(vost.find("push button", "Older result").has_state("enabled"))
+        self.assertFalse(vost.find("push button", "Newer result").has_state("enabled"))
+        vost.key("Escape")
+        vost.absent("text", "Search in chat")
+        self.shown(vost, messages, NEWEST)
+        self.assertFalse(vost.all("list item", FIRST, contains=True, within=messages))
+
+    def test_the_header_button_opens_the_search_and_the_count_follows_the_steps(self):
+        vost, messages = self.open_emma()
+        vost.find("push button", "Search in chat").press()
+        field = vost.find("text", "Search in chat")
+        vost.fill(field, "pizza-that-nobody-wrote")
+        vost.find("label", "No results")
+        vost.fill(field, "coffee")
+        count = vost.find("label", " of ", contains=True)
+        total = int(count.name.split(" of ")[1])
+        self.assertGreater(total, 1)
+        self.assertEqual(count.name, f"1 of {total}")
+        vost.key("Return")
+        vost.find("label", f"2 of {total}")
+        vost.find("push button", "Older result").press()
+        vost.find("label", f"3 of {total}")
+        vost.key("shift+Return")
+        vost.find("label", f"2 of {total}")
+        self.shown(vost, messages, "coffee")
+        vost.find("push button", "Close search").press()
+        vost.absent("text", "Search in chat")
+        self.shown(vost, messages, NEWEST)
+
+
+if __name__ == "__main__":
+    main()
