@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Received TDLib event: %1</source>
-        <extracomment>%1 is the name of TDLib&apos;s event, such as updateOption.</extracomment>
+        <extracomment>%1 is the name of TDLib's event, such as updateOption.</extracomment>
         <translation>TDLib-Ereignis empfangen: %1</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
     </message>
     <message>
         <source>secret chat</source>
-        <extracomment>Read aloud after a chat&apos;s title, like the other states of a chat here.</extracomment>
+        <extracomment>Read aloud after a chat's title, like the other states of a chat here.</extracomment>
         <translation>geheimer Chat</translation>
     </message>
     <message>
@@ -198,6 +198,45 @@
     <message>
         <source>marked unread</source>
         <translation>als ungelesen markiert</translation>
+    </message>
+</context>
+<context>
+    <name>ChatSearchBar</name>
+    <message>
+        <source>Search in chat</source>
+        <translation>Im Chat suchen</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche…</translation>
+    </message>
+    <message>
+        <source>No results</source>
+        <translation>Keine Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Search failed</source>
+        <translation>Suche fehlgeschlagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n</source>
+        <extracomment>Which search result shows, of how many: "3 of 12".</extracomment>
+        <translation>
+            <numerusform>%1 von %n</numerusform>
+            <numerusform>%1 von %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older result</source>
+        <translation>Älteres Ergebnis</translation>
+    </message>
+    <message>
+        <source>Newer result</source>
+        <translation>Neueres Ergebnis</translation>
+    </message>
+    <message>
+        <source>Close search</source>
+        <translation>Suche schließen</translation>
     </message>
 </context>
 <context>
@@ -537,6 +576,10 @@
         <extracomment>A verb: the button that confirms deleting the message.</extracomment>
         <translation>Löschen</translation>
     </message>
+    <message>
+        <source>Search in chat</source>
+        <translation>Im Chat suchen</translation>
+    </message>
 </context>
 <context>
     <name>DateTexts</name>
@@ -549,7 +592,7 @@
     <name>DiceCard</name>
     <message>
         <source>%1 rolled %2</source>
-        <extracomment>%1 is the die&apos;s emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
+        <extracomment>%1 is the die's emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
         <translation>%1, Ergebnis: %2</translation>
     </message>
 </context>
@@ -561,7 +604,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>How much of the file has come and its whole size, as in &quot;1.2 MB of 5 MB&quot;.</extracomment>
+        <extracomment>How much of the file has come and its whole size, as in "1.2 MB of 5 MB".</extracomment>
         <translation>%1 von %2</translation>
     </message>
     <message>
@@ -775,8 +818,13 @@
     <name>FormattedBody</name>
     <message>
         <source>Links to %1</source>
-        <extracomment>The addresses behind the links of a message&apos;s text, for screen readers.</extracomment>
+        <extracomment>The addresses behind the links of a message's text, for screen readers.</extracomment>
         <translation>Verweist auf %1</translation>
+    </message>
+    <message>
+        <source>Quotation</source>
+        <extracomment>Said by screen readers of a quoted paragraph in a message.</extracomment>
+        <translation>Zitat</translation>
     </message>
 </context>
 <context>
@@ -801,6 +849,19 @@
     <message>
         <source>No results</source>
         <translation>Keine Ergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageChoice</name>
+    <message>
+        <source>System</source>
+        <comment>language</comment>
+        <extracomment>The language that follows the system's own.</extracomment>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
     </message>
 </context>
 <context>
@@ -901,7 +962,7 @@
     </message>
     <message>
         <source>Hint: %1</source>
-        <extracomment>The two-step password&apos;s hint, as its owner wrote it.</extracomment>
+        <extracomment>The two-step password's hint, as its owner wrote it.</extracomment>
         <translation>Hinweis: %1</translation>
     </message>
     <message>
@@ -913,7 +974,7 @@
     <name>MessageBubble</name>
     <message>
         <source>sending</source>
-        <extracomment>A message&apos;s delivery state, read aloud after its time; the next two as well.</extracomment>
+        <extracomment>A message's delivery state, read aloud after its time; the next two as well.</extracomment>
         <translation>wird gesendet</translation>
     </message>
     <message>
@@ -949,7 +1010,7 @@
     </message>
     <message>
         <source>More</source>
-        <extracomment>The button that opens a message&apos;s actions.</extracomment>
+        <extracomment>The button that opens a message's actions.</extracomment>
         <translation>Mehr</translation>
     </message>
     <message>
@@ -962,7 +1023,7 @@
     </message>
     <message>
         <source>edited  %1</source>
-        <extracomment>An edited message&apos;s time; %1 is the time, such as 14:05.</extracomment>
+        <extracomment>An edited message's time; %1 is the time, such as 14:05.</extracomment>
         <translation>bearbeitet  %1</translation>
     </message>
 </context>
@@ -1093,7 +1154,7 @@
     </message>
     <message>
         <source>Open username</source>
-        <extracomment>A form&apos;s title: open a chat by someone&apos;s public username.</extracomment>
+        <extracomment>A form's title: open a chat by someone's public username.</extracomment>
         <translation>Per Benutzername öffnen</translation>
     </message>
     <message>
@@ -1121,16 +1182,29 @@
         <extracomment>An arrow glyph pointing down, to the newest message; not a word.</extracomment>
         <translation>↓</translation>
     </message>
-    <message numerus="yes">
-        <source>Go to newest message, %n new</source>
-        <translation>
-            <numerusform>Zur neuesten Nachricht, %n neue</numerusform>
-            <numerusform>Zur neuesten Nachricht, %n neue</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Go to newest message</source>
         <translation>Zur neuesten Nachricht</translation>
+    </message>
+    <message numerus="yes">
+        <source>↓ %n new</source>
+        <extracomment>On the button under the transcript: how many messages arrived below, with an arrow pointing down to them.</extracomment>
+        <translation>
+            <numerusform>↓ %n neue</numerusform>
+            <numerusform>↓ %n neue</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <extracomment>The same button read aloud: how many messages arrived below.</extracomment>
+        <translation>
+            <numerusform>%n neue Nachricht</numerusform>
+            <numerusform>%n neue Nachrichten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go to the first new message</source>
+        <translation>Zur ersten neuen Nachricht</translation>
     </message>
 </context>
 <context>
@@ -1230,7 +1304,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The picture shown and how many the album has, as in &quot;2 of 5&quot;.</extracomment>
+        <extracomment>The picture shown and how many the album has, as in "2 of 5".</extracomment>
         <translation>%1 von %2</translation>
     </message>
 </context>
@@ -1258,7 +1332,7 @@
     </message>
     <message>
         <source>%1, %2 %</source>
-        <extracomment>A poll&apos;s answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
+        <extracomment>A poll's answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
         <translation>%1, %2 %</translation>
     </message>
     <message numerus="yes">
@@ -1286,12 +1360,12 @@
     </message>
     <message>
         <source>Appearance</source>
-        <extracomment>Titles of the preferences&apos; sections.</extracomment>
+        <extracomment>Titles of the preferences' sections.</extracomment>
         <translation>Darstellung</translation>
     </message>
     <message>
         <source>System</source>
-        <extracomment>The appearance that follows the system&apos;s light or dark setting.</extracomment>
+        <extracomment>The appearance that follows the system's light or dark setting.</extracomment>
         <translation>System</translation>
     </message>
     <message>
@@ -1365,6 +1439,11 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation>Von diesem Konto abmelden und mit einem anderen anmelden?</translation>
     </message>
+    <message>
+        <source>Check spelling</source>
+        <extracomment>Whether the composer underlines misspelt words.</extracomment>
+        <translation>Rechtschreibung prüfen</translation>
+    </message>
 </context>
 <context>
     <name>ReplyQuote</name>
@@ -1406,10 +1485,22 @@
     </message>
 </context>
 <context>
+    <name>SpellingMenu</name>
+    <message>
+        <source>Spelling</source>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message>
+        <source>Add to dictionary</source>
+        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
+        <translation>Zum Wörterbuch hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>StatusItem</name>
     <message numerus="yes">
         <source>Vost, %n unread messages</source>
-        <extracomment>The tray icon&apos;s accessible name.</extracomment>
+        <extracomment>The tray icon's accessible name.</extracomment>
         <translation>
             <numerusform>Vost, %n ungelesene Nachricht</numerusform>
             <numerusform>Vost, %n ungelesene Nachrichten</numerusform>
@@ -1417,17 +1508,17 @@
     </message>
     <message>
         <source>Waiting for network…</source>
-        <extracomment>The tray item&apos;s tool tip while the computer has no network connection</extracomment>
+        <extracomment>The tray item's tool tip while the computer has no network connection</extracomment>
         <translation>Warte auf Netzwerk…</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <extracomment>The tray item&apos;s tool tip while the link to Telegram is being made</extracomment>
+        <extracomment>The tray item's tool tip while the link to Telegram is being made</extracomment>
         <translation>Verbinde…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <extracomment>The tray item&apos;s tool tip while what happened offline is being fetched</extracomment>
+        <extracomment>The tray item's tool tip while what happened offline is being fetched</extracomment>
         <translation>Aktualisiere…</translation>
     </message>
 </context>
@@ -1501,12 +1592,12 @@
     </message>
     <message>
         <source>TDLib could not be loaded: %1</source>
-        <extracomment>%1 is the system loader&apos;s own message.</extracomment>
+        <extracomment>%1 is the system loader's own message.</extracomment>
         <translation>TDLib konnte nicht geladen werden: %1</translation>
     </message>
     <message>
         <source>TDLib is missing the required function %1.</source>
-        <extracomment>%1 is the name of a function of TDLib&apos;s library, such as td_create_client_id.</extracomment>
+        <extracomment>%1 is the name of a function of TDLib's library, such as td_create_client_id.</extracomment>
         <translation>In TDLib fehlt die benötigte Funktion %1.</translation>
     </message>
 </context>
@@ -1554,7 +1645,7 @@
     </message>
     <message>
         <source>You</source>
-        <extracomment>The sender&apos;s name on one&apos;s own messages.</extracomment>
+        <extracomment>The sender's name on one's own messages.</extracomment>
         <translation>Du</translation>
     </message>
     <message>
@@ -1589,12 +1680,12 @@
     </message>
     <message>
         <source>Typing…</source>
-        <extracomment>The chat&apos;s subtitle while the other person types.</extracomment>
+        <extracomment>The chat's subtitle while the other person types.</extracomment>
         <translation>schreibt…</translation>
     </message>
     <message>
         <source>%1 is typing…</source>
-        <extracomment>A group&apos;s subtitle while a member types; %1 is the member&apos;s name.</extracomment>
+        <extracomment>A group's subtitle while a member types; %1 is the member's name.</extracomment>
         <translation>%1 schreibt…</translation>
     </message>
     <message>
@@ -1629,7 +1720,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Verbs: the voice message&apos;s play button.</extracomment>
+        <extracomment>Verbs: the voice message's play button.</extracomment>
         <translation>Pause</translation>
     </message>
     <message>
@@ -1638,7 +1729,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The time played and the whole length, as in &quot;0:12 of 1:05&quot;.</extracomment>
+        <extracomment>The time played and the whole length, as in "0:12 of 1:05".</extracomment>
         <translation>%1 von %2</translation>
     </message>
 </context>

@@ -46,7 +46,7 @@
     </message>
     <message>
         <source>Received TDLib event: %1</source>
-        <extracomment>%1 is the name of TDLib&apos;s event, such as updateOption.</extracomment>
+        <extracomment>%1 is the name of TDLib's event, such as updateOption.</extracomment>
         <translation>Получено событие TDLib: %1</translation>
     </message>
     <message>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>secret chat</source>
-        <extracomment>Read aloud after a chat&apos;s title, like the other states of a chat here.</extracomment>
+        <extracomment>Read aloud after a chat's title, like the other states of a chat here.</extracomment>
         <translation>секретный чат</translation>
     </message>
     <message>
@@ -200,6 +200,46 @@
     <message>
         <source>marked unread</source>
         <translation>отмечен как непрочитанный</translation>
+    </message>
+</context>
+<context>
+    <name>ChatSearchBar</name>
+    <message>
+        <source>Search in chat</source>
+        <translation>Поиск в чате</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Поиск…</translation>
+    </message>
+    <message>
+        <source>No results</source>
+        <translation>Ничего не найдено</translation>
+    </message>
+    <message>
+        <source>Search failed</source>
+        <translation>Не удалось выполнить поиск</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n</source>
+        <extracomment>Which search result shows, of how many: "3 of 12".</extracomment>
+        <translation>
+            <numerusform>%1 из %n</numerusform>
+            <numerusform>%1 из %n</numerusform>
+            <numerusform>%1 из %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Older result</source>
+        <translation>Предыдущий результат</translation>
+    </message>
+    <message>
+        <source>Newer result</source>
+        <translation>Следующий результат</translation>
+    </message>
+    <message>
+        <source>Close search</source>
+        <translation>Закрыть поиск</translation>
     </message>
 </context>
 <context>
@@ -539,6 +579,10 @@
         <extracomment>A verb: the button that confirms deleting the message.</extracomment>
         <translation>Удалить</translation>
     </message>
+    <message>
+        <source>Search in chat</source>
+        <translation>Поиск в чате</translation>
+    </message>
 </context>
 <context>
     <name>DateTexts</name>
@@ -551,7 +595,7 @@
     <name>DiceCard</name>
     <message>
         <source>%1 rolled %2</source>
-        <extracomment>%1 is the die&apos;s emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
+        <extracomment>%1 is the die's emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
         <translation>%1: выпало %2</translation>
     </message>
 </context>
@@ -563,7 +607,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>How much of the file has come and its whole size, as in &quot;1.2 MB of 5 MB&quot;.</extracomment>
+        <extracomment>How much of the file has come and its whole size, as in "1.2 MB of 5 MB".</extracomment>
         <translation>%1 из %2</translation>
     </message>
     <message>
@@ -777,8 +821,13 @@
     <name>FormattedBody</name>
     <message>
         <source>Links to %1</source>
-        <extracomment>The addresses behind the links of a message&apos;s text, for screen readers.</extracomment>
+        <extracomment>The addresses behind the links of a message's text, for screen readers.</extracomment>
         <translation>Ссылка на %1</translation>
+    </message>
+    <message>
+        <source>Quotation</source>
+        <extracomment>Said by screen readers of a quoted paragraph in a message.</extracomment>
+        <translation>Цитата</translation>
     </message>
 </context>
 <context>
@@ -803,6 +852,19 @@
     <message>
         <source>No results</source>
         <translation>Ничего не найдено</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageChoice</name>
+    <message>
+        <source>System</source>
+        <comment>language</comment>
+        <extracomment>The language that follows the system's own.</extracomment>
+        <translation>Как в системе</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
     </message>
 </context>
 <context>
@@ -903,7 +965,7 @@
     </message>
     <message>
         <source>Hint: %1</source>
-        <extracomment>The two-step password&apos;s hint, as its owner wrote it.</extracomment>
+        <extracomment>The two-step password's hint, as its owner wrote it.</extracomment>
         <translation>Подсказка: %1</translation>
     </message>
     <message>
@@ -915,7 +977,7 @@
     <name>MessageBubble</name>
     <message>
         <source>sending</source>
-        <extracomment>A message&apos;s delivery state, read aloud after its time; the next two as well.</extracomment>
+        <extracomment>A message's delivery state, read aloud after its time; the next two as well.</extracomment>
         <translation>отправляется</translation>
     </message>
     <message>
@@ -951,7 +1013,7 @@
     </message>
     <message>
         <source>More</source>
-        <extracomment>The button that opens a message&apos;s actions.</extracomment>
+        <extracomment>The button that opens a message's actions.</extracomment>
         <translation>Ещё</translation>
     </message>
     <message>
@@ -964,7 +1026,7 @@
     </message>
     <message>
         <source>edited  %1</source>
-        <extracomment>An edited message&apos;s time; %1 is the time, such as 14:05.</extracomment>
+        <extracomment>An edited message's time; %1 is the time, such as 14:05.</extracomment>
         <translation>изменено  %1</translation>
     </message>
 </context>
@@ -1095,7 +1157,7 @@
     </message>
     <message>
         <source>Open username</source>
-        <extracomment>A form&apos;s title: open a chat by someone&apos;s public username.</extracomment>
+        <extracomment>A form's title: open a chat by someone's public username.</extracomment>
         <translation>Открыть по имени пользователя</translation>
     </message>
     <message>
@@ -1123,17 +1185,31 @@
         <extracomment>An arrow glyph pointing down, to the newest message; not a word.</extracomment>
         <translation>↓</translation>
     </message>
-    <message numerus="yes">
-        <source>Go to newest message, %n new</source>
-        <translation>
-            <numerusform>К последнему сообщению, %n новое</numerusform>
-            <numerusform>К последнему сообщению, %n новых</numerusform>
-            <numerusform>К последнему сообщению, %n новых</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Go to newest message</source>
         <translation>К последнему сообщению</translation>
+    </message>
+    <message numerus="yes">
+        <source>↓ %n new</source>
+        <extracomment>On the button under the transcript: how many messages arrived below, with an arrow pointing down to them.</extracomment>
+        <translation>
+            <numerusform>↓ %n новое</numerusform>
+            <numerusform>↓ %n новых</numerusform>
+            <numerusform>↓ %n новых</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <extracomment>The same button read aloud: how many messages arrived below.</extracomment>
+        <translation>
+            <numerusform>%n новое сообщение</numerusform>
+            <numerusform>%n новых сообщения</numerusform>
+            <numerusform>%n новых сообщений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go to the first new message</source>
+        <translation>Перейти к первому новому сообщению</translation>
     </message>
 </context>
 <context>
@@ -1234,7 +1310,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The picture shown and how many the album has, as in &quot;2 of 5&quot;.</extracomment>
+        <extracomment>The picture shown and how many the album has, as in "2 of 5".</extracomment>
         <translation>%1 из %2</translation>
     </message>
 </context>
@@ -1262,7 +1338,7 @@
     </message>
     <message>
         <source>%1, %2 %</source>
-        <extracomment>A poll&apos;s answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
+        <extracomment>A poll's answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
         <translation>%1, %2 %</translation>
     </message>
     <message numerus="yes">
@@ -1291,12 +1367,12 @@
     </message>
     <message>
         <source>Appearance</source>
-        <extracomment>Titles of the preferences&apos; sections.</extracomment>
+        <extracomment>Titles of the preferences' sections.</extracomment>
         <translation>Оформление</translation>
     </message>
     <message>
         <source>System</source>
-        <extracomment>The appearance that follows the system&apos;s light or dark setting.</extracomment>
+        <extracomment>The appearance that follows the system's light or dark setting.</extracomment>
         <translation>Как в системе</translation>
     </message>
     <message>
@@ -1370,6 +1446,11 @@
         <source>Sign out of this account and sign in to another?</source>
         <translation>Выйти из этого аккаунта и войти в другой?</translation>
     </message>
+    <message>
+        <source>Check spelling</source>
+        <extracomment>Whether the composer underlines misspelt words.</extracomment>
+        <translation>Проверять орфографию</translation>
+    </message>
 </context>
 <context>
     <name>ReplyQuote</name>
@@ -1411,10 +1492,22 @@
     </message>
 </context>
 <context>
+    <name>SpellingMenu</name>
+    <message>
+        <source>Spelling</source>
+        <translation>Орфография</translation>
+    </message>
+    <message>
+        <source>Add to dictionary</source>
+        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
+        <translation>Добавить в словарь</translation>
+    </message>
+</context>
+<context>
     <name>StatusItem</name>
     <message numerus="yes">
         <source>Vost, %n unread messages</source>
-        <extracomment>The tray icon&apos;s accessible name.</extracomment>
+        <extracomment>The tray icon's accessible name.</extracomment>
         <translation>
             <numerusform>Vost, %n непрочитанное сообщение</numerusform>
             <numerusform>Vost, %n непрочитанных сообщения</numerusform>
@@ -1423,17 +1516,17 @@
     </message>
     <message>
         <source>Waiting for network…</source>
-        <extracomment>The tray item&apos;s tool tip while the computer has no network connection</extracomment>
+        <extracomment>The tray item's tool tip while the computer has no network connection</extracomment>
         <translation>Ожидание сети…</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <extracomment>The tray item&apos;s tool tip while the link to Telegram is being made</extracomment>
+        <extracomment>The tray item's tool tip while the link to Telegram is being made</extracomment>
         <translation>Соединение…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <extracomment>The tray item&apos;s tool tip while what happened offline is being fetched</extracomment>
+        <extracomment>The tray item's tool tip while what happened offline is being fetched</extracomment>
         <translation>Обновление…</translation>
     </message>
 </context>
@@ -1507,12 +1600,12 @@
     </message>
     <message>
         <source>TDLib could not be loaded: %1</source>
-        <extracomment>%1 is the system loader&apos;s own message.</extracomment>
+        <extracomment>%1 is the system loader's own message.</extracomment>
         <translation>Не удалось загрузить TDLib: %1</translation>
     </message>
     <message>
         <source>TDLib is missing the required function %1.</source>
-        <extracomment>%1 is the name of a function of TDLib&apos;s library, such as td_create_client_id.</extracomment>
+        <extracomment>%1 is the name of a function of TDLib's library, such as td_create_client_id.</extracomment>
         <translation>В TDLib отсутствует необходимая функция %1.</translation>
     </message>
 </context>
@@ -1560,7 +1653,7 @@
     </message>
     <message>
         <source>You</source>
-        <extracomment>The sender&apos;s name on one&apos;s own messages.</extracomment>
+        <extracomment>The sender's name on one's own messages.</extracomment>
         <translation>Вы</translation>
     </message>
     <message>
@@ -1595,12 +1688,12 @@
     </message>
     <message>
         <source>Typing…</source>
-        <extracomment>The chat&apos;s subtitle while the other person types.</extracomment>
+        <extracomment>The chat's subtitle while the other person types.</extracomment>
         <translation>Печатает…</translation>
     </message>
     <message>
         <source>%1 is typing…</source>
-        <extracomment>A group&apos;s subtitle while a member types; %1 is the member&apos;s name.</extracomment>
+        <extracomment>A group's subtitle while a member types; %1 is the member's name.</extracomment>
         <translation>%1 печатает…</translation>
     </message>
     <message>
@@ -1635,7 +1728,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Verbs: the voice message&apos;s play button.</extracomment>
+        <extracomment>Verbs: the voice message's play button.</extracomment>
         <translation>Пауза</translation>
     </message>
     <message>
@@ -1644,7 +1737,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The time played and the whole length, as in &quot;0:12 of 1:05&quot;.</extracomment>
+        <extracomment>The time played and the whole length, as in "0:12 of 1:05".</extracomment>
         <translation>%1 из %2</translation>
     </message>
 </context>
