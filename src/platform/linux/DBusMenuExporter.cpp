@@ -10,7 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+// Named, not anonymous: QtDBus matches a call's arguments to a slot by the type names
+// moc wrote down, which must be the names the types are registered under.
+namespace dbusmenu {
 
 // (ia{sv}av): an item, its properties and its children, each child the same
 // structure wrapped in a variant.
@@ -31,18 +33,21 @@ using MenuItemPropertiesList = QList<MenuItemProperties>;
 struct MenuEvent {
     int id = 0;
     QString eventId;
-    QDBusVariant data;
+    // A value, so that the signature QtDBus works out from a default event is (isvu).
+    QDBusVariant data{QVariant(0)};
     uint timestamp = 0;
 };
 using MenuEventList = QList<MenuEvent>;
 
-} // namespace
+} // namespace dbusmenu
 
-Q_DECLARE_METATYPE(MenuLayout)
-Q_DECLARE_METATYPE(MenuItemProperties)
-Q_DECLARE_METATYPE(MenuEvent)
+using namespace dbusmenu;
 
-namespace {
+Q_DECLARE_METATYPE(dbusmenu::MenuLayout)
+Q_DECLARE_METATYPE(dbusmenu::MenuItemProperties)
+Q_DECLARE_METATYPE(dbusmenu::MenuEvent)
+
+namespace dbusmenu {
 
 QDBusArgument &operator<<(QDBusArgument &argument, const MenuLayout &layout)
 {
@@ -116,7 +121,7 @@ void registerMenuTypes()
     Q_UNUSED(registered);
 }
 
-} // namespace
+} // namespace dbusmenu
 
 // The object on the bus. QtDBus hands an adaptor's calls' context to the adaptor's
 // parent, where the adaptor sends its error replies from.
@@ -156,7 +161,7 @@ public:
     QStringList iconThemePath() const { return {}; }
 
 public Q_SLOTS:
-    uint GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames, MenuLayout &layout)
+    uint GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames, dbusmenu::MenuLayout &layout)
     {
         if (parentId != 0 && !m_menu.isEntry(parentId)) {
             unknownItem(parentId);
@@ -170,7 +175,7 @@ public Q_SLOTS:
         return m_menu.revision();
     }
 
-    MenuItemPropertiesList GetGroupProperties(const QList<int> &ids, const QStringList &propertyNames)
+    QList<dbusmenu::MenuItemProperties> GetGroupProperties(const QList<int> &ids, const QStringList &propertyNames)
     {
         MenuItemPropertiesList answer;
         for (const int id : ids)
@@ -199,7 +204,7 @@ public Q_SLOTS:
             unknownItem(id);
     }
 
-    QList<int> EventGroup(const MenuEventList &events)
+    QList<int> EventGroup(const QList<dbusmenu::MenuEvent> &events)
     {
         QList<int> idErrors;
         for (const MenuEvent &event : events)
