@@ -17,7 +17,7 @@
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
 #include "platform/TerminationSignals.h"
-#include "platform/TrayHost.h"
+#include "platform/TrayItem.h"
 #include "session/CredentialStore.h"
 #include "session/NotificationCenter.h"
 #include "session/NotificationService.h"
@@ -285,20 +285,34 @@ bool VostApp::launch()
     connect(m_session, &TelegramSession::connectionStateChanged, this, &VostApp::updateToolTip);
     connect(&AppLanguage::shared(), &AppLanguage::languageChanged, m_session, &TelegramSession::retranslate);
 
-    if (QSystemTrayIcon::isSystemTrayAvailable()) {
-        createTrayIcon();
-    } else {
-        // No tray (GNOME without AppIndicator, a bare window manager): an ordinary
-        // window keeps the client reachable until a tray appears.
-        m_popover->setTrayMode(false);
-        presentPopover();
-        watchForTray();
+    createStatusMenu();
+    m_trayItem = makeSystemTrayItem();
+    if (m_trayItem) {
+        m_trayItem->setMenu({tr("Open Vost"), QString(), tr("Quit Vost")});
+        connect(m_trayItem.get(), &TrayItem::shownChanged, this, &VostApp::chooseTray);
+        connect(m_trayItem.get(), &TrayItem::activated, this,
+                [this](QPoint hostPoint, bool hasPoint) { handleTrayClick(hasPoint ? hostPoint : QCursor::pos()); });
+        connect(m_trayItem.get(), &TrayItem::contextMenuRequested, this, &VostApp::showStatusMenu);
+        // The host's menu takes the pointer: the popover goes first.
+        connect(m_trayItem.get(), &TrayItem::menuAboutToShow, this, &VostApp::closePopover);
+        connect(m_trayItem.get(), &TrayItem::menuEntryTriggered, this, [this](int index) {
+            if (index == 0)
+                showPopover();
+            else if (index == 2)
+                quit();
+        });
     }
+    // An XEmbed tray announces itself only on the X server.
+    m_trayWatch = new QTimer(this);
+    m_trayWatch->setInterval(trayWatchIntervalMs);
+    connect(m_trayWatch, &QTimer::timeout, this, &VostApp::chooseTray);
+    m_trayWatch->start();
+    chooseTray();
     m_root->start();
     return true;
 }
 
-void VostApp::createTrayIcon()
+void VostApp::createStatusMenu()
 {
     m_statusMenu = std::make_unique<QMenu>();
     QAction *open = m_statusMenu->addAction(tr("Open Vost"));
@@ -310,46 +324,78 @@ void VostApp::createTrayIcon()
     connect(&AppLanguage::shared(), &AppLanguage::languageChanged, m_statusMenu.get(), [this, open, quitAction] {
         open->setText(tr("Open Vost"));
         quitAction->setText(tr("Quit Vost"));
+        if (m_trayItem)
+            m_trayItem->setMenu({open->text(), QString(), quitAction->text()});
         updateStatusItem(m_unreadCount);
     });
+}
 
+// A tray that draws StatusNotifierItems comes first, then an XEmbed tray, else an
+// ordinary window keeps the client reachable (GNOME without AppIndicator, a bare
+// window manager, a panel that quit) until a tray appears.
+void VostApp::chooseTray()
+{
+    TrayKind kind = TrayKind::Window;
+    if (m_trayItem && m_trayItem->isShown())
+        kind = TrayKind::StatusNotifier;
+    // Qt settles on its first question whether its own tray icon speaks
+    // StatusNotifierItem; asked only while no watcher runs, it stays with XEmbed.
+    else if (QSystemTrayIcon::isSystemTrayAvailable())
+        kind = TrayKind::XEmbed;
+    if (kind == m_trayKind)
+        return;
+    const TrayKind previous = m_trayKind;
+    m_trayKind = kind;
+    if (kind != TrayKind::XEmbed && m_trayIcon) {
+        m_trayIcon->hide();
+        m_trayIcon->deleteLater();
+        m_trayIcon = nullptr;
+    }
+    if (kind == TrayKind::Window) {
+        closePopover();
+        m_popover->setTrayMode(false);
+        presentPopover();
+        return;
+    }
+    if (previous == TrayKind::Window) {
+        // Into the tray: the window goes; a later window is placed afresh.
+        closePopover();
+        m_placedOnce = false;
+    }
+    m_popover->setTrayMode(true);
+    if (kind == TrayKind::XEmbed)
+        createTrayIcon();
+    updateStatusItem(m_unreadCount);
+}
+
+void VostApp::createTrayIcon()
+{
     m_trayIcon = new QSystemTrayIcon(this);
     connect(m_trayIcon, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) { handleTrayActivation(int(reason)); });
-    // A host that draws the item's menu gets it exported. In an XEmbed tray the menu
-    // is our own popup, not the item's context menu: the popover must close before
-    // the menu opens, or the menu closes with the popover's activation.
-    if (TrayHost::drawsItemMenus()) {
-        m_trayIcon->setContextMenu(m_statusMenu.get());
-        connect(m_statusMenu.get(), &QMenu::aboutToShow, this, &VostApp::closePopover);
-    }
-    m_popover->setTrayMode(true);
     updateStatusItem(m_unreadCount);
     m_trayIcon->show();
-}
-
-void VostApp::watchForTray()
-{
-    m_trayWatch = new QTimer(this);
-    m_trayWatch->setInterval(trayWatchIntervalMs);
-    connect(m_trayWatch, &QTimer::timeout, this, [this] {
-        if (!QSystemTrayIcon::isSystemTrayAvailable())
-            return;
-        m_trayWatch->stop();
-        m_popover->hide();
-        createTrayIcon();
-        m_placedOnce = false;
-    });
-    m_trayWatch->start();
 }
 
 void VostApp::updateStatusItem(int unreadCount)
 {
     m_unreadCount = std::max(unreadCount, 0);
+    const QColor glyphColor =
+        StatusItem::glyphColor(m_colorScheme ? m_colorScheme->scheme() : DesktopColorScheme::Unknown,
+                               StatusItem::panelIsAlwaysDark(qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
+                               QGuiApplication::palette());
+    if (m_trayItem) {
+        // The host picks among the sizes it is given; the larger ones are the usual
+        // sides drawn at twice the detail.
+        QList<QImage> images;
+        for (const int height : m_trayItem->iconHeights()) {
+            const bool doubled = height > StatusItem::squareSides.back();
+            images.append(StatusItem::squareImage(m_unreadCount, doubled ? height / 2 : height, doubled ? 2.0 : 1.0,
+                                                  glyphColor));
+        }
+        m_trayItem->setIcon(images);
+    }
     if (m_trayIcon) {
-        const QColor glyphColor = StatusItem::glyphColor(
-            m_colorScheme ? m_colorScheme->scheme() : DesktopColorScheme::Unknown,
-            StatusItem::panelIsAlwaysDark(qEnvironmentVariable("XDG_CURRENT_DESKTOP")), QGuiApplication::palette());
         // Trays give square slots: one picture per usual side, the host takes the
         // nearest (the 2x ones for HiDPI screens and 44 to 64 pixel panels).
         QIcon icon;
@@ -364,45 +410,61 @@ void VostApp::updateStatusItem(int unreadCount)
         // Painting an icon caches a copy under that icon's key; every unread count
         // makes a new icon, so the copies of the old ones would pile up.
         QPixmapCache::clear();
-        updateToolTip();
     }
+    updateToolTip();
 }
 
 void VostApp::updateToolTip()
 {
+    const QString toolTip = StatusItem::toolTip(m_unreadCount, m_session->connectionState());
     if (m_trayIcon)
-        m_trayIcon->setToolTip(StatusItem::toolTip(m_unreadCount, m_session->connectionState()));
+        m_trayIcon->setToolTip(toolTip);
+    if (m_trayItem) {
+        // The label is the title; what the connection is doing goes under it.
+        const qsizetype lineEnd = toolTip.indexOf(u'\n');
+        m_trayItem->setToolTip(toolTip.left(lineEnd), lineEnd < 0 ? QString() : toolTip.mid(lineEnd + 1));
+    }
 }
 
 void VostApp::handleTrayActivation(int reason)
 {
-    if (popoverHandlingSuspended)
-        return;
     switch (QSystemTrayIcon::ActivationReason(reason)) {
     // A quick second click arrives as a double click: it toggles like any click.
     case QSystemTrayIcon::Trigger:
     case QSystemTrayIcon::DoubleClick:
-        m_clickPoint = QCursor::pos();
-        m_hasClickPoint = true;
-        if (!isPopoverShown() && m_sinceDeactivationClose.isValid() &&
-            m_sinceDeactivationClose.elapsed() < reopenGuardMs) {
-            m_sinceDeactivationClose.invalidate();
-            return;
-        }
-        togglePopover();
+        handleTrayClick(QCursor::pos());
         break;
-    case QSystemTrayIcon::Context: {
-        if (m_trayIcon->contextMenu())
-            break; // the host shows it
-        const QPoint pointer = QCursor::pos();
-        closePopover();
-        QTimer::singleShot(0, this, [this, pointer] { m_statusMenu->popup(pointer); });
+    case QSystemTrayIcon::Context:
+        showStatusMenu(QCursor::pos());
         break;
-    }
     case QSystemTrayIcon::MiddleClick:
     case QSystemTrayIcon::Unknown:
         break;
     }
+}
+
+void VostApp::handleTrayClick(const QPoint &point)
+{
+    if (popoverHandlingSuspended)
+        return;
+    m_clickPoint = point;
+    m_hasClickPoint = true;
+    if (!isPopoverShown() && m_sinceDeactivationClose.isValid() && m_sinceDeactivationClose.elapsed() < reopenGuardMs) {
+        m_sinceDeactivationClose.invalidate();
+        return;
+    }
+    togglePopover();
+}
+
+// In an XEmbed tray, or for a host that leaves the menu to the program, the menu is
+// our own popup: the popover must close before it opens, or the menu closes with
+// the popover's activation.
+void VostApp::showStatusMenu(const QPoint &point)
+{
+    if (popoverHandlingSuspended)
+        return;
+    closePopover();
+    QTimer::singleShot(0, this, [this, point] { m_statusMenu->popup(point); });
 }
 
 bool VostApp::isPopoverShown() const

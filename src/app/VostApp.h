@@ -21,6 +21,7 @@ class QSystemTrayIcon;
 class QTimer;
 class SoundPlayer;
 class TelegramSession;
+class TrayItem;
 
 // The tray application: no main window, one tray item with the unread badge and a
 // popover holding the whole client. It builds the credential store, the session and
@@ -58,11 +59,17 @@ public:
     void bringForward();
 
 private:
+    // Where the client lives; decided again whenever a tray comes or goes.
+    enum class TrayKind { Undecided, Window, StatusNotifier, XEmbed };
+
+    void createStatusMenu();
+    void chooseTray();
     void createTrayIcon();
-    void watchForTray();
     void updateStatusItem(int unreadCount);
     void updateToolTip();
     void handleTrayActivation(int reason);
+    void handleTrayClick(const QPoint &point);
+    void showStatusMenu(const QPoint &point);
     void presentPopover();
     void popoverActiveChanged();
     void closeAfterDeactivation();
@@ -79,7 +86,11 @@ private:
     AppRootView *m_root = nullptr;
     QQmlEngine *m_engine = nullptr;
     std::unique_ptr<PopoverWindow> m_popover;
+    // The tray item the desktop draws (StatusNotifierItem); Qt's icon only for
+    // XEmbed trays.
+    std::unique_ptr<TrayItem> m_trayItem;
     QSystemTrayIcon *m_trayIcon = nullptr;
+    TrayKind m_trayKind = TrayKind::Undecided;
     std::unique_ptr<QMenu> m_statusMenu;
     QTimer *m_deactivationTimer = nullptr;
     QTimer *m_trayWatch = nullptr;

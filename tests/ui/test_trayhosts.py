@@ -4,11 +4,17 @@ panel and LXQt's.
 The item shows with its badge, the badge follows the unread total, a click opens
 the popover fully on screen next to the pointer (the host does not say where the
 item is), and a right click offers "Open Vost" and "Quit Vost". Each host runs as
-a panel along the top edge of the screen."""
+a panel along the top edge of the screen.
+The item is Vost's own: it carries pictures in the sizes panels use, goes into a
+panel that starts after Vost and back into a window when the panel quits, and
+opens the popover at the place the host gives."""
 
 import os
 import re
 import subprocess
+import time
+
+from gi.repository import Gio, GLib
 
 from vostui import VostTestCase, main, wait_until
 
@@ -125,6 +131,120 @@ class StatusNotifierHost(VostTestCase):
         wait_until(lambda: not vost.popover_shown(), what="the popover closed by the menu")
         vost.key("Up", "Return")
         self.assertEqual(vost.process.wait(10), 0)
+
+
+def bus_call(service, path, interface, method, signature=None, *args):
+    """A method call on the session bus; the answer unpacked, or the error."""
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION, None)
+    parameters = GLib.Variant(signature, args) if signature else None
+    try:
+        return bus.call_sync(service, path, interface, method, parameters, None, Gio.DBusCallFlags.NONE, 5000,
+                             None).unpack()
+    except GLib.Error as error:
+        return error
+
+
+def item_value(item, name):
+    service, path = item.split("/", 1)
+    return bus_call(service, "/" + path, "org.freedesktop.DBus.Properties", "Get", "(ss)",
+                    "org.kde.StatusNotifierItem", name)[0]
+
+
+def menu_ids(item):
+    """The exported menu's entries, label to id."""
+    service, path = item.split("/", 1)
+    _, (_, _, children) = bus_call(service, item_value(item, "Menu"), "com.canonical.dbusmenu", "GetLayout",
+                                   "(iias)", 0, -1, [])
+    return {child[1]["label"]: child[0] for child in children if "label" in child[1]}
+
+
+def click_menu_entry(item, label):
+    service = item.split("/", 1)[0]
+    menu = item_value(item, "Menu")
+    bus_call(service, menu, "com.canonical.dbusmenu", "Event", "(isvu)", menu_ids(item)[label], "clicked",
+             GLib.Variant("i", 0), 0)
+
+
+class OwnItem(VostTestCase):
+    """The item as any host reads it over the bus."""
+    tray = "xfce4-panel"
+
+    def own_item(self, vost):
+        def ours():
+            items = [item for item in registered_items(self.desktop)
+                     if item.startswith(f"org.kde.StatusNotifierItem-{vost.process.pid}-")]
+            return items[0] if items else None
+        return wait_until(ours, timeout=20, what="Vost's item registered with the watcher")
+
+    def test_the_item_carries_its_pictures_tool_tip_and_menu(self):
+        vost = self.launch()
+        item = self.own_item(vost)
+        self.assertEqual(item_value(item, "Id"), "com.corvella.Vost")
+        self.assertEqual(item_value(item, "Category"), "Communications")
+        self.assertFalse(item_value(item, "ItemIsMenu"))
+        def tool_tip_title():
+            _, _, title, _ = item_value(item, "ToolTip")
+            return UNREAD.search(title) and title
+        title = wait_until(tool_tip_title, what="the unread total in the tool tip")
+        self.assertGreater(int(UNREAD.search(title).group(1)), 0)
+        pixmaps = item_value(item, "IconPixmap")
+        self.assertEqual(sorted(height for _, height, _ in pixmaps), [22, 24, 32, 44, 48, 64])
+        for width, height, data in pixmaps:
+            self.assertEqual(len(data), width * height * 4)
+        # Alpha first, then red, green, blue: the badge's red reads as opaque red.
+        width, height, data = max(pixmaps, key=lambda p: p[1])
+        argb = [data[i:i + 4] for i in range(0, len(data), 4)]
+        self.assertTrue(any(a == 255 and r > 190 and g < 90 and b < 90 for a, r, g, b in argb), "no opaque red")
+
+        self.assertEqual(exported_menu_labels(self.desktop, item), ["Open Vost", "Quit Vost"])
+        click_menu_entry(item, "Open Vost")
+        wait_until(vost.popover_shown, what="the popover opened by the menu")
+        click_menu_entry(item, "Quit Vost")
+        self.assertEqual(vost.process.wait(10), 0)
+
+    def test_activate_opens_the_popover_next_to_the_point_the_host_gives(self):
+        vost = self.launch()
+        service = self.own_item(vost).split("/", 1)[0]
+        # The pointer far from that point: the place comes from the host.
+        self.desktop.xdotool("mousemove", 100, 700)
+        bus_call(service, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "(ii)", 700, 30)
+        wait_until(vost.popover_shown, what="the popover")
+        px, py, pw, ph = wait_until(lambda: vost.window().extents()[2] > 100 and vost.window().extents(),
+                                    what="the popover's place")
+        self.assertTrue(abs(px + pw // 2 - 700) <= 40, f"popover at {px}..{px + pw}, asked for 700")
+        self.assertTrue(30 <= py <= 60, f"popover's top at {py}, asked for under 30")
+        bus_call(service, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "(ii)", 700, 30)
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the second activation")
+        # A host that does not know sends 0, 0: the popover opens at the pointer.
+        bus_call(service, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "(ii)", 0, 0)
+        wait_until(vost.popover_shown, what="the popover")
+        px, py, pw, ph = wait_until(lambda: vost.window().extents()[2] > 100 and vost.window().extents(),
+                                    what="the popover's place")
+        self.assertTrue(px <= 100 <= px + pw, f"popover at {px}..{px + pw}, pointer at 100")
+        self.assertGreater(py, 60)
+
+
+class LatePanel(VostTestCase):
+    """Vost started before the panel (autostart at login): a window until the panel
+    comes, then in the panel, and a window again whenever the panel goes."""
+    tray = False
+
+    def our_item_registered(self, vost):
+        return any(item.startswith(f"org.kde.StatusNotifierItem-{vost.process.pid}-")
+                   for item in registered_items(self.desktop))
+
+    def test_vost_moves_into_a_panel_started_later_and_back_out_when_it_quits(self):
+        vost = self.launch()
+        wait_until(vost.popover_shown, what="the window")
+        vost.wait_for_chats()
+        time.sleep(5)
+        for _ in range(2):
+            self.desktop.start_tray("xfce4-panel")
+            wait_until(lambda: self.our_item_registered(vost), timeout=20, what="the item in the late panel")
+            wait_until(lambda: not vost.popover_shown(), what="the window gone into the panel")
+            self.desktop.stop_tray()
+            wait_until(vost.popover_shown, timeout=15, what="the window back when the panel quit")
+        self.assertTrue(vost.running())
 
 
 class LXQtPanelHost(StatusNotifierHost):
