@@ -5,7 +5,8 @@ import Vost.Model
 
 // The sidebar: the search field on top, the connection's state while it is not
 // ready, and the chats under it. Up and Down move the selection, Enter goes to
-// the composer; Ctrl+F goes to the search field.
+// the composer; Ctrl+F goes to the search field while no chat is open (with one
+// open, it searches in that chat).
 FocusScope {
     id: sidebar
 
@@ -23,6 +24,7 @@ FocusScope {
 
     Shortcut {
         sequence: StandardKey.Find
+        enabled: !sidebar.viewModel.selectedChat
         onActivated: search.forceActiveFocus()
     }
 

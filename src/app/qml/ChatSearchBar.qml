@@ -142,7 +142,7 @@ Rectangle {
                 return qsTr("Search failed");
             case Model.ChatSearchState.Found:
                 //: Which search result shows, of how many: "3 of 12".
-                return qsTr("%1 of %n", "", bar.search.totalCount).arg(Qt.locale().toString(bar.search.currentIndex + 1));
+                return qsTr("%1 of %n", "", bar.search.totalCount).arg((bar.search.currentIndex + 1).toLocaleString(Qt.locale(), "f", 0));
             }
             return "";
         }
