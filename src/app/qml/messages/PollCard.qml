@@ -112,7 +112,7 @@ Item {
 
         Text {
             //: How many people voted in the poll.
-            text: qsTr("%n vote(s)", "", card.details.pollVoterCount)
+            text: qsTr("%n vote(s)", "", card.details.pollVoterCount ?? 0)
             color: Qt.rgba(card.foreground.r, card.foreground.g, card.foreground.b, 0.75)
             font.pixelSize: 12
         }
