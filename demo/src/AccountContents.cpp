@@ -218,9 +218,9 @@ void AccountBuilder::build(const QString &firstName, const QString &phone)
                                {"emoji", u"🎲"_s},
                                {"value", 5},
                                {"success_animation_frame_number", 0}}));
-    // Persian written right to left, with a web address and digits running left to right inside it.
+    // Persian written right to left, with a Latin name and digits running left to right inside it.
     add(e, emma, 65,
-        a.textContent(u"سلام! عکس‌های سفر را اینجا گذاشتم: https://vost.example/trip و قرار ما ساعت 19:30 در "
+        a.textContent(u"سلام! عکس‌های سفر را در Vost گذاشتم و قرار ما ساعت 19:30 در "
                       u"کافه‌ی کنار دریاچه است، میز شماره ۱۲. تا آن موقع می‌بینمت."_s));
     DemoMessage &question = add(e, emma, 60, a.textContent(u"Are we still on for tonight? :)"_s));
     question.reactions = {{u"❤️"_s, 0, 1, true}, {{}, 5368324170671202286LL, 1, false}};

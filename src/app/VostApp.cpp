@@ -306,7 +306,6 @@ bool VostApp::launch()
     m_trayWatch = new QTimer(this);
     m_trayWatch->setInterval(trayWatchIntervalMs);
     connect(m_trayWatch, &QTimer::timeout, this, &VostApp::chooseTray);
-    m_trayWatch->start();
     chooseTray();
     m_root->start();
     return true;
@@ -342,6 +341,11 @@ void VostApp::chooseTray()
     // StatusNotifierItem; asked only while no watcher runs, it stays with XEmbed.
     else if (QSystemTrayIcon::isSystemTrayAvailable())
         kind = TrayKind::XEmbed;
+    // Only a window looks out for an XEmbed tray; in a tray the program sleeps.
+    if (kind == TrayKind::Window && !m_trayWatch->isActive())
+        m_trayWatch->start();
+    else if (kind != TrayKind::Window)
+        m_trayWatch->stop();
     if (kind == m_trayKind)
         return;
     const TrayKind previous = m_trayKind;

@@ -113,7 +113,7 @@ class Switching(VostTestCase):
         self.assertEqual(names, ["System", "English", "Русский", "Deutsch", "Español", "Português (Brasil)", "فارسی"])
         vost.find("menu item", "Deutsch", within=menu).press()
         vost.find("heading", "Einstellungen")
-        self.assertEqual(vost.find("push button", "Language").description, "Deutsch")
+        self.assertEqual(vost.find("push button", "Sprache").description, "Deutsch")
         vost.key("Escape")
         vost.find("list", "Chatliste")
         # Texts the session had already made speak German too.

@@ -298,9 +298,6 @@ FocusScope {
         }
         onCountChanged: Qt.callLater(loadOlderIfNearTop)
         onHeightChanged: if (atNewest) positionViewAtBeginning()
-        // Rows at the bottom grow after they come (a divider, a picture's real size):
-        // the newest stays in view.
-        onContentHeightChanged: if (atNewest) positionViewAtBeginning()
 
         Connections {
             target: conversation.messageList

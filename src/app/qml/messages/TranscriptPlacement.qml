@@ -78,6 +78,11 @@ QtObject {
             view.positionViewAtBeginning();
         else
             showFrom(row);
+        // The rows shown are marked read and take their divider after this pass.
+        Qt.callLater(() => {
+            if (view.atNewest)
+                view.positionViewAtBeginning();
+        });
         noteSeen();
     }
 
