@@ -103,6 +103,23 @@ def dark(desktop, vost):
     new_chat(desktop, vost, "dark")
 
 
+def reading(desktop, vost):
+    """Formatted text from the helper and in Qt Developers, then a search in Emma's chat."""
+    vost.open_chat("Vost Helper")
+    vost.find("list item", "Vost Helper: Welcome", contains=True, within=vost.find("list", "Messages"))
+    shoot(desktop, vost, "formatted-text.png")
+    vost.open_chat("Qt Developers")
+    vost.find("push button", "Copy", contains=True, within=vost.find("list", "Messages"))
+    shoot(desktop, vost, "formatted-code.png")
+    vost.open_chat("Emma Wilson")
+    vost.find("push button", "Search in chat").press()
+    vost.type("lighthouse")
+    vost.find("label", "1 of 1")
+    vost.find("list item", "lighthouse", contains=True, within=vost.find("list", "Messages"))
+    shoot(desktop, vost, "search-in-chat.png")
+    vost.key("Escape")
+
+
 def translated(suffix, messages_name):
     """Emma Wilson's chat in another language: the messages list goes by its name there."""
     def shots(desktop, vost):
@@ -119,6 +136,7 @@ def main():
     try:
         session(desktop, "light", light)
         session(desktop, "dark", dark)
+        session(desktop, "light", reading)
         session(desktop, "light", translated("ru", "Сообщения"), language="ru")
         session(desktop, "light", translated("fa", "پیام‌ها"), language="fa")
     finally:
