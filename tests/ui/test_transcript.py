@@ -113,7 +113,8 @@ class Transcript(VostTestCase):
         # Media without a caption shows no line of text; a caption does.
         def uncaptioned_photos():
             return [m for m in vost.messages() if re.fullmatch(r"Emma Wilson: Photo, \d+:\d\d", m.name)]
-        photos = vost.wheel_until(messages, uncaptioned_photos)
+        # One click a turn: a tall picture can carry the next rows past between two looks.
+        photos = vost.wheel_until(messages, uncaptioned_photos, clicks=1)
         self.assertTrue(photos, "no photo without a caption on the way up")
         vost.find("image", "Photo", within=photos[0])
         self.assertEqual(vost.all("paragraph", within=photos[0]), [])

@@ -190,10 +190,24 @@ FocusScope {
 
         // The newest message, at the bottom, as the current one for the keys.
         function showNewest() {
-            positionViewAtBeginning();
+            toNewestEdge();
             atNewest = true;
             if (count > 0)
                 currentIndex = 0;
+        }
+
+        // The newest message at the bottom with the list's margin under it: the same
+        // end the wheel and Page Down reach.
+        function toNewestEdge() {
+            positionViewAtBeginning();
+            contentY = originY + contentHeight - height + bottomMargin;
+        }
+
+        // Rows near the bottom settle their height after they come (a wrapped line,
+        // a divider): whoever was at the newest stays there.
+        function keepNewest() {
+            if (atNewest && !moving)
+                toNewestEdge();
         }
 
         // The very top, once the items there are laid out with their real heights.
@@ -297,7 +311,8 @@ FocusScope {
             placement.noteSeen();
         }
         onCountChanged: Qt.callLater(loadOlderIfNearTop)
-        onHeightChanged: if (atNewest) positionViewAtBeginning()
+        onHeightChanged: if (atNewest) toNewestEdge()
+        onContentHeightChanged: Qt.callLater(keepNewest)
 
         Connections {
             target: conversation.messageList
@@ -312,7 +327,7 @@ FocusScope {
                 // Row 0 is the newest: a message that arrives while the reader is
                 // at the bottom comes into view.
                 if (first === 0 && transcript.atNewest)
-                    Qt.callLater(transcript.positionViewAtBeginning);
+                    Qt.callLater(transcript.toNewestEdge);
                 else if (first === 0)
                     placement.arrived(last - first + 1);
                 Qt.callLater(placement.openAtDivider);

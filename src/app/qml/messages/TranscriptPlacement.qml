@@ -43,7 +43,7 @@ QtObject {
     // The newest message when everything from row on fits below it; otherwise row
     // at the top, so that the oldest of them is read first.
     function showFrom(row) {
-        view.positionViewAtBeginning();
+        view.toNewestEdge();
         view.atNewest = true;
         if (row > 0 && !fitsFromNewest(row))
             showAtTop(row);
@@ -75,14 +75,9 @@ QtObject {
         const row = unseen - 1;
         unseen = 0;
         if (row < 0)
-            view.positionViewAtBeginning();
+            view.toNewestEdge();
         else
             showFrom(row);
-        // The rows shown are marked read and take their divider after this pass.
-        Qt.callLater(() => {
-            if (view.atNewest)
-                view.positionViewAtBeginning();
-        });
         noteSeen();
     }
 
