@@ -248,13 +248,12 @@ TextEntities textEntities(const TdObject &formattedText)
             argument = stringOf(type, "language");
         else if (*found == Type::TextUrl)
             argument = stringOf(type, "url");
-        const std::optional<qint64> user =
-            *found == Type::MentionName ? int64From(type.value("user_id"_L1)) : std::nullopt;
         if (*found == Type::MentionName) {
             // A name that leads to nobody is shown as plain text.
-            if (!user || *user <= 0)
+            const qint64 user = int64From(type.value("user_id"_L1)).value_or(0);
+            if (user <= 0)
                 continue;
-            argument = QString::number(*user);
+            argument = QString::number(user);
         }
         entities.append({int(*offset), int(*length), *found, argument});
     }
