@@ -23,11 +23,13 @@ void Announcer::announceMessage(const TdObject &message, bool muted, const std::
     if (message.value("is_outgoing"_L1).toBool() || muted)
         return;
     const std::optional<qint64> chat = int64From(message.value("chat_id"_L1));
+    const std::optional<qint64> id = int64From(message.value("id"_L1));
     const QJsonValue content = message.value("content"_L1);
-    if (!chat || !content.isObject())
+    if (!chat || !id || !content.isObject())
         return;
     const QString title = listedTitle.value_or(QCoreApplication::translate("Announcer", "New Telegram message"));
     if (Preferences::shared().showsNotifications())
-        NotificationService::shared().notify(title, veiledMessageText(content.toObject()), QString::number(*chat));
+        NotificationService::shared().notify(title, veiledMessageText(content.toObject()), QString::number(*chat),
+                                             QString::number(*id));
     m_soundManager->play(SoundEvent::IncomingMessage);
 }

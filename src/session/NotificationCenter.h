@@ -13,4 +13,10 @@ public:
 Q_SIGNALS:
     // A desktop notification of a message in chatID was clicked: the chat is to be shown.
     void openTelegramChat(const QString &chatID);
+    // "Reply" on a notification: the chat is to be shown, replying to messageID.
+    void replyInTelegramChat(const QString &chatID, const QString &messageID);
+    // "Mark as read" on a notification: the chat is read where it is.
+    void markTelegramChatRead(const QString &chatID);
+    // A reply typed into a notification, to be sent as a reply to messageID.
+    void sendTelegramReply(const QString &chatID, const QString &messageID, const QString &text);
 };

@@ -120,7 +120,7 @@ class Transcript(VostTestCase):
         self.assertEqual(vost.all("paragraph", within=photos[0]), [])
         def captioned_photos():
             return [m for m in vost.messages() if m.name.startswith("Emma Wilson: Photo, Sunset at the lake")]
-        captioned = vost.wheel_until(messages, captioned_photos, turns=20)
+        captioned = vost.wheel_until(messages, captioned_photos, clicks=1)
         self.assertTrue(captioned, "no captioned photo on the way up")
         # Its caption is the bubble's last line: a bubble cut off by the bottom
         # edge comes up into view first.

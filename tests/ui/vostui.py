@@ -182,13 +182,16 @@ class Desktop:
             samples = array.array("h", data[:len(data) - len(data) % 2])
             loudest.append(max((abs(sample) for sample in samples), default=0) / 32768)
 
-    def start_notification_server(self):
+    def start_notification_server(self, menu=None):
         """dunst on this desktop's session bus, keeping every notification until a
-        case acts on it (dunstctl drives it)."""
+        case acts on it (dunstctl drives it). menu: the program dunst asks to choose
+        among a notification's actions ("dunstctl context"), in place of dmenu."""
         config = os.path.join(self.work, "dunstrc")
         with open(config, "w") as file:
-            file.write("[global]\n    timeout = 0\n    idle_threshold = 0\n    sticky_history = yes\n"
-                       "[urgency_normal]\n    timeout = 0\n")
+            file.write("[global]\n    timeout = 0\n    idle_threshold = 0\n    sticky_history = yes\n")
+            if menu:
+                file.write(f"    dmenu = {menu}\n")
+            file.write("[urgency_normal]\n    timeout = 0\n")
         process = self._spawn(["dunst", "-config", config])
         wait_until(lambda: self.dunstctl("is-paused").strip() in ("true", "false"), what="dunst on the bus")
         return process
@@ -517,10 +520,23 @@ class Vost:
         wait_until(lambda: node.has_state("focused"), timeout=5, what=f"focus in {node}")
 
     def fill(self, field, text):
-        """Focuses a text field, replaces what it holds and types text, as a person would."""
-        self.focus(field)
-        self.key("ctrl+a", "BackSpace")
-        self.type(text)
+        """Focuses a text field, replaces what it holds and types text, as a person
+        would. xdotool types a character that is not on the keyboard by mapping it to
+        a spare key for a moment; on a busy machine the program can read the key
+        after the mapping is gone and lose it, so what did not arrive is typed again."""
+        for _ in range(3):
+            self.focus(field)
+            self.key("ctrl+a", "BackSpace")
+            self.type(text)
+            if text.isascii() or self._holds(field, text):
+                return
+
+    @staticmethod
+    def _holds(field, text):
+        try:
+            return wait_until(lambda: field.text() == text, timeout=2, what="the typed text")
+        except Exception:  # a timeout, or a field gone from the tree
+            return False
 
     def save_through_dialog(self, save_button, target=None):
         """Presses a Save button and answers the file dialog: saves to target, or

@@ -48,7 +48,8 @@ public:
     explicit RecordingNotificationPoster(ReplayDriver &driver)
         : m_driver(driver)
     {}
-    void show(const QString &, const QString &title, const QString &body, const QString &chatID) override
+    void show(const QString &, const QString &title, const QString &body, const QString &chatID,
+              const QString &) override
     {
         m_driver.emitLine(
             {{"notification"_L1, QJsonObject{{"title"_L1, title}, {"body"_L1, body}, {"chatID"_L1, chatID}}}});

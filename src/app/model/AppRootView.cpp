@@ -102,8 +102,11 @@ void AppRootView::connectSession()
         connect(application, &QCoreApplication::aboutToQuit, m_typedTexts, &TypedTexts::flush);
 
     connect(&AppEvents::shared(), &AppEvents::popoverVisibilityDidChange, this, &AppRootView::popoverVisibilityChanged);
-    connect(&NotificationCenter::defaultCenter(), &NotificationCenter::openTelegramChat, this,
-            &AppRootView::openChatRequested);
+    const NotificationCenter &center = NotificationCenter::defaultCenter();
+    connect(&center, &NotificationCenter::openTelegramChat, this, &AppRootView::openChatRequested);
+    connect(&center, &NotificationCenter::replyInTelegramChat, this, &AppRootView::replyRequested);
+    connect(&center, &NotificationCenter::markTelegramChatRead, this, &AppRootView::markChatRead);
+    connect(&center, &NotificationCenter::sendTelegramReply, this, &AppRootView::sendReply);
 }
 
 QString AppRootView::accountInitials() const
@@ -160,6 +163,7 @@ void AppRootView::setMessages(const QString &chatID)
         return;
     m_viewModel->setMessageDetails(m_session.messageDetailsByChat().value(chatID), chatID);
     m_viewModel->setMessages(*messages, chatID);
+    applyPendingReply(chatID);
 }
 
 void AppRootView::start()
@@ -249,8 +253,12 @@ void AppRootView::publishUnreadCount(const QList<Chat> &chats)
 
 void AppRootView::markReadIfVisible(const QString &chatID)
 {
-    if (!m_isPopoverVisible)
-        return;
+    if (m_isPopoverVisible)
+        markChatRead(chatID);
+}
+
+void AppRootView::markChatRead(const QString &chatID)
+{
     const auto &messagesByChat = m_session.messagesByChat();
     if (const auto messages = messagesByChat.constFind(chatID); messages != messagesByChat.cend())
         m_session.markMessagesRead(*messages, chatID);
@@ -309,4 +317,32 @@ void AppRootView::openChatRequested(const QString &chatID)
     applyPendingChanges();
     m_viewModel->setSelectedChatID(chatID);
     m_session.loadMessages(chatID);
+}
+
+void AppRootView::replyRequested(const QString &chatID, const QString &messageID)
+{
+    openChatRequested(chatID);
+    m_pendingReply = PendingReply{chatID, messageID};
+    applyPendingReply(chatID);
+}
+
+void AppRootView::applyPendingReply(const QString &chatID)
+{
+    if (!m_pendingReply || m_pendingReply->chatID != chatID)
+        return;
+    if (m_viewModel->selectedChatID() != chatID) {
+        // The user went to another chat before the message arrived.
+        m_pendingReply.reset();
+        return;
+    }
+    m_viewModel->replyTo(m_pendingReply->messageID);
+    if (m_viewModel->replyToMessage())
+        m_pendingReply.reset();
+}
+
+void AppRootView::sendReply(const QString &chatID, const QString &messageID, const QString &text)
+{
+    m_session.sendText(text, chatID, messageID);
+    // Whoever answers a message has read it.
+    markChatRead(chatID);
 }

@@ -16,6 +16,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
+#include <optional>
 
 // The glue the popover hosts: it owns the one session and the one view model of
 // the process, plugs the session's operations into the view model's handler
@@ -100,6 +101,10 @@ private:
     void keepTypedText();
     void popoverVisibilityChanged(bool visible);
     void openChatRequested(const QString &chatID);
+    void replyRequested(const QString &chatID, const QString &messageID);
+    void applyPendingReply(const QString &chatID);
+    void sendReply(const QString &chatID, const QString &messageID, const QString &text);
+    void markChatRead(const QString &chatID);
     void markReadIfVisible(const QString &chatID);
 
     // The session is either owned (ownedSession) or given (session).
@@ -117,6 +122,12 @@ private:
     ContactListModel *m_contactList;
     ContactListModel *m_contactResultList;
     bool m_isPopoverVisible = false;
+    // A reply asked for from a notification whose message has not reached the view yet.
+    struct PendingReply {
+        QString chatID;
+        QString messageID;
+    };
+    std::optional<PendingReply> m_pendingReply;
 
     // What the user left typed in each chat, kept on this computer only (never
     // sent as a draft), and the chat the composer's text belongs to now.

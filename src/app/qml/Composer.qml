@@ -21,6 +21,8 @@ FocusScope {
     readonly property var replyTo: viewModel.replyToMessage
     readonly property var editing: viewModel.editingMessage
     readonly property bool hasBanner: replyTo !== null || editing !== null
+    // A reply begun anywhere (a message's menu, a notification's "Reply") is typed here.
+    onReplyToChanged: if (replyTo !== null) field.forceActiveFocus()
 
     signal sent
     // End in an empty field: the reader wants the newest message.

@@ -39,6 +39,8 @@ FreedesktopNotificationPoster::FreedesktopNotificationPoster(QDBusConnection con
                          SLOT(onActionInvoked(uint, QString)));
     m_connection.connect(notificationService, notificationPath, notificationInterface, u"NotificationClosed"_s, this,
                          SLOT(onNotificationClosed(uint, uint)));
+    m_connection.connect(notificationService, notificationPath, notificationInterface, u"NotificationReplied"_s, this,
+                         SLOT(onNotificationReplied(uint, QString)));
     m_watcher =
         new QDBusServiceWatcher(notificationService, m_connection, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -52,11 +54,11 @@ FreedesktopNotificationPoster::FreedesktopNotificationPoster(QDBusConnection con
 FreedesktopNotificationPoster::~FreedesktopNotificationPoster() = default;
 
 void FreedesktopNotificationPoster::show(const QString &identifier, const QString &title, const QString &body,
-                                         const QString &chatID)
+                                         const QString &chatID, const QString &messageID)
 {
     if (!m_connection.isConnected())
         return;
-    const Request request{identifier, title, body, chatID};
+    const Request request{identifier, title, body, chatID, messageID};
     if (m_capabilities) {
         send(request);
         return;
@@ -79,6 +81,14 @@ std::optional<QString> FreedesktopNotificationPoster::identifier(uint notificati
     if (found == m_shown.cend())
         return std::nullopt;
     return found->identifier;
+}
+
+std::optional<QString> FreedesktopNotificationPoster::messageID(uint notificationID) const
+{
+    const auto found = m_shown.constFind(notificationID);
+    if (found == m_shown.cend())
+        return std::nullopt;
+    return found->messageID;
 }
 
 // The body is marked up on servers that say so; we ask once per server before the first
@@ -107,20 +117,31 @@ void FreedesktopNotificationPoster::send(const Request &request)
     const bool bodyIsMarkup = m_capabilities && m_capabilities->contains(u"body-markup"_s);
     // Typed smileys show as emoji on the desktop as everywhere else a message text is shown.
     const QString body = SmileyText::render(request.body);
-    const QVariantMap hints{
+    QVariantMap hints{
         {u"desktop-entry"_s, QStringLiteral(VOST_APP_ID)},
         {u"category"_s, u"im.received"_s},
         // We play our own sound.
         {u"suppress-sound"_s, true},
     };
+    QStringList actions{u"default"_s, tr("Open")};
+    if (m_capabilities->contains(u"inline-reply"_s)) {
+        // The server asks for the reply itself and reports it with NotificationReplied.
+        //: A notification's action that answers its message.
+        actions << u"inline-reply"_s << tr("Reply");
+        hints.insert(u"x-kde-reply-placeholder-text"_s, tr("Reply…"));
+    } else if (m_capabilities->contains(u"actions"_s)) {
+        actions << u"reply"_s << tr("Reply");
+    }
+    if (m_capabilities->contains(u"actions"_s))
+        actions << u"mark-read"_s << tr("Mark as read");
     QDBusMessage message = methodCall(u"Notify"_s);
     message << u"Vost"_s << uint(0) << QString() << request.title << (bodyIsMarkup ? body.toHtmlEscaped() : body)
-            << QStringList{u"default"_s, u"Open"_s} << hints << qint32(-1);
+            << actions << hints << qint32(-1);
 
     ++m_inFlight;
     auto *watcher = new QDBusPendingCallWatcher(m_connection.asyncCall(message), this);
     const quint64 generation = m_serverGeneration;
-    const Shown shown{request.identifier, request.chatID};
+    const Shown shown{request.identifier, request.chatID, request.messageID};
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this, generation, shown](QDBusPendingCallWatcher *call) {
                 call->deleteLater();
@@ -145,19 +166,40 @@ void FreedesktopNotificationPoster::forgetServer()
     m_order.clear();
 }
 
-void FreedesktopNotificationPoster::onActionInvoked(uint notificationID, const QString &actionKey)
+std::optional<FreedesktopNotificationPoster::Shown> FreedesktopNotificationPoster::use(uint notificationID)
 {
-    if (actionKey != "default"_L1)
-        return;
     const auto found = m_shown.constFind(notificationID);
     if (found == m_shown.cend())
-        return;
-    const QString chatID = found->chatID;
+        return std::nullopt;
+    const Shown shown = *found;
     // Used: some servers (dunst) would otherwise keep showing it.
     QDBusMessage close = methodCall(u"CloseNotification"_s);
     close << notificationID;
     m_connection.call(close, QDBus::NoBlock);
-    Q_EMIT clicked(chatID);
+    return shown;
+}
+
+void FreedesktopNotificationPoster::onActionInvoked(uint notificationID, const QString &actionKey)
+{
+    // "inline-reply" is answered by NotificationReplied once the reply is typed.
+    if (actionKey != "default"_L1 && actionKey != "reply"_L1 && actionKey != "mark-read"_L1)
+        return;
+    const std::optional<Shown> shown = use(notificationID);
+    if (!shown)
+        return;
+    if (actionKey == "reply"_L1)
+        Q_EMIT replyRequested(shown->chatID, shown->messageID);
+    else if (actionKey == "mark-read"_L1)
+        Q_EMIT markAsReadRequested(shown->chatID);
+    else
+        Q_EMIT clicked(shown->chatID);
+}
+
+void FreedesktopNotificationPoster::onNotificationReplied(uint notificationID, const QString &text)
+{
+    const std::optional<Shown> shown = use(notificationID);
+    if (shown && !text.trimmed().isEmpty())
+        Q_EMIT replied(shown->chatID, shown->messageID, text);
 }
 
 void FreedesktopNotificationPoster::onNotificationClosed(uint notificationID, uint /*reason*/)
