@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Received TDLib event: %1</source>
-        <extracomment>%1 is the name of TDLib's event, such as updateOption.</extracomment>
+        <extracomment>%1 is the name of TDLib&apos;s event, such as updateOption.</extracomment>
         <translation>Evento da TDLib recebido: %1</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
     </message>
     <message>
         <source>secret chat</source>
-        <extracomment>Read aloud after a chat's title, like the other states of a chat here.</extracomment>
+        <extracomment>Read aloud after a chat&apos;s title, like the other states of a chat here.</extracomment>
         <translation>chat secreto</translation>
     </message>
     <message>
@@ -220,7 +220,7 @@
     </message>
     <message numerus="yes">
         <source>%1 of %n</source>
-        <extracomment>Which search result shows, of how many: "3 of 12".</extracomment>
+        <extracomment>Which search result shows, of how many: &quot;3 of 12&quot;.</extracomment>
         <translation>
             <numerusform>%1 de %n</numerusform>
             <numerusform>%1 de %n</numerusform>
@@ -592,7 +592,7 @@
     <name>DiceCard</name>
     <message>
         <source>%1 rolled %2</source>
-        <extracomment>%1 is the die's emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
+        <extracomment>%1 is the die&apos;s emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
         <translation>%1: resultado %2</translation>
     </message>
 </context>
@@ -604,7 +604,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>How much of the file has come and its whole size, as in "1.2 MB of 5 MB".</extracomment>
+        <extracomment>How much of the file has come and its whole size, as in &quot;1.2 MB of 5 MB&quot;.</extracomment>
         <translation>%1 de %2</translation>
     </message>
     <message>
@@ -818,7 +818,7 @@
     <name>FormattedBody</name>
     <message>
         <source>Links to %1</source>
-        <extracomment>The addresses behind the links of a message's text, for screen readers.</extracomment>
+        <extracomment>The addresses behind the links of a message&apos;s text, for screen readers.</extracomment>
         <translation>Leva a %1</translation>
     </message>
     <message>
@@ -852,11 +852,31 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopNotificationPoster</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <extracomment>A notification&apos;s action that answers its message.</extracomment>
+        <translation>Responder</translation>
+    </message>
+    <message>
+        <source>Reply…</source>
+        <translation>Responder…</translation>
+    </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>Marcar como lido</translation>
+    </message>
+</context>
+<context>
     <name>LanguageChoice</name>
     <message>
         <source>System</source>
         <comment>language</comment>
-        <extracomment>The language that follows the system's own.</extracomment>
+        <extracomment>The language that follows the system&apos;s own.</extracomment>
         <translation>Sistema</translation>
     </message>
     <message>
@@ -962,7 +982,7 @@
     </message>
     <message>
         <source>Hint: %1</source>
-        <extracomment>The two-step password's hint, as its owner wrote it.</extracomment>
+        <extracomment>The two-step password&apos;s hint, as its owner wrote it.</extracomment>
         <translation>Dica: %1</translation>
     </message>
     <message>
@@ -974,7 +994,7 @@
     <name>MessageBubble</name>
     <message>
         <source>sending</source>
-        <extracomment>A message's delivery state, read aloud after its time; the next two as well.</extracomment>
+        <extracomment>A message&apos;s delivery state, read aloud after its time; the next two as well.</extracomment>
         <translation>enviando</translation>
     </message>
     <message>
@@ -1010,7 +1030,7 @@
     </message>
     <message>
         <source>More</source>
-        <extracomment>The button that opens a message's actions.</extracomment>
+        <extracomment>The button that opens a message&apos;s actions.</extracomment>
         <translation>Mais</translation>
     </message>
     <message>
@@ -1023,7 +1043,7 @@
     </message>
     <message>
         <source>edited  %1</source>
-        <extracomment>An edited message's time; %1 is the time, such as 14:05.</extracomment>
+        <extracomment>An edited message&apos;s time; %1 is the time, such as 14:05.</extracomment>
         <translation>editada  %1</translation>
     </message>
 </context>
@@ -1154,7 +1174,7 @@
     </message>
     <message>
         <source>Open username</source>
-        <extracomment>A form's title: open a chat by someone's public username.</extracomment>
+        <extracomment>A form&apos;s title: open a chat by someone&apos;s public username.</extracomment>
         <translation>Abrir por nome de usuário</translation>
     </message>
     <message>
@@ -1304,7 +1324,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The picture shown and how many the album has, as in "2 of 5".</extracomment>
+        <extracomment>The picture shown and how many the album has, as in &quot;2 of 5&quot;.</extracomment>
         <translation>%1 de %2</translation>
     </message>
 </context>
@@ -1332,7 +1352,7 @@
     </message>
     <message>
         <source>%1, %2 %</source>
-        <extracomment>A poll's answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
+        <extracomment>A poll&apos;s answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
         <translation>%1, %2 %</translation>
     </message>
     <message numerus="yes">
@@ -1360,12 +1380,12 @@
     </message>
     <message>
         <source>Appearance</source>
-        <extracomment>Titles of the preferences' sections.</extracomment>
+        <extracomment>Titles of the preferences&apos; sections.</extracomment>
         <translation>Aparência</translation>
     </message>
     <message>
         <source>System</source>
-        <extracomment>The appearance that follows the system's light or dark setting.</extracomment>
+        <extracomment>The appearance that follows the system&apos;s light or dark setting.</extracomment>
         <translation>Sistema</translation>
     </message>
     <message>
@@ -1500,7 +1520,7 @@
     <name>StatusItem</name>
     <message numerus="yes">
         <source>Vost, %n unread messages</source>
-        <extracomment>The tray icon's accessible name.</extracomment>
+        <extracomment>The tray icon&apos;s accessible name.</extracomment>
         <translation>
             <numerusform>Vost, %n mensagem não lida</numerusform>
             <numerusform>Vost, %n mensagens não lidas</numerusform>
@@ -1508,17 +1528,17 @@
     </message>
     <message>
         <source>Waiting for network…</source>
-        <extracomment>The tray item's tool tip while the computer has no network connection</extracomment>
+        <extracomment>The tray item&apos;s tool tip while the computer has no network connection</extracomment>
         <translation>Aguardando rede…</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <extracomment>The tray item's tool tip while the link to Telegram is being made</extracomment>
+        <extracomment>The tray item&apos;s tool tip while the link to Telegram is being made</extracomment>
         <translation>Conectando…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <extracomment>The tray item's tool tip while what happened offline is being fetched</extracomment>
+        <extracomment>The tray item&apos;s tool tip while what happened offline is being fetched</extracomment>
         <translation>Atualizando…</translation>
     </message>
 </context>
@@ -1592,12 +1612,12 @@
     </message>
     <message>
         <source>TDLib could not be loaded: %1</source>
-        <extracomment>%1 is the system loader's own message.</extracomment>
+        <extracomment>%1 is the system loader&apos;s own message.</extracomment>
         <translation>Não foi possível carregar a TDLib: %1</translation>
     </message>
     <message>
         <source>TDLib is missing the required function %1.</source>
-        <extracomment>%1 is the name of a function of TDLib's library, such as td_create_client_id.</extracomment>
+        <extracomment>%1 is the name of a function of TDLib&apos;s library, such as td_create_client_id.</extracomment>
         <translation>A função obrigatória %1 não foi encontrada na TDLib.</translation>
     </message>
 </context>
@@ -1645,7 +1665,7 @@
     </message>
     <message>
         <source>You</source>
-        <extracomment>The sender's name on one's own messages.</extracomment>
+        <extracomment>The sender&apos;s name on one&apos;s own messages.</extracomment>
         <translation>Você</translation>
     </message>
     <message>
@@ -1680,12 +1700,12 @@
     </message>
     <message>
         <source>Typing…</source>
-        <extracomment>The chat's subtitle while the other person types.</extracomment>
+        <extracomment>The chat&apos;s subtitle while the other person types.</extracomment>
         <translation>Digitando…</translation>
     </message>
     <message>
         <source>%1 is typing…</source>
-        <extracomment>A group's subtitle while a member types; %1 is the member's name.</extracomment>
+        <extracomment>A group&apos;s subtitle while a member types; %1 is the member&apos;s name.</extracomment>
         <translation>%1 está digitando…</translation>
     </message>
     <message>
@@ -1720,7 +1740,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Verbs: the voice message's play button.</extracomment>
+        <extracomment>Verbs: the voice message&apos;s play button.</extracomment>
         <translation>Pausar</translation>
     </message>
     <message>
@@ -1729,7 +1749,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The time played and the whole length, as in "0:12 of 1:05".</extracomment>
+        <extracomment>The time played and the whole length, as in &quot;0:12 of 1:05&quot;.</extracomment>
         <translation>%1 de %2</translation>
     </message>
 </context>

@@ -46,7 +46,7 @@
     </message>
     <message>
         <source>Received TDLib event: %1</source>
-        <extracomment>%1 is the name of TDLib's event, such as updateOption.</extracomment>
+        <extracomment>%1 is the name of TDLib&apos;s event, such as updateOption.</extracomment>
         <translation>Получено событие TDLib: %1</translation>
     </message>
     <message>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>secret chat</source>
-        <extracomment>Read aloud after a chat's title, like the other states of a chat here.</extracomment>
+        <extracomment>Read aloud after a chat&apos;s title, like the other states of a chat here.</extracomment>
         <translation>секретный чат</translation>
     </message>
     <message>
@@ -222,7 +222,7 @@
     </message>
     <message numerus="yes">
         <source>%1 of %n</source>
-        <extracomment>Which search result shows, of how many: "3 of 12".</extracomment>
+        <extracomment>Which search result shows, of how many: &quot;3 of 12&quot;.</extracomment>
         <translation>
             <numerusform>%1 из %n</numerusform>
             <numerusform>%1 из %n</numerusform>
@@ -595,7 +595,7 @@
     <name>DiceCard</name>
     <message>
         <source>%1 rolled %2</source>
-        <extracomment>%1 is the die's emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
+        <extracomment>%1 is the die&apos;s emoji (a die, a dart, a ball), %2 the number it came up with.</extracomment>
         <translation>%1: выпало %2</translation>
     </message>
 </context>
@@ -607,7 +607,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>How much of the file has come and its whole size, as in "1.2 MB of 5 MB".</extracomment>
+        <extracomment>How much of the file has come and its whole size, as in &quot;1.2 MB of 5 MB&quot;.</extracomment>
         <translation>%1 из %2</translation>
     </message>
     <message>
@@ -821,7 +821,7 @@
     <name>FormattedBody</name>
     <message>
         <source>Links to %1</source>
-        <extracomment>The addresses behind the links of a message's text, for screen readers.</extracomment>
+        <extracomment>The addresses behind the links of a message&apos;s text, for screen readers.</extracomment>
         <translation>Ссылка на %1</translation>
     </message>
     <message>
@@ -855,11 +855,31 @@
     </message>
 </context>
 <context>
+    <name>FreedesktopNotificationPoster</name>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Reply</source>
+        <extracomment>A notification&apos;s action that answers its message.</extracomment>
+        <translation>Ответить</translation>
+    </message>
+    <message>
+        <source>Reply…</source>
+        <translation>Ответить…</translation>
+    </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>Отметить как прочитанное</translation>
+    </message>
+</context>
+<context>
     <name>LanguageChoice</name>
     <message>
         <source>System</source>
         <comment>language</comment>
-        <extracomment>The language that follows the system's own.</extracomment>
+        <extracomment>The language that follows the system&apos;s own.</extracomment>
         <translation>Как в системе</translation>
     </message>
     <message>
@@ -965,7 +985,7 @@
     </message>
     <message>
         <source>Hint: %1</source>
-        <extracomment>The two-step password's hint, as its owner wrote it.</extracomment>
+        <extracomment>The two-step password&apos;s hint, as its owner wrote it.</extracomment>
         <translation>Подсказка: %1</translation>
     </message>
     <message>
@@ -977,7 +997,7 @@
     <name>MessageBubble</name>
     <message>
         <source>sending</source>
-        <extracomment>A message's delivery state, read aloud after its time; the next two as well.</extracomment>
+        <extracomment>A message&apos;s delivery state, read aloud after its time; the next two as well.</extracomment>
         <translation>отправляется</translation>
     </message>
     <message>
@@ -1013,7 +1033,7 @@
     </message>
     <message>
         <source>More</source>
-        <extracomment>The button that opens a message's actions.</extracomment>
+        <extracomment>The button that opens a message&apos;s actions.</extracomment>
         <translation>Ещё</translation>
     </message>
     <message>
@@ -1026,7 +1046,7 @@
     </message>
     <message>
         <source>edited  %1</source>
-        <extracomment>An edited message's time; %1 is the time, such as 14:05.</extracomment>
+        <extracomment>An edited message&apos;s time; %1 is the time, such as 14:05.</extracomment>
         <translation>изменено  %1</translation>
     </message>
 </context>
@@ -1157,7 +1177,7 @@
     </message>
     <message>
         <source>Open username</source>
-        <extracomment>A form's title: open a chat by someone's public username.</extracomment>
+        <extracomment>A form&apos;s title: open a chat by someone&apos;s public username.</extracomment>
         <translation>Открыть по имени пользователя</translation>
     </message>
     <message>
@@ -1310,7 +1330,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The picture shown and how many the album has, as in "2 of 5".</extracomment>
+        <extracomment>The picture shown and how many the album has, as in &quot;2 of 5&quot;.</extracomment>
         <translation>%1 из %2</translation>
     </message>
 </context>
@@ -1338,7 +1358,7 @@
     </message>
     <message>
         <source>%1, %2 %</source>
-        <extracomment>A poll's answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
+        <extracomment>A poll&apos;s answer read aloud: %1 is the answer, %2 the share of votes in percent.</extracomment>
         <translation>%1, %2 %</translation>
     </message>
     <message numerus="yes">
@@ -1367,12 +1387,12 @@
     </message>
     <message>
         <source>Appearance</source>
-        <extracomment>Titles of the preferences' sections.</extracomment>
+        <extracomment>Titles of the preferences&apos; sections.</extracomment>
         <translation>Оформление</translation>
     </message>
     <message>
         <source>System</source>
-        <extracomment>The appearance that follows the system's light or dark setting.</extracomment>
+        <extracomment>The appearance that follows the system&apos;s light or dark setting.</extracomment>
         <translation>Как в системе</translation>
     </message>
     <message>
@@ -1507,7 +1527,7 @@
     <name>StatusItem</name>
     <message numerus="yes">
         <source>Vost, %n unread messages</source>
-        <extracomment>The tray icon's accessible name.</extracomment>
+        <extracomment>The tray icon&apos;s accessible name.</extracomment>
         <translation>
             <numerusform>Vost, %n непрочитанное сообщение</numerusform>
             <numerusform>Vost, %n непрочитанных сообщения</numerusform>
@@ -1516,17 +1536,17 @@
     </message>
     <message>
         <source>Waiting for network…</source>
-        <extracomment>The tray item's tool tip while the computer has no network connection</extracomment>
+        <extracomment>The tray item&apos;s tool tip while the computer has no network connection</extracomment>
         <translation>Ожидание сети…</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <extracomment>The tray item's tool tip while the link to Telegram is being made</extracomment>
+        <extracomment>The tray item&apos;s tool tip while the link to Telegram is being made</extracomment>
         <translation>Соединение…</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <extracomment>The tray item's tool tip while what happened offline is being fetched</extracomment>
+        <extracomment>The tray item&apos;s tool tip while what happened offline is being fetched</extracomment>
         <translation>Обновление…</translation>
     </message>
 </context>
@@ -1600,12 +1620,12 @@
     </message>
     <message>
         <source>TDLib could not be loaded: %1</source>
-        <extracomment>%1 is the system loader's own message.</extracomment>
+        <extracomment>%1 is the system loader&apos;s own message.</extracomment>
         <translation>Не удалось загрузить TDLib: %1</translation>
     </message>
     <message>
         <source>TDLib is missing the required function %1.</source>
-        <extracomment>%1 is the name of a function of TDLib's library, such as td_create_client_id.</extracomment>
+        <extracomment>%1 is the name of a function of TDLib&apos;s library, such as td_create_client_id.</extracomment>
         <translation>В TDLib отсутствует необходимая функция %1.</translation>
     </message>
 </context>
@@ -1653,7 +1673,7 @@
     </message>
     <message>
         <source>You</source>
-        <extracomment>The sender's name on one's own messages.</extracomment>
+        <extracomment>The sender&apos;s name on one&apos;s own messages.</extracomment>
         <translation>Вы</translation>
     </message>
     <message>
@@ -1688,12 +1708,12 @@
     </message>
     <message>
         <source>Typing…</source>
-        <extracomment>The chat's subtitle while the other person types.</extracomment>
+        <extracomment>The chat&apos;s subtitle while the other person types.</extracomment>
         <translation>Печатает…</translation>
     </message>
     <message>
         <source>%1 is typing…</source>
-        <extracomment>A group's subtitle while a member types; %1 is the member's name.</extracomment>
+        <extracomment>A group&apos;s subtitle while a member types; %1 is the member&apos;s name.</extracomment>
         <translation>%1 печатает…</translation>
     </message>
     <message>
@@ -1728,7 +1748,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <extracomment>Verbs: the voice message's play button.</extracomment>
+        <extracomment>Verbs: the voice message&apos;s play button.</extracomment>
         <translation>Пауза</translation>
     </message>
     <message>
@@ -1737,7 +1757,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <extracomment>The time played and the whole length, as in "0:12 of 1:05".</extracomment>
+        <extracomment>The time played and the whole length, as in &quot;0:12 of 1:05&quot;.</extracomment>
         <translation>%1 из %2</translation>
     </message>
 </context>
