@@ -332,6 +332,39 @@
     </message>
 </context>
 <context>
+    <name>ComposerMenu</name>
+    <message>
+        <source>Spelling</source>
+        <translation>املا</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>The composer&apos;s context menu without a misspelt word: the editing commands.</extracomment>
+        <translation>ویرایش</translation>
+    </message>
+    <message>
+        <source>Add to dictionary</source>
+        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
+        <translation>افزودن به واژه‌نامه</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>برش</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>کپی</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>چسباندن</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>انتخاب همه</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -1495,18 +1528,6 @@
     <message>
         <source>Preferences (Ctrl+,)</source>
         <translation>تنظیمات (Ctrl+,)</translation>
-    </message>
-</context>
-<context>
-    <name>SpellingMenu</name>
-    <message>
-        <source>Spelling</source>
-        <translation>املا</translation>
-    </message>
-    <message>
-        <source>Add to dictionary</source>
-        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
-        <translation>افزودن به واژه‌نامه</translation>
     </message>
 </context>
 <context>

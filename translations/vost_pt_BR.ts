@@ -335,6 +335,39 @@
     </message>
 </context>
 <context>
+    <name>ComposerMenu</name>
+    <message>
+        <source>Spelling</source>
+        <translation>Ortografia</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>The composer&apos;s context menu without a misspelt word: the editing commands.</extracomment>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Add to dictionary</source>
+        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
+        <translation>Adicionar ao dicionário</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -1502,18 +1535,6 @@
     <message>
         <source>Preferences (Ctrl+,)</source>
         <translation>Preferências (Ctrl+,)</translation>
-    </message>
-</context>
-<context>
-    <name>SpellingMenu</name>
-    <message>
-        <source>Spelling</source>
-        <translation>Ortografia</translation>
-    </message>
-    <message>
-        <source>Add to dictionary</source>
-        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
-        <translation>Adicionar ao dicionário</translation>
     </message>
 </context>
 <context>

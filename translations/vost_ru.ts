@@ -338,6 +338,39 @@
     </message>
 </context>
 <context>
+    <name>ComposerMenu</name>
+    <message>
+        <source>Spelling</source>
+        <translation>Орфография</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <extracomment>The composer&apos;s context menu without a misspelt word: the editing commands.</extracomment>
+        <translation>Правка</translation>
+    </message>
+    <message>
+        <source>Add to dictionary</source>
+        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
+        <translation>Добавить в словарь</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Вырезать</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -1509,18 +1542,6 @@
     <message>
         <source>Preferences (Ctrl+,)</source>
         <translation>Настройки (Ctrl+,)</translation>
-    </message>
-</context>
-<context>
-    <name>SpellingMenu</name>
-    <message>
-        <source>Spelling</source>
-        <translation>Орфография</translation>
-    </message>
-    <message>
-        <source>Add to dictionary</source>
-        <extracomment>Keeps a word the spelling check does not know from being marked again.</extracomment>
-        <translation>Добавить в словарь</translation>
     </message>
 </context>
 <context>

@@ -2,7 +2,8 @@
 """Spelling in the composer: a right click on a misspelt word offers its
 corrections, choosing one puts it in place (one step of undo), "Add to
 dictionary" keeps the word from being offered again, and the "Check spelling"
-preference turns it all off."""
+preference turns it all off. Anywhere else the right click offers the editing
+commands."""
 
 import os
 import time
@@ -40,6 +41,9 @@ class Spelling(VostTestCase):
             found = vost.all("popup menu", "Spelling")
             if found:
                 return found[0]
+            # The word is not known to be misspelt (yet): the editing commands.
+            if vost.all("popup menu", "Edit"):
+                vost.key("Escape")
             time.sleep(0.5)
         return None
 
@@ -50,7 +54,8 @@ class Spelling(VostTestCase):
         names = [item.name for item in vost.all("menu item", within=menu)]
         self.assertIn("world", names)
         self.assertIn("Add to dictionary", names)
-        self.assertLessEqual(len(names), 6)
+        self.assertLessEqual(names.index("Add to dictionary"), 5)
+        self.assertEqual(names[-1], "Select All")
         self.assertEqual(dishonest_nodes(menu), [])
         vost.find("menu item", "world", within=menu).press()
         vost.absent("popup menu", "Spelling")
@@ -64,12 +69,30 @@ class Spelling(VostTestCase):
         vost.find("menu item", "world", within=menu)
         vost.key("Escape")
         vost.absent("popup menu", "Spelling")
-        # A word it knows has nothing to offer.
-        vost.fill(field, "Hello wrld")
-        wait_until(lambda: field.text() == "Hello wrld")
-        vost.click(self.word_point(field, "Hello"), button=3)
-        time.sleep(1)
+
+    def test_a_known_word_offers_the_editing_commands(self):
+        vost, field = self.compose("Hello there")
+
+        def menu_on(word):
+            vost.click(self.word_point(field, word), button=3)
+            return vost.find("popup menu", "Edit")
+
+        menu = menu_on("Hello")
+        # Nothing is selected: nothing to cut or copy.
+        names = [item.name for item in vost.all("menu item", within=menu)]
+        self.assertIn(names, (["Select All"], ["Paste", "Select All"]))
         self.assertEqual(vost.all("popup menu", "Spelling"), [])
+        vost.find("menu item", "Select All", within=menu).press()
+        vost.absent("popup menu", "Edit")
+        menu = menu_on("there")
+        names = [item.name for item in vost.all("menu item", within=menu)]
+        self.assertEqual(names[:2], ["Cut", "Copy"])
+        vost.find("menu item", "Cut", within=menu).press()
+        wait_until(lambda: field.text() == "", what="the text cut")
+        vost.click(field, button=3)
+        vost.find("menu item", "Paste", within=vost.find("popup menu", "Edit")).press()
+        wait_until(lambda: field.text() == "Hello there", what="the text pasted back")
+        self.assertTrue(field.has_state("focused"))
 
     def test_an_added_word_is_offered_nothing_and_is_kept(self):
         vost, field = self.compose("Vostgram rocks")
@@ -103,11 +126,11 @@ class Spelling(VostTestCase):
         field = vost.find("text", "Message")
         self.assertEqual(field.text(), "Helo wrld")
         self.assertIsNone(self.corrections(vost, field, "wrld", timeout=3))
-        # The keyboard way to the menu offers nothing either.
+        # The keyboard way to the menu offers no corrections either.
         vost.focus(field)
         vost.key("End", "shift+F10")
-        time.sleep(0.5)
-        self.assertEqual(vost.all("popup menu", "Spelling"), [])
+        menu = vost.find("popup menu", "Edit")
+        self.assertEqual(vost.all("menu item", "world", within=menu), [])
 
 
 if __name__ == "__main__":

@@ -182,7 +182,8 @@ FocusScope {
                     Keys.onPressed: event => {
                         if (event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier)) {
                             const caret = field.cursorRectangle;
-                            event.accepted = composer.offerCorrections(field.cursorPosition, caret.x, caret.y + caret.height);
+                            composer.openMenu(field.cursorPosition, caret.x, caret.y + caret.height);
+                            event.accepted = true;
                             return;
                         }
                         if (event.key === Qt.Key_End && event.modifiers === Qt.NoModifier && field.text === "") {
@@ -190,11 +191,8 @@ FocusScope {
                             event.accepted = true;
                             return;
                         }
-                        // A picture on the clipboard is attached; text is pasted as usual.
                         if (event.matches(StandardKey.Paste) && Clipboard.hasImage()) {
-                            const path = Clipboard.saveImage();
-                            if (path !== "")
-                                composer.viewModel.queueFiles([path]);
+                            composer.paste();
                             event.accepted = true;
                         }
                     }
@@ -203,7 +201,7 @@ FocusScope {
                         acceptedButtons: Qt.RightButton
                         onTapped: eventPoint => {
                             const point = eventPoint.position;
-                            composer.offerCorrections(field.positionAt(point.x, point.y), point.x, point.y);
+                            composer.openMenu(field.positionAt(point.x, point.y), point.x, point.y);
                         }
                     }
 
@@ -313,23 +311,37 @@ FocusScope {
     }
 
     OnDemand {
-        id: spellingMenu
+        id: contextMenu
 
-        sourceComponent: SpellingMenu {
+        sourceComponent: ComposerMenu {
             parent: composer
             onCorrected: (start, word, replacement) => spelling.replace(start, word, replacement)
             onAdded: word => spelling.addToDictionary(word)
+            onCut: field.cut()
+            onCopy: field.copy()
+            onPaste: composer.paste()
+            onSelectAll: field.selectAll()
             onClosed: field.forceActiveFocus()
         }
     }
 
-    // The corrections of the misspelt word at a position of the text, if it is one.
-    function offerCorrections(position, x, y) {
+    // The context menu at a position of the text: the corrections of the misspelt
+    // word there, if it is one, and the editing commands.
+    function openMenu(position, x, y) {
         const misspelt = spelling.misspeltWordAt(position);
-        if (misspelt.word === undefined)
-            return false;
-        spellingMenu.instance().openFor(misspelt, spelling.suggestions(misspelt.word), field, x, y);
-        return true;
+        const corrections = misspelt.word === undefined ? [] : spelling.suggestions(misspelt.word);
+        contextMenu.instance().openFor(misspelt, corrections, field, x, y);
+    }
+
+    // A picture on the clipboard is attached; text is pasted as usual.
+    function paste() {
+        if (!Clipboard.hasImage()) {
+            field.paste();
+            return;
+        }
+        const path = Clipboard.saveImage();
+        if (path !== "")
+            composer.viewModel.queueFiles([path]);
     }
 
     function handleReturn(event) {
