@@ -72,8 +72,9 @@ private Q_SLOTS:
         const NotificationCenter &center = NotificationCenter::defaultCenter();
         connect(&center, &NotificationCenter::openTelegramChat, this,
                 [this](const QString &chatID) { m_opened.append(chatID); });
-        connect(&center, &NotificationCenter::replyInTelegramChat, this,
-                [this](const QString &chatID, const QString &messageID) { m_opened.append(chatID + u'/' + messageID); });
+        connect(
+            &center, &NotificationCenter::replyInTelegramChat, this,
+            [this](const QString &chatID, const QString &messageID) { m_opened.append(chatID + u'/' + messageID); });
         connect(&center, &NotificationCenter::markTelegramChatRead, this,
                 [this](const QString &chatID) { m_read.append(chatID); });
         connect(&center, &NotificationCenter::sendTelegramReply, this,
