@@ -1,5 +1,6 @@
 #include "AppPreferences.h"
 
+#include "AppEvents.h"
 #include "bundle/AppBundle.h"
 #include "platform/Autostart.h"
 
@@ -7,7 +8,10 @@ using namespace Qt::StringLiterals;
 
 AppPreferences::AppPreferences(QObject *parent)
     : QObject(parent)
-{}
+{
+    connect(&AppEvents::shared(), &AppEvents::globalShortcutStatusDidChange, this,
+            &AppPreferences::shortcutStatusChanged);
+}
 
 bool AppPreferences::startsAtLogin() const
 {
@@ -24,4 +28,12 @@ void AppPreferences::setStartsAtLogin(bool starts)
 QString AppPreferences::version() const
 {
     return AppBundle::main().infoDictionary().value(u"CFBundleShortVersionString"_s).toString();
+}
+
+void AppPreferences::setShortcutStatus(ShortcutStatus status)
+{
+    if (status == s_shortcutStatus)
+        return;
+    s_shortcutStatus = status;
+    Q_EMIT AppEvents::shared().globalShortcutStatusDidChange();
 }
