@@ -11,6 +11,8 @@ AppPreferences::AppPreferences(QObject *parent)
 {
     connect(&AppEvents::shared(), &AppEvents::globalShortcutStatusDidChange, this,
             &AppPreferences::shortcutStatusChanged);
+    connect(&AppEvents::shared(), &AppEvents::globalShortcutRecordingDidChange, this,
+            &AppPreferences::recordsShortcutChanged);
 }
 
 bool AppPreferences::startsAtLogin() const
@@ -36,4 +38,12 @@ void AppPreferences::setShortcutStatus(ShortcutStatus status)
         return;
     s_shortcutStatus = status;
     Q_EMIT AppEvents::shared().globalShortcutStatusDidChange();
+}
+
+void AppPreferences::setRecordsShortcut(bool recording)
+{
+    if (recording == s_recordsShortcut)
+        return;
+    s_recordsShortcut = recording;
+    Q_EMIT AppEvents::shared().globalShortcutRecordingDidChange(recording);
 }

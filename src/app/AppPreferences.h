@@ -27,6 +27,7 @@ class AppPreferences : public QObject
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(bool isDemoAccount READ isDemoAccount CONSTANT)
     Q_PROPERTY(ShortcutStatus shortcutStatus READ shortcutStatus NOTIFY shortcutStatusChanged)
+    Q_PROPERTY(bool recordsShortcut READ recordsShortcut WRITE setRecordsShortcut NOTIFY recordsShortcutChanged)
 
 public:
     enum class ShortcutStatus {
@@ -52,12 +53,17 @@ public:
     ShortcutStatus shortcutStatus() const { return s_shortcutStatus; }
     // The application says so whenever it grabs the shortcut anew.
     static void setShortcutStatus(ShortcutStatus status);
+    // While the page waits for a new combination.
+    bool recordsShortcut() const { return s_recordsShortcut; }
+    void setRecordsShortcut(bool recording);
 
 Q_SIGNALS:
     void startsAtLoginChanged();
     void shortcutStatusChanged();
+    void recordsShortcutChanged();
 
 private:
     static inline bool s_demoAccount = false;
     static inline ShortcutStatus s_shortcutStatus = ShortcutStatus::Off;
+    static inline bool s_recordsShortcut = false;
 };

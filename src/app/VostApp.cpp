@@ -312,6 +312,14 @@ bool VostApp::launch()
     m_globalShortcut = makeSystemGlobalShortcut();
     connect(m_globalShortcut.get(), &GlobalShortcut::activated, this, &VostApp::handleGlobalShortcut);
     connect(&Preferences::shared(), &Preferences::globalShortcutChanged, this, &VostApp::grabGlobalShortcut);
+    // Pressing the current combination while recording must reach the page, not
+    // close the popover: the grab waits until the recording ends.
+    connect(&events, &AppEvents::globalShortcutRecordingDidChange, this, [this](bool recording) {
+        if (recording)
+            m_globalShortcut->setShortcut(QKeySequence());
+        else
+            grabGlobalShortcut();
+    });
     grabGlobalShortcut();
     m_root->start();
     return true;

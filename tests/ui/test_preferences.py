@@ -219,6 +219,12 @@ class Shortcut(VostTestCase):
         wait_until(lambda: stored(vost, "globalShortcut") == "Ctrl+Alt+K", what="the shortcut stored")
         wait_until(lambda: button.description == "Ctrl+Alt+K", what="the shortcut shown")
         vost.absent("paragraph", "Taken by another program", timeout=1)
+        # While recording, the combination is the page's: the popover stays.
+        button.press()
+        wait_until(lambda: button.description == "Press keys…", what="recording")
+        vost.key("ctrl+alt+k")
+        wait_until(lambda: button.description == "Ctrl+Alt+K", what="the same shortcut recorded")
+        self.assertTrue(vost.popover_shown())
 
         self.leave_popover(vost)
         vost.key("ctrl+alt+k")

@@ -21,6 +21,8 @@ Q_SIGNALS:
     void filePanelDidFinish();
     // The global shortcut was taken, let go or refused.
     void globalShortcutStatusDidChange();
+    // The page records a new shortcut: the old one must not act meanwhile.
+    void globalShortcutRecordingDidChange(bool recording);
     // A left click with Ctrl held somewhere in the popover.
     void commandClick();
 };

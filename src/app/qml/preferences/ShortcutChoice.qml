@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
+import QtQuick.Window
 import Vost.App
 import Vost.Model
 
@@ -18,6 +19,10 @@ RowLayout {
     readonly property string noneText: qsTr("None", "shortcut")
 
     spacing: 8
+    // While recording the old shortcut rests; a popover that closes ends the recording.
+    onRecordingChanged: AppPreferences.recordsShortcut = recording
+    Window.onActiveChanged: if (!Window.active) recording = false
+    Component.onDestruction: AppPreferences.recordsShortcut = false
 
     ReadableText {
         text: qsTr("Shortcut to open Vost")
