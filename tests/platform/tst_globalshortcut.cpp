@@ -115,6 +115,17 @@ private Q_SLOTS:
         QCOMPARE(X11Keys::grabMasks(4, 0), (QList<uint16_t>{4, 4 | 2}));
     }
 
+    // Under an X server the key grab; elsewhere (Wayland, offscreen) a shortcut that
+    // is never available and holds nothing.
+    void theFactoryFollowsThePlatform()
+    {
+        const std::unique_ptr<GlobalShortcut> shortcut = makeSystemGlobalShortcut();
+        const bool x11 = QGuiApplication::platformName() == "xcb"_L1;
+        QCOMPARE(shortcut->isAvailable(), x11);
+        if (!x11)
+            QVERIFY(!shortcut->setShortcut(QKeySequence(u"Ctrl+Alt+K"_s)));
+    }
+
     // On the test's X server: a combination we hold is refused to another client,
     // and one another client holds is refused to us, until it lets go.
     void grabsOnTheXServer()
