@@ -19,14 +19,15 @@ BUILD_DIR=${VOST_BUILD_DIR:-build}
 BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
-# What building Vost needs, and what it loads when it runs: Qt's platform plugin,
+# What building Vost needs, and what it loads when it runs: Qt's platform plugin (and
+# the X client library the global shortcut grabs its key with),
 # QML modules, image formats, the media backend's GStreamer plugins, the emoji font,
 # the translation tools (lupdate/lrelease), fonts with Cyrillic and Arabic-script glyphs, and
 # Hunspell with the dictionaries of English and of the catalogs' languages (spelling).
 DEBIAN_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
     librsvg2-bin
-    qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev qt6-svg-dev libgl-dev qt6-qpa-plugins
+    qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev qt6-svg-dev libgl-dev qt6-qpa-plugins libxcb1-dev
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
     qml6-module-qtmultimedia qt6-image-formats-plugins

@@ -1,5 +1,6 @@
 #include "AppPreferences.h"
 
+#include "AppEvents.h"
 #include "bundle/AppBundle.h"
 #include "platform/Autostart.h"
 
@@ -7,7 +8,12 @@ using namespace Qt::StringLiterals;
 
 AppPreferences::AppPreferences(QObject *parent)
     : QObject(parent)
-{}
+{
+    connect(&AppEvents::shared(), &AppEvents::globalShortcutStatusDidChange, this,
+            &AppPreferences::shortcutStatusChanged);
+    connect(&AppEvents::shared(), &AppEvents::globalShortcutRecordingDidChange, this,
+            &AppPreferences::recordsShortcutChanged);
+}
 
 bool AppPreferences::startsAtLogin() const
 {
@@ -24,4 +30,20 @@ void AppPreferences::setStartsAtLogin(bool starts)
 QString AppPreferences::version() const
 {
     return AppBundle::main().infoDictionary().value(u"CFBundleShortVersionString"_s).toString();
+}
+
+void AppPreferences::setShortcutStatus(ShortcutStatus status)
+{
+    if (status == s_shortcutStatus)
+        return;
+    s_shortcutStatus = status;
+    Q_EMIT AppEvents::shared().globalShortcutStatusDidChange();
+}
+
+void AppPreferences::setRecordsShortcut(bool recording)
+{
+    if (recording == s_recordsShortcut)
+        return;
+    s_recordsShortcut = recording;
+    Q_EMIT AppEvents::shared().globalShortcutRecordingDidChange(recording);
 }

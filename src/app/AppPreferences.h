@@ -15,7 +15,8 @@ struct PreferencesForeign {
 };
 
 // What the preferences page shows beyond the account: the user's preferences,
-// starting at login, the version, and whether this is the offline demo account.
+// starting at login, the version, whether this is the offline demo account, and
+// what became of the global shortcut the user chose.
 class AppPreferences : public QObject
 {
     Q_OBJECT
@@ -25,8 +26,20 @@ class AppPreferences : public QObject
     Q_PROPERTY(bool startsAtLogin READ startsAtLogin WRITE setStartsAtLogin NOTIFY startsAtLoginChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(bool isDemoAccount READ isDemoAccount CONSTANT)
+    Q_PROPERTY(ShortcutStatus shortcutStatus READ shortcutStatus NOTIFY shortcutStatusChanged)
+    Q_PROPERTY(bool recordsShortcut READ recordsShortcut WRITE setRecordsShortcut NOTIFY recordsShortcutChanged)
 
 public:
+    enum class ShortcutStatus {
+        Off,
+        Working,
+        // Another program holds the combination.
+        Taken,
+        // The desktop gives programs no shortcuts of their own (Wayland for now).
+        Unavailable,
+    };
+    Q_ENUM(ShortcutStatus)
+
     explicit AppPreferences(QObject *parent = nullptr);
 
     Preferences *preferences() const { return &Preferences::shared(); }
@@ -37,10 +50,20 @@ public:
 
     // Set once at launch, before the views are made.
     static void setDemoAccount(bool demo) { s_demoAccount = demo; }
+    ShortcutStatus shortcutStatus() const { return s_shortcutStatus; }
+    // The application says so whenever it grabs the shortcut anew.
+    static void setShortcutStatus(ShortcutStatus status);
+    // While the page waits for a new combination.
+    bool recordsShortcut() const { return s_recordsShortcut; }
+    void setRecordsShortcut(bool recording);
 
 Q_SIGNALS:
     void startsAtLoginChanged();
+    void shortcutStatusChanged();
+    void recordsShortcutChanged();
 
 private:
     static inline bool s_demoAccount = false;
+    static inline ShortcutStatus s_shortcutStatus = ShortcutStatus::Off;
+    static inline bool s_recordsShortcut = false;
 };

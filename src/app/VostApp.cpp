@@ -13,6 +13,7 @@
 #include "StickerEngine.h"
 #include "bundle/AppBundle.h"
 #include "platform/ColorScheme.h"
+#include "platform/GlobalShortcut.h"
 #include "platform/LauncherEntry.h"
 #include "platform/NotificationPoster.h"
 #include "platform/SoundPlayer.h"
@@ -21,6 +22,7 @@
 #include "session/CredentialStore.h"
 #include "session/NotificationCenter.h"
 #include "session/NotificationService.h"
+#include "session/Preferences.h"
 #include "session/SoundManager.h"
 #include "session/TelegramSession.h"
 #include "tdlib/DemoBundle.h"
@@ -307,6 +309,18 @@ bool VostApp::launch()
     m_trayWatch->setInterval(trayWatchIntervalMs);
     connect(m_trayWatch, &QTimer::timeout, this, &VostApp::chooseTray);
     chooseTray();
+    m_globalShortcut = makeSystemGlobalShortcut();
+    connect(m_globalShortcut.get(), &GlobalShortcut::activated, this, &VostApp::handleGlobalShortcut);
+    connect(&Preferences::shared(), &Preferences::globalShortcutChanged, this, &VostApp::grabGlobalShortcut);
+    // Pressing the current combination while recording must reach the page, not
+    // close the popover: the grab waits until the recording ends.
+    connect(&events, &AppEvents::globalShortcutRecordingDidChange, this, [this](bool recording) {
+        if (recording)
+            m_globalShortcut->setShortcut(QKeySequence());
+        else
+            grabGlobalShortcut();
+    });
+    grabGlobalShortcut();
     m_root->start();
     return true;
 }
@@ -458,6 +472,31 @@ void VostApp::handleTrayClick(const QPoint &point)
         return;
     }
     togglePopover();
+}
+
+void VostApp::grabGlobalShortcut()
+{
+    const QString shortcut = Preferences::shared().globalShortcut();
+    const bool held = m_globalShortcut->setShortcut(QKeySequence::fromString(shortcut, QKeySequence::PortableText));
+    using Status = AppPreferences::ShortcutStatus;
+    if (!m_globalShortcut->isAvailable())
+        AppPreferences::setShortcutStatus(Status::Unavailable);
+    else if (shortcut.isEmpty())
+        AppPreferences::setShortcutStatus(Status::Off);
+    else
+        AppPreferences::setShortcutStatus(held ? Status::Working : Status::Taken);
+}
+
+// The shortcut is a click on the tray item without the item: it opens the popover
+// or closes it. A window has no tray item to come back by, so it only comes forward.
+void VostApp::handleGlobalShortcut()
+{
+    if (popoverHandlingSuspended)
+        return;
+    if (m_popover->isInTrayMode())
+        togglePopover();
+    else
+        bringForward();
 }
 
 // In an XEmbed tray, or for a host that leaves the menu to the program, the menu is

@@ -12,6 +12,7 @@
 class AppRootView;
 class ColorSchemeWatcher;
 class CredentialStore;
+class GlobalShortcut;
 class NotificationPoster;
 class PopoverWindow;
 class QApplication;
@@ -69,6 +70,8 @@ private:
     void updateToolTip();
     void handleTrayActivation(int reason);
     void handleTrayClick(const QPoint &point);
+    void grabGlobalShortcut();
+    void handleGlobalShortcut();
     void showStatusMenu(const QPoint &point);
     void presentPopover();
     void popoverActiveChanged();
@@ -97,6 +100,7 @@ private:
     std::unique_ptr<NotificationPoster> m_poster;
     std::unique_ptr<SoundPlayer> m_soundPlayer;
     std::unique_ptr<ColorSchemeWatcher> m_colorScheme;
+    std::unique_ptr<GlobalShortcut> m_globalShortcut;
     QPoint m_clickPoint;
     bool m_hasClickPoint = false;
     bool m_placedOnce = false;

@@ -2,6 +2,7 @@
 
 #include "session/UserDefaults.h"
 
+#include <QKeySequence>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -12,6 +13,7 @@ const QString soundsEnabledKey = u"soundsEnabled"_s;
 const QString soundPackKey = u"soundPack"_s;
 const QString showNotificationsKey = u"showNotifications"_s;
 const QString checkSpellingKey = u"checkSpelling"_s;
+const QString globalShortcutKey = u"globalShortcut"_s;
 
 // Only a stored boolean false counts as off. The settings file keeps booleans as
 // the words true and false, so those words count as booleans.
@@ -91,6 +93,62 @@ void Preferences::setChecksSpelling(bool checks)
 {
     if (storeFlag(checkSpellingKey, checks))
         Q_EMIT checksSpellingChanged();
+}
+
+QString Preferences::globalShortcut() const
+{
+    return normalizedShortcut(UserDefaults::value(globalShortcutKey).toString());
+}
+
+QString Preferences::globalShortcutLabel() const
+{
+    return QKeySequence::fromString(globalShortcut(), QKeySequence::PortableText).toString(QKeySequence::NativeText);
+}
+
+void Preferences::setGlobalShortcut(const QString &shortcut)
+{
+    const QString normalized = normalizedShortcut(shortcut);
+    if ((normalized.isEmpty() && !shortcut.trimmed().isEmpty()) || normalized == globalShortcut())
+        return;
+    UserDefaults::setValue(globalShortcutKey, normalized);
+    Q_EMIT globalShortcutChanged();
+}
+
+QString Preferences::shortcutForKeyPress(int key, int modifiers)
+{
+    constexpr Qt::KeyboardModifiers kept = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier | Qt::ShiftModifier;
+    const Qt::KeyboardModifiers held = Qt::KeyboardModifiers::fromInt(modifiers) & kept;
+    if ((held & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == Qt::NoModifier)
+        return {};
+    switch (key) {
+    case 0:
+    case Qt::Key_unknown:
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+        return {};
+    default:
+        break;
+    }
+    return QKeySequence(QKeyCombination(held, Qt::Key(key))).toString(QKeySequence::PortableText);
+}
+
+QString Preferences::normalizedShortcut(const QString &text)
+{
+    const QKeySequence sequence = QKeySequence::fromString(text.trimmed(), QKeySequence::PortableText);
+    if (sequence.count() != 1)
+        return {};
+    const QKeyCombination first = sequence[0];
+    return shortcutForKeyPress(first.key(), int(first.keyboardModifiers().toInt()));
 }
 
 void Preferences::previewSoundPack(const QString &name)

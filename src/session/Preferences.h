@@ -8,7 +8,8 @@
 // The user's preferences in one place: the sound manager, the notification
 // service and the preferences page read and write them here, and hear about
 // changes. They live in the user-defaults store ("soundsEnabled", "soundPack",
-// "showNotifications", "checkSpelling"); the appearance mode has its own home in Appearance.
+// "showNotifications", "checkSpelling", "globalShortcut"); the appearance mode has its
+// own home in Appearance.
 class Preferences : public QObject
 {
     Q_OBJECT
@@ -19,6 +20,11 @@ class Preferences : public QObject
     Q_PROPERTY(
         bool showsNotifications READ showsNotifications WRITE setShowsNotifications NOTIFY showsNotificationsChanged)
     Q_PROPERTY(bool checksSpelling READ checksSpelling WRITE setChecksSpelling NOTIFY checksSpellingChanged)
+    // The shortcut that opens and closes the popover from anywhere, in Qt's portable
+    // text ("Ctrl+Alt+K"); empty when there is none.
+    Q_PROPERTY(QString globalShortcut READ globalShortcut WRITE setGlobalShortcut NOTIFY globalShortcutChanged)
+    // The same as the platform writes it, for people.
+    Q_PROPERTY(QString globalShortcutLabel READ globalShortcutLabel NOTIFY globalShortcutChanged)
 
 public:
     static Preferences &shared();
@@ -37,6 +43,18 @@ public:
     // The composer marks misspelt words unless the user turned that off.
     bool checksSpelling() const;
     void setChecksSpelling(bool checks);
+    // None unless the user chose one; what is stored and cannot be a shortcut is none.
+    QString globalShortcut() const;
+    QString globalShortcutLabel() const;
+    // Takes a usable combination or empty (none); anything else changes nothing.
+    void setGlobalShortcut(const QString &shortcut);
+
+    // The portable text of a key press as a shortcut for anywhere on the desktop, or
+    // empty when it cannot be one: it needs Ctrl, Alt or Meta (Shift only with one
+    // of them) and a key that is not itself a modifier.
+    Q_INVOKABLE static QString shortcutForKeyPress(int key, int modifiers);
+    // A stored text of one combination as shortcutForKeyPress would make it, or empty.
+    static QString normalizedShortcut(const QString &text);
 
     // Plays the pack's two preview sounds, one after the other, whether sounds are
     // on or not.
@@ -47,6 +65,7 @@ Q_SIGNALS:
     void soundPackChanged();
     void showsNotificationsChanged();
     void checksSpellingChanged();
+    void globalShortcutChanged();
 
 private:
     using QObject::QObject;

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """The preferences page: reached from the sidebar's toolbar or Ctrl+, and left with
 Esc; appearance applied at once, sounds, notifications and starting at login
-stored where the program reads them, and "Change account" back to sign-in."""
+stored where the program reads them, "Change account" back to sign-in, and the
+global shortcut recorded on the page and grabbed on the X server."""
 
 import configparser
 import os
@@ -164,6 +165,107 @@ class Sounds(VostTestCase):
             vost.find("radio button", "Classic", within=page).press()
             time.sleep(1.5)
         self.assertGreater(heard[0], self.AUDIBLE, "the pack's preview was not heard")
+
+
+# Another X client holding Ctrl+Alt+K (Xlib through ctypes) until it is ended.
+KEY_HOLDER = """
+import ctypes, sys, time
+x = ctypes.cdll.LoadLibrary("libX11.so.6")
+x.XOpenDisplay.restype = ctypes.c_void_p
+x.XDefaultRootWindow.argtypes = [ctypes.c_void_p]
+x.XDefaultRootWindow.restype = ctypes.c_ulong
+x.XKeysymToKeycode.argtypes = [ctypes.c_void_p, ctypes.c_ulong]
+x.XGrabKey.argtypes = [ctypes.c_void_p, ctypes.c_int, ctypes.c_uint, ctypes.c_ulong, ctypes.c_int, ctypes.c_int,
+                       ctypes.c_int]
+x.XSync.argtypes = [ctypes.c_void_p, ctypes.c_int]
+display = x.XOpenDisplay(None)
+keycode = x.XKeysymToKeycode(display, ord("k"))
+x.XGrabKey(display, keycode, 4 | 8, x.XDefaultRootWindow(display), 1, 1, 1)
+x.XSync(display, 0)
+print("held", flush=True)
+time.sleep(600)
+"""
+
+
+class Shortcut(VostTestCase):
+    """The global shortcut, recorded on the page and grabbed on the X server."""
+
+    def shortcut_button(self, vost):
+        vost.find("push button", "Preferences").press()
+        return vost.find("push button", "Shortcut to open Vost", within=vost.find("panel", "Preferences"))
+
+    def leave_popover(self, vost):
+        vost.key("Escape")
+        vost.absent("panel", "Preferences")
+        vost.key("Escape")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed")
+
+    def test_a_recorded_shortcut_opens_and_closes_the_popover_until_cleared(self):
+        vost = self.open_signed_in()
+        button = self.shortcut_button(vost)
+        self.assertEqual(button.description, "None")
+        # A key without Ctrl, Alt or Meta is not a shortcut; Esc gives up recording.
+        button.press()
+        wait_until(lambda: button.description == "Press keys…", what="recording")
+        vost.key("k")
+        self.assertEqual(button.description, "Press keys…")
+        vost.key("Escape")
+        wait_until(lambda: button.description == "None", what="recording given up")
+        vost.find("panel", "Preferences")
+
+        button.press()
+        wait_until(lambda: button.description == "Press keys…", what="recording")
+        vost.key("ctrl+alt+k")
+        wait_until(lambda: stored(vost, "globalShortcut") == "Ctrl+Alt+K", what="the shortcut stored")
+        wait_until(lambda: button.description == "Ctrl+Alt+K", what="the shortcut shown")
+        vost.absent("paragraph", "Taken by another program", timeout=1)
+        # While recording, the combination is the page's: the popover stays.
+        button.press()
+        wait_until(lambda: button.description == "Press keys…", what="recording")
+        vost.key("ctrl+alt+k")
+        wait_until(lambda: button.description == "Ctrl+Alt+K", what="the same shortcut recorded")
+        self.assertTrue(vost.popover_shown())
+
+        self.leave_popover(vost)
+        vost.key("ctrl+alt+k")
+        wait_until(vost.popover_shown, what="the popover opened by the shortcut")
+        vost.key("ctrl+alt+k")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the shortcut")
+
+        # Backspace clears it, and the combination is the desktop's again.
+        vost.key("ctrl+alt+k")
+        wait_until(vost.popover_shown, what="the popover")
+        vost.find("list", "Chat list")
+        button = self.shortcut_button(vost)
+        button.press()
+        wait_until(lambda: button.description == "Press keys…", what="recording")
+        vost.key("BackSpace")
+        wait_until(lambda: stored(vost, "globalShortcut") == "", what="the shortcut cleared")
+        self.assertEqual(button.description, "None")
+        self.leave_popover(vost)
+        vost.key("ctrl+alt+k")
+        time.sleep(1.0)
+        self.assertFalse(vost.popover_shown())
+
+    def test_a_shortcut_another_program_holds_is_said_to_be_taken(self):
+        holder = subprocess.Popen(["/usr/bin/python3", "-c", KEY_HOLDER], env=self.desktop.env,
+                                  stdout=subprocess.PIPE, text=True)
+        self.addCleanup(holder.wait)
+        self.addCleanup(holder.kill)
+        self.assertEqual(holder.stdout.readline().strip(), "held")
+        vost = self.launch(settings={"globalShortcut": "Ctrl+Alt+K"})
+        vost.open_popover()
+        vost.wait_for_chats()
+        button = self.shortcut_button(vost)
+        self.assertEqual(button.description, "Ctrl+Alt+K")
+        page = vost.find("panel", "Preferences")
+        vost.find("paragraph", "Taken by another program", within=page)
+        # A combination nobody holds is ours, and the note goes.
+        button.press()
+        wait_until(lambda: button.description == "Press keys…", what="recording")
+        vost.key("ctrl+alt+j")
+        wait_until(lambda: button.description == "Ctrl+Alt+J", what="the new shortcut shown")
+        vost.absent("paragraph", "Taken by another program", within=page)
 
 
 if __name__ == "__main__":

@@ -19,6 +19,10 @@ Q_SIGNALS:
     // A file dialog is about to open, and has closed: the popover steps aside meanwhile.
     void filePanelWillPresent();
     void filePanelDidFinish();
+    // The global shortcut was taken, let go or refused.
+    void globalShortcutStatusDidChange();
+    // The page records a new shortcut: the old one must not act meanwhile.
+    void globalShortcutRecordingDidChange(bool recording);
     // A left click with Ctrl held somewhere in the popover.
     void commandClick();
 };

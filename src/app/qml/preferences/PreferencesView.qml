@@ -6,8 +6,8 @@ import Vost.Model
 
 // The preferences page, over the whole popover: appearance, language, spelling,
 // sounds and their pack (each pack previews itself when chosen), notifications,
-// starting at login, the account with "Change account", and the version. Esc or
-// "Back" returns to the chats.
+// the shortcut that opens Vost, starting at login, the account with "Change
+// account", and the version. Esc or "Back" returns to the chats.
 FocusScope {
     id: page
 
@@ -190,10 +190,16 @@ FocusScope {
             SectionTitle {
                 text: qsTr("Notifications")
             }
-            PreferenceCheck {
-                text: qsTr("Show notifications")
-                value: page.preferences.showsNotifications
-                onFlipped: on => page.preferences.showsNotifications = on
+            RowLayout {
+                spacing: 24
+
+                PreferenceCheck {
+                    text: qsTr("Show notifications")
+                    value: page.preferences.showsNotifications
+                    onFlipped: on => page.preferences.showsNotifications = on
+                }
+                // Beside the notifications: the page fits the popover whole.
+                ShortcutChoice {}
             }
             PreferenceCheck {
                 text: qsTr("Start Vost when I sign in to my computer")

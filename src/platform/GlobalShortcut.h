@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+
+#include <memory>
+
+// A key combination that reaches the program whatever window has the keyboard
+// (on X11 a passive grab on the root window).
+class GlobalShortcut : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    // Whether this desktop lets a program have a shortcut of its own at all.
+    virtual bool isAvailable() const = 0;
+    // Lets go of the previous combination and takes the sequence's first one; an
+    // empty sequence only lets go. Whether the new combination is now held: false
+    // where the platform has none, or another program holds it already.
+    virtual bool setShortcut(const QKeySequence &sequence) = 0;
+
+Q_SIGNALS:
+    void activated();
+};
+
+// The platform's global shortcut: the X11 key grab under an X server, elsewhere
+// (Wayland) one that is never available.
+std::unique_ptr<GlobalShortcut> makeSystemGlobalShortcut();
