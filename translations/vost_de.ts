@@ -1519,6 +1519,32 @@
     </message>
 </context>
 <context>
+    <name>ShortcutChoice</name>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Shown on the shortcut&apos;s button while it waits for a key combination.</extracomment>
+        <translation>Tasten drücken…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>shortcut</comment>
+        <extracomment>On the shortcut&apos;s button when no shortcut is chosen.</extracomment>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Shortcut to open Vost</source>
+        <translation>Tastenkürzel zum Öffnen von Vost</translation>
+    </message>
+    <message>
+        <source>Taken by another program</source>
+        <translation>Von einem anderen Programm belegt</translation>
+    </message>
+    <message>
+        <source>Not available on this desktop</source>
+        <translation>Auf diesem Desktop nicht verfügbar</translation>
+    </message>
+</context>
+<context>
     <name>SidebarToolbar</name>
     <message>
         <source>New chat</source>

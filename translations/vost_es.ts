@@ -1519,6 +1519,32 @@
     </message>
 </context>
 <context>
+    <name>ShortcutChoice</name>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Shown on the shortcut&apos;s button while it waits for a key combination.</extracomment>
+        <translation>Pulsa las teclas…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>shortcut</comment>
+        <extracomment>On the shortcut&apos;s button when no shortcut is chosen.</extracomment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Shortcut to open Vost</source>
+        <translation>Atajo para abrir Vost</translation>
+    </message>
+    <message>
+        <source>Taken by another program</source>
+        <translation>En uso por otro programa</translation>
+    </message>
+    <message>
+        <source>Not available on this desktop</source>
+        <translation>No disponible en este escritorio</translation>
+    </message>
+</context>
+<context>
     <name>SidebarToolbar</name>
     <message>
         <source>New chat</source>

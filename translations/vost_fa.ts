@@ -1512,6 +1512,32 @@
     </message>
 </context>
 <context>
+    <name>ShortcutChoice</name>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Shown on the shortcut&apos;s button while it waits for a key combination.</extracomment>
+        <translation>کلیدها را فشار دهید…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>shortcut</comment>
+        <extracomment>On the shortcut&apos;s button when no shortcut is chosen.</extracomment>
+        <translation>هیچ</translation>
+    </message>
+    <message>
+        <source>Shortcut to open Vost</source>
+        <translation>میان‌بر باز کردن Vost</translation>
+    </message>
+    <message>
+        <source>Taken by another program</source>
+        <translation>در اختیار برنامه‌ای دیگر است</translation>
+    </message>
+    <message>
+        <source>Not available on this desktop</source>
+        <translation>در این میزکار در دسترس نیست</translation>
+    </message>
+</context>
+<context>
     <name>SidebarToolbar</name>
     <message>
         <source>New chat</source>

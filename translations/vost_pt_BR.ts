@@ -1519,6 +1519,32 @@
     </message>
 </context>
 <context>
+    <name>ShortcutChoice</name>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Shown on the shortcut&apos;s button while it waits for a key combination.</extracomment>
+        <translation>Pressione as teclas…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>shortcut</comment>
+        <extracomment>On the shortcut&apos;s button when no shortcut is chosen.</extracomment>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>Shortcut to open Vost</source>
+        <translation>Atalho para abrir o Vost</translation>
+    </message>
+    <message>
+        <source>Taken by another program</source>
+        <translation>Em uso por outro programa</translation>
+    </message>
+    <message>
+        <source>Not available on this desktop</source>
+        <translation>Não disponível neste desktop</translation>
+    </message>
+</context>
+<context>
     <name>SidebarToolbar</name>
     <message>
         <source>New chat</source>

@@ -1526,6 +1526,32 @@
     </message>
 </context>
 <context>
+    <name>ShortcutChoice</name>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Shown on the shortcut&apos;s button while it waits for a key combination.</extracomment>
+        <translation>Нажмите клавиши…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>shortcut</comment>
+        <extracomment>On the shortcut&apos;s button when no shortcut is chosen.</extracomment>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Shortcut to open Vost</source>
+        <translation>Сочетание клавиш для открытия Vost</translation>
+    </message>
+    <message>
+        <source>Taken by another program</source>
+        <translation>Занято другой программой</translation>
+    </message>
+    <message>
+        <source>Not available on this desktop</source>
+        <translation>Недоступно в этом окружении</translation>
+    </message>
+</context>
+<context>
     <name>SidebarToolbar</name>
     <message>
         <source>New chat</source>
