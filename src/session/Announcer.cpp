@@ -25,11 +25,11 @@ void Announcer::announceMessage(const TdObject &message, bool muted, const std::
     const std::optional<qint64> chat = int64From(message.value("chat_id"_L1));
     const std::optional<qint64> id = int64From(message.value("id"_L1));
     const QJsonValue content = message.value("content"_L1);
-    if (!chat || !id || !content.isObject())
+    if (!chat || !content.isObject())
         return;
     const QString title = listedTitle.value_or(QCoreApplication::translate("Announcer", "New Telegram message"));
     if (Preferences::shared().showsNotifications())
         NotificationService::shared().notify(title, veiledMessageText(content.toObject()), QString::number(*chat),
-                                             QString::number(*id));
+                                             id ? QString::number(*id) : QString());
     m_soundManager->play(SoundEvent::IncomingMessage);
 }

@@ -322,6 +322,8 @@ void AppRootView::openChatRequested(const QString &chatID)
 void AppRootView::replyRequested(const QString &chatID, const QString &messageID)
 {
     openChatRequested(chatID);
+    if (messageID.isEmpty())
+        return;
     m_pendingReply = PendingReply{chatID, messageID};
     applyPendingReply(chatID);
 }
