@@ -19,24 +19,11 @@ Item {
     // Whether it is exposed to assistive technology (a list hides what is off screen).
     property bool shown: true
 
-    readonly property bool ready: (shownFormat === Model.StickerFormat.Webp && image.status === Image.Ready)
-                                  || (shownFormat === Model.StickerFormat.Animated && player.status === StickerPlayer.Ready)
-                                  || (shownFormat === Model.StickerFormat.Video && video.status === Loader.Ready
+    readonly property bool ready: (format === Model.StickerFormat.Webp && image.status === Image.Ready)
+                                  || (format === Model.StickerFormat.Animated && player.status === StickerPlayer.Ready)
+                                  || (format === Model.StickerFormat.Video && video.status === Loader.Ready
                                       && video.item.playState === StickerPageController.Playing
                                       && video.item.frameCount > 0)
-
-    // A view a list reuses is given its new path and format one after the other;
-    // what it shows follows them once both are in, so that no reader is handed a
-    // file of the other kind (an animated sticker's to the image reader).
-    property string shownPath
-    property int shownFormat: Model.StickerFormat.Webp
-    function settle() {
-        shownPath = path;
-        shownFormat = format;
-    }
-    onPathChanged: Qt.callLater(settle)
-    onFormatChanged: Qt.callLater(settle)
-    Component.onCompleted: settle()
 
     implicitWidth: 160
     implicitHeight: 160
@@ -48,8 +35,8 @@ Item {
         id: image
 
         anchors.fill: parent
-        visible: view.shownFormat === Model.StickerFormat.Webp
-        source: visible ? LocalFile.url(view.shownPath) : ""
+        visible: view.format === Model.StickerFormat.Webp
+        source: visible ? LocalFile.url(view.path) : ""
         sourceSize: Qt.size(view.width * 2, view.height * 2)
         fillMode: Image.PreserveAspectFit
         asynchronous: true
@@ -59,8 +46,8 @@ Item {
         id: player
 
         anchors.fill: parent
-        visible: view.shownFormat === Model.StickerFormat.Animated
-        path: visible ? view.shownPath : ""
+        visible: view.format === Model.StickerFormat.Animated
+        path: visible ? view.path : ""
         playing: view.playing
     }
 
@@ -68,10 +55,10 @@ Item {
         id: video
 
         anchors.fill: parent
-        active: view.shownFormat === Model.StickerFormat.Video && view.shownPath !== "" && view.visible && view.playing
+        active: view.format === Model.StickerFormat.Video && view.path !== "" && view.visible && view.playing
         sourceComponent: AnimatedStickerView {
             objectName: "stickerPage"
-            path: view.shownPath
+            path: view.path
             format: Model.StickerFormat.Video
         }
     }
