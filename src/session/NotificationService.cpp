@@ -15,14 +15,16 @@ NotificationService &NotificationService::shared()
 
 void NotificationService::setPoster(NotificationPoster *poster)
 {
-    if (m_poster)
+    NotificationCenter *center = &NotificationCenter::defaultCenter();
+    if (m_poster) {
         disconnect(m_poster, nullptr, this, nullptr);
+        disconnect(m_poster, nullptr, center, nullptr);
+    }
     m_poster = poster;
     if (!m_poster)
         return;
     connect(m_poster, &NotificationPoster::clicked, this, &NotificationService::didReceive);
     connect(m_poster, &NotificationPoster::replyRequested, this, &NotificationService::didRequestReply);
-    NotificationCenter *center = &NotificationCenter::defaultCenter();
     connect(m_poster, &NotificationPoster::markAsReadRequested, center, &NotificationCenter::markTelegramChatRead);
     connect(m_poster, &NotificationPoster::replied, center, &NotificationCenter::sendTelegramReply);
 }
