@@ -13,6 +13,7 @@
 #include "StickerEngine.h"
 #include "bundle/AppBundle.h"
 #include "platform/ColorScheme.h"
+#include "platform/EmbeddedTrayWatch.h"
 #include "platform/GlobalShortcut.h"
 #include "platform/LauncherEntry.h"
 #include "platform/NotificationPoster.h"
@@ -305,6 +306,9 @@ bool VostApp::launch()
         });
     }
     // An XEmbed tray announces itself only on the X server.
+    m_embeddedTrayWatch = makeSystemEmbeddedTrayWatch();
+    if (m_embeddedTrayWatch)
+        connect(m_embeddedTrayWatch.get(), &EmbeddedTrayWatch::gone, this, &VostApp::chooseTray);
     m_trayWatch = new QTimer(this);
     m_trayWatch->setInterval(trayWatchIntervalMs);
     connect(m_trayWatch, &QTimer::timeout, this, &VostApp::chooseTray);
@@ -353,8 +357,12 @@ void VostApp::chooseTray()
         kind = TrayKind::StatusNotifier;
     // Qt settles on its first question whether its own tray icon speaks
     // StatusNotifierItem; asked only while no watcher runs, it stays with XEmbed.
-    else if (QSystemTrayIcon::isSystemTrayAvailable())
+    // A panel that holds both kinds can drop its StatusNotifierItem host before its
+    // XEmbed tray: the watch then reports that tray's end too.
+    else if (QSystemTrayIcon::isSystemTrayAvailable() && (!m_embeddedTrayWatch || m_embeddedTrayWatch->watch()))
         kind = TrayKind::XEmbed;
+    if (kind != TrayKind::XEmbed && m_embeddedTrayWatch)
+        m_embeddedTrayWatch->stop();
     // Only a window looks out for an XEmbed tray; in a tray the program sleeps.
     if (kind == TrayKind::Window && !m_trayWatch->isActive())
         m_trayWatch->start();
@@ -398,18 +406,17 @@ void VostApp::createTrayIcon()
 void VostApp::updateStatusItem(int unreadCount)
 {
     m_unreadCount = std::max(unreadCount, 0);
-    const QColor glyphColor =
-        StatusItem::glyphColor(m_colorScheme ? m_colorScheme->scheme() : DesktopColorScheme::Unknown,
-                               StatusItem::panelIsAlwaysDark(qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
-                               QGuiApplication::palette());
+    const QColor glyphColor = StatusItem::glyphColor(
+        m_colorScheme ? m_colorScheme->scheme() : DesktopColorScheme::Unknown,
+        StatusItem::panelIsAlwaysDark(qEnvironmentVariable("XDG_CURRENT_DESKTOP")), QGuiApplication::palette());
     if (m_trayItem) {
         // The host picks among the sizes it is given; the larger ones are the usual
         // sides drawn at twice the detail.
         QList<QImage> images;
         for (const int height : m_trayItem->iconHeights()) {
             const bool doubled = height > StatusItem::squareSides.back();
-            images.append(StatusItem::squareImage(m_unreadCount, doubled ? height / 2 : height, doubled ? 2.0 : 1.0,
-                                                  glyphColor));
+            images.append(
+                StatusItem::squareImage(m_unreadCount, doubled ? height / 2 : height, doubled ? 2.0 : 1.0, glyphColor));
         }
         m_trayItem->setIcon(images);
     }

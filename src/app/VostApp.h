@@ -12,6 +12,7 @@
 class AppRootView;
 class ColorSchemeWatcher;
 class CredentialStore;
+class EmbeddedTrayWatch;
 class GlobalShortcut;
 class NotificationPoster;
 class PopoverWindow;
@@ -93,6 +94,7 @@ private:
     // XEmbed trays.
     std::unique_ptr<TrayItem> m_trayItem;
     QSystemTrayIcon *m_trayIcon = nullptr;
+    std::unique_ptr<EmbeddedTrayWatch> m_embeddedTrayWatch;
     TrayKind m_trayKind = TrayKind::Undecided;
     std::unique_ptr<QMenu> m_statusMenu;
     QTimer *m_deactivationTimer = nullptr;

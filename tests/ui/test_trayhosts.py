@@ -226,7 +226,7 @@ class OwnItem(VostTestCase):
 
 class LatePanel(VostTestCase):
     """Vost started before the panel (autostart at login): a window until the panel
-    comes, then in the panel, and a window again whenever the panel goes."""
+    comes, then in the panel, and a window again whenever the panel or tray goes."""
     tray = False
 
     def our_item_registered(self, vost):
@@ -244,6 +244,11 @@ class LatePanel(VostTestCase):
             wait_until(lambda: not vost.popover_shown(), what="the window gone into the panel")
             self.desktop.stop_tray()
             wait_until(vost.popover_shown, timeout=15, what="the window back when the panel quit")
+        # An XEmbed tray alone (stalonetray, trayer) that quits says so only on the X server.
+        self.desktop.start_tray("trayer")
+        wait_until(lambda: not vost.popover_shown(), what="the window gone into the XEmbed tray")
+        self.desktop.stop_tray()
+        wait_until(vost.popover_shown, timeout=15, what="the window back when the XEmbed tray quit")
         self.assertTrue(vost.running())
 
 
