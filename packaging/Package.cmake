@@ -32,8 +32,10 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
 qml6-module-qtquick-window, qml6-module-qtquick-templates, qml6-module-qtqml-workerscript, \
 qml6-module-qtwebengine, qml6-module-qtmultimedia, qt6-image-formats-plugins, \
 gstreamer1.0-plugins-base, gstreamer1.0-plugins-good")
-# Videos in more formats, emoji drawn in colour, and a dictionary for the spelling.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "gstreamer1.0-libav, fonts-noto-color-emoji, hunspell-en-us | hunspell-dictionary")
+# Videos in more formats, emoji drawn in colour, a dictionary for the spelling, and
+# a native window in Wayland sessions (without it Vost runs through Xwayland).
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "gstreamer1.0-libav, fonts-noto-color-emoji, hunspell-en-us | hunspell-dictionary, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 # No maintainer scripts; lintian's overrides (each with its reason).

@@ -1,5 +1,7 @@
 #include "PopoverPlacement.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 
 namespace {
@@ -21,4 +23,17 @@ QPoint popoverPosition(const QRect &iconGeometry, const QPoint &pointer, const Q
     x = std::max(availableArea.left(), std::min(x, availableArea.right() + 1 - popoverSize.width()));
     y = std::max(availableArea.top(), std::min(y, availableArea.bottom() + 1 - popoverSize.height()));
     return {x, y};
+}
+
+WindowPlacement windowPlacement(QStringView platformName, bool waylandSession)
+{
+    if (platformName.startsWith(u"wayland"))
+        return WindowPlacement::ByCompositor;
+    return waylandSession ? WindowPlacement::HostPointOnly : WindowPlacement::Free;
+}
+
+bool inWaylandSession()
+{
+    return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariable("XDG_SESSION_TYPE").compare(QLatin1String("wayland"), Qt::CaseInsensitive) == 0;
 }

@@ -16,7 +16,7 @@ namespace {
 constexpr int timeoutMs = 1500;
 // Longer than a closing program takes to close its database.
 constexpr int databaseWaitMs = 6000;
-const QByteArray showMessage = "show\n"_ba;
+const QByteArray showMessage = "show"_ba;
 } // namespace
 
 SingleInstance::SingleInstance(QObject *parent)
@@ -38,7 +38,10 @@ bool SingleInstance::activateRunningInstance()
     socket.connectToServer(serverName());
     if (!socket.waitForConnected(timeoutMs))
         return false;
-    socket.write(showMessage);
+    // The launcher's activation token goes along: a Wayland compositor lets only
+    // its holder take the focus.
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    socket.write(showMessage + (token.isEmpty() ? QByteArray() : ' ' + token) + '\n');
     if (!socket.waitForBytesWritten(timeoutMs))
         return false;
     // The running instance answers once it has shown itself.
@@ -73,9 +76,12 @@ bool SingleInstance::listen()
         while (QLocalSocket *socket = m_server->nextPendingConnection()) {
             connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
             connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
-                if (!socket->readAll().contains(showMessage))
+                if (!socket->canReadLine())
                     return;
-                Q_EMIT activationRequested();
+                const QList<QByteArray> words = socket->readLine().trimmed().split(' ');
+                if (words.value(0) != showMessage)
+                    return;
+                Q_EMIT activationRequested(QString::fromUtf8(words.value(1)));
                 socket->write("shown\n"_ba);
                 socket->flush();
             });

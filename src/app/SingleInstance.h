@@ -32,7 +32,8 @@ public:
     bool listen();
 
 Q_SIGNALS:
-    void activationRequested();
+    // token: the later launch's activation token, if its launcher gave one.
+    void activationRequested(const QString &token);
 
 private:
     QLocalServer *m_server = nullptr;

@@ -294,8 +294,11 @@ bool VostApp::launch()
         m_trayItem->setMenu({tr("Open Vost"), QString(), tr("Quit Vost")});
         connect(m_trayItem.get(), &TrayItem::shownChanged, this, &VostApp::chooseTray);
         connect(m_trayItem.get(), &TrayItem::activated, this,
-                [this](QPoint hostPoint, bool hasPoint) { handleTrayClick(hasPoint ? hostPoint : QCursor::pos()); });
+                [this](QPoint hostPoint, bool hasPoint) {
+                    handleTrayClick(hasPoint ? std::optional(hostPoint) : std::nullopt);
+                });
         connect(m_trayItem.get(), &TrayItem::contextMenuRequested, this, &VostApp::showStatusMenu);
+        connect(m_trayItem.get(), &TrayItem::activationTokenProvided, this, &VostApp::presentActivationToken);
         // The host's menu takes the pointer: the popover goes first.
         connect(m_trayItem.get(), &TrayItem::menuAboutToShow, this, &VostApp::closePopover);
         connect(m_trayItem.get(), &TrayItem::menuEntryTriggered, this, [this](int index) {
@@ -468,12 +471,12 @@ void VostApp::handleTrayActivation(int reason)
     }
 }
 
-void VostApp::handleTrayClick(const QPoint &point)
+void VostApp::handleTrayClick(std::optional<QPoint> point)
 {
     if (popoverHandlingSuspended)
         return;
-    m_clickPoint = point;
-    m_hasClickPoint = true;
+    m_clickPoint = point.value_or(QPoint());
+    m_hasClickPoint = point.has_value();
     if (!isPopoverShown() && m_sinceDeactivationClose.isValid() && m_sinceDeactivationClose.elapsed() < reopenGuardMs) {
         m_sinceDeactivationClose.invalidate();
         return;
@@ -548,14 +551,19 @@ void VostApp::closePopover()
 
 void VostApp::presentPopover()
 {
-    if (m_popover->isInTrayMode()) {
+    const WindowPlacement placement = windowPlacement(QGuiApplication::platformName(), inWaylandSession());
+    if (placement == WindowPlacement::ByCompositor) {
+        // Where the window goes is the compositor's to say: most centre it.
+    } else if (m_popover->isInTrayMode()) {
         const QRect iconGeometry = m_trayIcon ? m_trayIcon->geometry() : QRect();
+        const bool pointKnown = m_hasClickPoint || iconGeometry.isValid() || placement == WindowPlacement::Free;
         const QPoint pointer = m_hasClickPoint ? m_clickPoint : QCursor::pos();
         QScreen *screen = QGuiApplication::screenAt(iconGeometry.isValid() ? iconGeometry.center() : pointer);
         if (!screen)
             screen = QGuiApplication::primaryScreen();
         const QRect available = screen ? screen->availableGeometry() : QRect(QPoint(), PopoverWindow::contentSize);
-        m_popover->setPosition(popoverPosition(iconGeometry, pointer, available, PopoverWindow::contentSize));
+        if (pointKnown)
+            m_popover->setPosition(popoverPosition(iconGeometry, pointer, available, PopoverWindow::contentSize));
     } else if (!m_placedOnce) {
         if (const QScreen *screen = QGuiApplication::primaryScreen()) {
             QRect frame(QPoint(), PopoverWindow::contentSize);
@@ -570,11 +578,19 @@ void VostApp::presentPopover()
     m_popover->requestActivate();
 }
 
-void VostApp::bringForward()
+void VostApp::bringForward(const QString &activationToken)
 {
+    presentActivationToken(activationToken);
     showPopover();
     m_popover->raise();
     m_popover->requestActivate();
+}
+
+// Qt's Wayland window hands the token to the compositor at its next activation.
+void VostApp::presentActivationToken(const QString &token)
+{
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }
 
 void VostApp::popoverActiveChanged()

@@ -58,7 +58,7 @@ public:
     void showPopover();
     void closePopover();
     // Shows the popover and gives it the keyboard (a notification click, a second launch).
-    void bringForward();
+    void bringForward(const QString &activationToken = {});
 
 private:
     // Where the client lives; decided again whenever a tray comes or goes.
@@ -70,11 +70,12 @@ private:
     void updateStatusItem(int unreadCount);
     void updateToolTip();
     void handleTrayActivation(int reason);
-    void handleTrayClick(const QPoint &point);
+    void handleTrayClick(std::optional<QPoint> point);
     void grabGlobalShortcut();
     void handleGlobalShortcut();
     void showStatusMenu(const QPoint &point);
     void presentPopover();
+    void presentActivationToken(const QString &token);
     void popoverActiveChanged();
     void closeAfterDeactivation();
     void openChatFromNotification();

@@ -39,6 +39,8 @@ Q_SIGNALS:
     void menuAboutToShow();
     // The entry at index in the labels given to setMenu was chosen.
     void menuEntryTriggered(int index);
+    // What the next window activation presents to a Wayland compositor.
+    void activationTokenProvided(const QString &token);
 };
 
 // The platform's tray item, or none where the desktop has no such protocol.

@@ -26,7 +26,7 @@ class NewChat(VostTestCase):
         self.assertEqual(dishonest_nodes(view), [])
         vost.fill(vost.find("text", "Search contacts", within=view), "liam")
         vost.absent("list item", "Emma Wilson", contains=True, within=contacts)
-        vost.find("list item", "Liam Chen", contains=True, within=contacts).press()
+        vost.press("list item", "Liam Chen", contains=True, within=contacts)
         vost.absent("panel", "New chat")
         vost.find("panel", "Conversation with Liam Chen")
 

@@ -55,7 +55,8 @@ class Package(unittest.TestCase):
         for package in ("libqt6quick6", "libc6", "qt6-qpa-plugins", "qml6-module-qtquick-controls",
                         "qml6-module-qtmultimedia", "qt6-image-formats-plugins", "gstreamer1.0-plugins-good"):
             self.assertRegex(depends, rf"(^|, ){re.escape(package)}\b", depends)
-        self.assertIn("fonts-noto-color-emoji", self.field("Recommends"))
+        for package in ("fonts-noto-color-emoji", "qt6-wayland"):
+            self.assertIn(package, self.field("Recommends"))
         for path in ("lib/vost/libtdjson.so", "lib/vost/demo/libtdjson.so", "lib/vost/vost-sticker-host",
                      "lib/vost/vost-page-fetcher", "lib/vost/vost-sound-player", "share/vost/Info.json",
                      "share/vost/Vost_Vost.bundle/Resources/lottie_light.min.js",

@@ -156,7 +156,7 @@ class Pickers(VostTestCase):
         vost.find("push button", "Sticker 🌈", within=picker)
         vost.absent("push button", "Sticker 🙀", within=picker)
         self.assertEqual(dishonest_nodes(picker), [])
-        vost.find("push button", "Sticker 🌈", within=picker).press()
+        vost.press("push button", "Sticker 🌈", within=picker)
         vost.absent("dialog", "Sticker picker")
         vost.find("list item", "You: Sticker 🌈", contains=True, timeout=15)
 
@@ -168,7 +168,7 @@ class Pickers(VostTestCase):
         vost.find("push button", "Emoji").press()
         picker = vost.find("dialog", "Emoji picker")
         vost.fill(vost.find("text", "Search emoji", within=picker), "grinning cat")
-        vost.find("push button", "😺 grinning cat", within=picker).press()
+        vost.press("push button", "😺 grinning cat", within=picker)
         wait_until(lambda: composer.text() == "Look 😺", what="the emoji in the composer")
         self.assertEqual(dishonest_nodes(picker), [])
         # Esc closes the picker before anything else: the text stays.

@@ -301,6 +301,11 @@ private Q_SLOTS:
         // Unknown icon: at the pointer.
         QCOMPARE(popoverPosition(QRect(), QPoint(100, 10), available, size), QPoint(0, 24));
         QCOMPARE(popoverPosition(QRect(), QPoint(700, 790), screen, size), QPoint(270, 226));
+        // A Wayland client places nothing; under Xwayland only the host's point counts.
+        QCOMPARE(windowPlacement(u"wayland", true), WindowPlacement::ByCompositor);
+        QCOMPARE(windowPlacement(u"wayland-egl", true), WindowPlacement::ByCompositor);
+        QCOMPARE(windowPlacement(u"xcb", true), WindowPlacement::HostPointOnly);
+        QCOMPARE(windowPlacement(u"xcb", false), WindowPlacement::Free);
     }
 
     void loginTexts()

@@ -507,6 +507,14 @@ class Vost:
             return found[0] if found else None
         return wait_until(search, timeout=timeout, what=f"a showing {role or 'node'} named {name!r}")
 
+    def press(self, role, name, contains=False, within=None, timeout=10):
+        """Finds the control and presses it. One that a list remade between the two
+        (a search filtering it) is gone from the bus: it is found again."""
+        def attempt():
+            self.find(role, name, contains=contains, within=within, timeout=timeout).press()
+            return True
+        return wait_until(attempt, timeout=timeout, what=f"{role} {name!r} pressed")
+
     def absent(self, role=None, name=None, contains=False, within=None, timeout=10):
         """Waits until no showing node has that role and name."""
         wait_until(lambda: not self.all(role, name, contains, within), timeout=timeout,

@@ -123,6 +123,9 @@ public Q_SLOTS:
         Q_UNUSED(y);
     }
     void ContextMenu(int x, int y) { Q_EMIT m_item.contextMenuRequested(QPoint(x, y)); }
+    // KDE's hosts hand over the click's token before Activate: with it a Wayland
+    // compositor lets the window take the focus.
+    void ProvideXdgActivationToken(const QString &token) { Q_EMIT m_item.activationTokenProvided(token); }
     void Scroll(int delta, const QString &orientation)
     {
         Q_UNUSED(delta);

@@ -1,0 +1,78 @@
+"""Vost as a native Wayland client: headless sway with waybar's tray, run by an
+unprivileged user the case makes."""
+
+import time
+import unittest
+
+from wayland import BAR_HEIGHT, WaylandTestCase, have_tools, run_as_unprivileged_user, wait_until
+from vostui import main
+
+
+def light(pixel):
+    return sum(pixel) / 3 > 160
+
+
+@unittest.skipUnless(have_tools(), "needs sway, waybar, grim and wtype")
+class Waybar(WaylandTestCase):
+    tray = True
+
+    def vost_window(self):
+        return next((node for node in self.desktop.windows() if node.get("app_id") == "com.corvella.Vost"), None)
+
+    def test_the_item_in_waybar_opens_the_popover_and_focus_loss_closes_it(self):
+        vost = self.launch()
+        box = wait_until(self.desktop.tray_item_box, timeout=20, what="the item in waybar")
+        self.assertLessEqual(box[3], BAR_HEIGHT)
+
+        def item_pixels():
+            box = self.desktop.tray_item_box()
+            return box and (box, [pixel for row in self.desktop.pixels(box) for pixel in row])
+        # Light on the dark bar, with the badge's red in its corner once the chats are in.
+        box, pixels = wait_until(lambda: (found := item_pixels()) and any(
+            r > 190 and g < 90 and b < 90 for r, g, b in found[1]) and found, timeout=20, what="the red badge")
+        self.assertGreater(sum(light(pixel) for pixel in pixels), len(pixels) // 10, "no light glyph")
+        x, y, w, h = box
+
+        self.desktop.click((x + w // 2, y + h // 2))
+        wait_until(vost.popover_shown, what="the popover opened by a click on the item")
+        vost.wait_for_chats()
+        # A window of the client's own name, of the popover's size, floated and placed
+        # by the compositor (not tiled over the whole screen).
+        window = wait_until(self.vost_window, what="the popover in sway's tree")
+        self.assertEqual((window["rect"]["width"], window["rect"]["height"]), (860, 560))
+        self.assertEqual(window["type"], "floating_con")
+        self.assertTrue(window["focused"])
+
+        # Another workspace takes the focus: the popover closes, as after a click elsewhere.
+        self.desktop.sway("workspace", "2")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the focus going elsewhere")
+        self.desktop.sway("workspace", "1")
+
+        # A second launch hands over to the running one, which shows itself.
+        self.assertEqual(self.second_launch(vost), 0)
+        wait_until(vost.popover_shown, what="the popover shown by a second launch")
+        wait_until(lambda: (self.vost_window() or {}).get("focused"), what="the popover focused")
+        self.desktop.key("Escape")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by Esc")
+
+
+@unittest.skipUnless(have_tools(), "needs sway, waybar, grim and wtype")
+class LateWaybar(WaylandTestCase):
+    tray = False
+
+    def test_vost_moves_into_waybar_started_later_and_back_out_when_it_quits(self):
+        vost = self.launch()
+        wait_until(vost.popover_shown, what="the window")
+        vost.wait_for_chats()
+        time.sleep(5)
+        self.desktop.start_tray("waybar")
+        wait_until(self.desktop.tray_item_box, timeout=20, what="the item in the late waybar")
+        wait_until(lambda: not vost.popover_shown(), what="the window gone into the tray")
+        self.desktop.stop_tray()
+        wait_until(vost.popover_shown, timeout=15, what="the window back when waybar quit")
+        self.assertTrue(vost.running())
+
+
+if __name__ == "__main__":
+    run_as_unprivileged_user()
+    main()
