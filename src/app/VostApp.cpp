@@ -293,10 +293,9 @@ bool VostApp::launch()
     if (m_trayItem) {
         m_trayItem->setMenu({tr("Open Vost"), QString(), tr("Quit Vost")});
         connect(m_trayItem.get(), &TrayItem::shownChanged, this, &VostApp::chooseTray);
-        connect(m_trayItem.get(), &TrayItem::activated, this,
-                [this](QPoint hostPoint, bool hasPoint) {
-                    handleTrayClick(hasPoint ? std::optional(hostPoint) : std::nullopt);
-                });
+        connect(m_trayItem.get(), &TrayItem::activated, this, [this](QPoint hostPoint, bool hasPoint) {
+            handleTrayClick(hasPoint ? std::optional(hostPoint) : std::nullopt);
+        });
         connect(m_trayItem.get(), &TrayItem::contextMenuRequested, this, &VostApp::showStatusMenu);
         connect(m_trayItem.get(), &TrayItem::activationTokenProvided, this, &VostApp::presentActivationToken);
         // The host's menu takes the pointer: the popover goes first.
