@@ -207,12 +207,13 @@ Q_SIGNALS:
     void deletingChatsChanged();
     void newlyOpenedChatIDChanged();
 
-private:
-    // Channel
+protected:
+    // Channel: one TDLib request of that type, the fields as they are.
     void send(const QString &type, const TdObject &fields = {});
+
+private:
     // How the stores send: through send, so observers see their requests too.
     SendRequest storeSender();
-    friend class ChannelTest;
     void handle(const TdObject &object, const QString &type);
 
     // Dispatcher

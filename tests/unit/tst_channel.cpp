@@ -46,6 +46,13 @@ const QByteArray versionRequest = R"({"@type":"getOption","name":"version"})";
 
 } // namespace
 
+// The session with its channel's send in reach.
+class SessionWithChannel : public TelegramSession
+{
+public:
+    using TelegramSession::send;
+};
+
 class ChannelTest : public QObject
 {
     Q_OBJECT
@@ -104,7 +111,7 @@ private Q_SLOTS:
 
     void typeArgumentReplacesTypeInFields()
     {
-        TelegramSession session;
+        SessionWithChannel session;
         session.setBundle(AppBundle(QStringLiteral(VOST_FAKE_BUNDLE)));
         session.start(1, u"hash"_s);
         session.send(u"getMe"_s, {{"@type"_L1, u"logOut"_s}, {"limit"_L1, 3}});
