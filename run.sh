@@ -39,14 +39,14 @@ DEBIAN_PACKAGES=(
 )
 # What the tests add: a virtual screen and session bus, tray hosts (trayer, Xfce's
 # and LXQt's panels), a Wayland compositor with its bar, screenshots and keyboard
-# (sway, waybar, grim, wtype), a notification server, a sound server, the
-# accessibility bus and its Python client, pointer and keyboard, screenshots and the clipboard, the
-# locales' sources (the language cases compile Russian and Persian ones for
-# themselves); the package's builder and checkers.
+# (sway, waybar, grim, wtype), GNOME's file chooser portal, a notification server,
+# a sound server, the accessibility bus and its Python client, pointer and keyboard,
+# screenshots and the clipboard, the locales' sources (the language cases compile
+# Russian and Persian ones for themselves); the package's builder and checkers.
 TEST_PACKAGES=(
     xvfb xauth dbus trayer xdotool at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip
     pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel locales
-    sway waybar grim wtype
+    sway waybar grim wtype xdg-desktop-portal xdg-desktop-portal-gtk
     dpkg-dev fakeroot lintian desktop-file-utils appstream
 )
 # What making the Debian package adds.

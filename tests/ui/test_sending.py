@@ -2,6 +2,7 @@
 """Sending anything: files through the desktop's dialog and the clipboard, stickers,
 emoji, and the message menu's reactions, forwarding and copying."""
 
+import filecmp
 import os
 import subprocess
 import time
@@ -137,6 +138,66 @@ class Files(VostTestCase):
         vost.find("list item", "Photo Pasted image", contains=True, within=vost.find("panel", "Files to send"))
         vost.find("push button", "Send").press()
         vost.find("list item", "You: Photo, ", contains=True, timeout=15)
+
+
+class DesktopChooser(VostTestCase):
+    """Where the desktop lends its own file chooser (the XDG portal; here GNOME's),
+    attaching and saving go through it instead of Qt's dialog."""
+
+    def setUp(self):
+        super().setUp()
+        portal = self.desktop.start_file_portal()
+        self.addCleanup(self.desktop.stop, portal)
+
+    def chooser(self, vost, title):
+        wait_until(lambda: not vost.popover_shown(), what="the popover out of the chooser's way")
+        chooser = wait_until(lambda: (app := self.desktop.application("xdg-desktop-portal-gtk")) and vost.all(
+            "file chooser", title, within=app), timeout=20, what=f"the desktop's chooser {title!r}")
+        vost.absent("dialog", title)
+        return chooser[0]
+
+    def answer(self, text):
+        """Types into the chooser's location field, as a person would, and confirms."""
+        self.desktop.xdotool("search", "--sync", "--onlyvisible", "--name", "^(Attach files|Save)$", "windowfocus",
+                             "--sync")
+        self.desktop.xdotool("key", "--delay", "60", "ctrl+l")
+        self.desktop.xdotool("key", "--delay", "60", "ctrl+a")
+        self.desktop.xdotool("type", "--delay", "20", text)
+        time.sleep(0.5)
+        self.desktop.xdotool("key", "Return")
+
+    def test_a_file_is_attached_and_saved_through_the_desktops_chooser(self):
+        folder = Files.make_files(self)
+        vost = self.open_signed_in()
+        vost.open_chat("Vost Helper")
+        vost.find("push button", "Attach").press()
+        self.chooser(vost, "Attach files")
+        self.answer(os.path.join(folder, "itinerary.pdf"))
+        wait_until(vost.popover_shown, timeout=15, what="the popover back after the chooser")
+        strip = vost.find("panel", "Files to send")
+        vost.find("list item", "Document itinerary.pdf", contains=True, within=strip)
+        vost.find("push button", "Send").press()
+        vost.absent("panel", "Files to send")
+        # The helper's answer comes after the document's: the list is settled then.
+        vost.find("list item", "Vost Helper: Got your file", contains=True, timeout=15)
+        document = vost.find("list item", "You: Document itinerary.pdf", contains=True)
+
+        # A copy goes where the chooser says.
+        vost.find("push button", "Save", within=document, timeout=15).press()
+        self.chooser(vost, "Save")
+        target = os.path.join(self.desktop.work, "copy.pdf")
+        self.answer(target)
+        wait_until(lambda: os.path.exists(target) and filecmp.cmp(target, os.path.join(folder, "itinerary.pdf"),
+                                                                  shallow=False), what="the saved copy")
+        wait_until(vost.popover_shown, timeout=15, what="the popover back after saving")
+
+        # Cancelled: the popover comes back with nothing attached.
+        vost.find("push button", "Attach").press()
+        chooser = self.chooser(vost, "Attach files")
+        # GTK names the action "click".
+        vost.find("push button", "Cancel", within=chooser).do("click")
+        wait_until(vost.popover_shown, timeout=15, what="the popover back after a cancelled chooser")
+        vost.absent("panel", "Files to send")
 
 
 class Pickers(VostTestCase):

@@ -40,6 +40,8 @@ MEMORY_ERROR = re.compile(r"ERROR: AddressSanitizer|: runtime error: |^(malloc|f
                           r"corrupted (size|double-linked)")
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 XFCONFD = "/usr/lib/x86_64-linux-gnu/xfce4/xfconf/xfconfd"
+PORTAL = "/usr/libexec/xdg-desktop-portal"
+PORTAL_GTK = "/usr/libexec/xdg-desktop-portal-gtk"
 
 DEMO_PHONE = "+1 555 0100"
 DEMO_CODE = "22222"
@@ -114,8 +116,8 @@ class Desktop:
 
     def _spawn(self, args, **kwargs):
         with open(os.path.join(self.work, os.path.basename(args[0]) + ".log"), "ab") as log:
-            process = subprocess.Popen(args, env=self.env, stdout=log, stderr=subprocess.STDOUT,
-                                       start_new_session=True, **kwargs)
+            kwargs.setdefault("env", self.env)
+            process = subprocess.Popen(args, stdout=log, stderr=subprocess.STDOUT, start_new_session=True, **kwargs)
         self.processes.append(process)
         return process
 
@@ -198,6 +200,28 @@ class Desktop:
         process = self._spawn(["dunst", "-config", config])
         wait_until(lambda: self.dunstctl("is-paused").strip() in ("true", "false"), what="dunst on the bus")
         return process
+
+    def start_file_portal(self):
+        """The XDG desktop portal with GNOME's GTK backend on this desktop's bus, as
+        a GNOME session runs them: the FileChooser portal. Returns the processes."""
+        env = dict(self.env, XDG_CURRENT_DESKTOP="GNOME")
+        processes = [self._spawn([path, "--replace"], env=env) for path in (PORTAL_GTK, PORTAL)]
+        wait_until(lambda: "org.freedesktop.portal.Desktop" in self.bus_names(), what="the desktop portal")
+        return processes
+
+    def stop(self, processes):
+        for process in processes:
+            self._end(process)
+
+    def application(self, name):
+        """Another program on the accessibility bus, by its name."""
+        import pyatspi
+        desktop = pyatspi.Registry.getDesktop(0)
+        for i in range(desktop.childCount):
+            app = desktop.getChildAtIndex(i)
+            if app is not None and app.name == name:
+                return Node(app)
+        return None
 
     def dunstctl(self, *args):
         return subprocess.run(["dunstctl", *args], env=self.env, capture_output=True, text=True,
