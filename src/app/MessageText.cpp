@@ -107,6 +107,8 @@ MessageText::LinkKind MessageText::linkKind(const QString &link)
         return LinkKind::Mention;
     if (link.startsWith(FormattedLinks::userPrefix))
         return LinkKind::UserMention;
+    if (link.startsWith(FormattedLinks::hashtagPrefix))
+        return LinkKind::Hashtag;
     return LinkKind::Web;
 }
 
@@ -118,6 +120,11 @@ QString MessageText::mentionedName(const QString &link)
 QString MessageText::mentionedUser(const QString &link)
 {
     return link.startsWith(FormattedLinks::userPrefix) ? link.mid(FormattedLinks::userPrefix.size()) : QString();
+}
+
+QString MessageText::hashtag(const QString &link)
+{
+    return link.startsWith(FormattedLinks::hashtagPrefix) ? link.mid(FormattedLinks::hashtagPrefix.size()) : QString();
 }
 
 QString MessageText::highlighted(const QString &html, const QString &words)

@@ -14,7 +14,7 @@ class MessageText : public QObject
 
 public:
     // What a click on a link of the rich text does.
-    enum class LinkKind { Web, Spoiler, Mention, UserMention };
+    enum class LinkKind { Web, Spoiler, Mention, UserMention, Hashtag };
     Q_ENUM(LinkKind)
 
     explicit MessageText(QObject *parent = nullptr);
@@ -31,6 +31,8 @@ public:
     Q_INVOKABLE static QString mentionedName(const QString &link);
     // The id of the user a name mention's link stands for.
     Q_INVOKABLE static QString mentionedUser(const QString &link);
+    // The tag a hashtag's link stands for, with its "#".
+    Q_INVOKABLE static QString hashtag(const QString &link);
 
     // The rich text with every occurrence of the words, ignoring case, marked
     // (outside tags only); unchanged when the words are empty.

@@ -3,8 +3,10 @@
 #include "render/LinkRecognizer.h"
 #include "render/SmileyText.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QUrl>
+#include <QUrlQuery>
 
 #include <algorithm>
 
@@ -24,7 +26,15 @@ struct Span {
 bool isLink(Type type)
 {
     return type == Type::TextUrl || type == Type::Url || type == Type::EmailAddress || type == Type::Mention ||
-           type == Type::MentionName;
+           type == Type::MentionName || type == Type::Hashtag;
+}
+
+// Where a click on an address goes: a Telegram link that names a user or chat opens
+// it here, any other address in the browser.
+QString hrefFor(const QUrl &url)
+{
+    const QString username = telegramUsername(url);
+    return username.isEmpty() ? url.toString(QUrl::FullyEncoded) : FormattedLinks::mentionPrefix + username;
 }
 
 // Blocks of code and quotes are shown apart from the paragraphs around them.
@@ -90,8 +100,7 @@ QString withFoundLinks(const QString &text, const QString &linkStyle)
     qsizetype position = 0;
     for (const TextLink &link : findLinks(text)) {
         html += plainPart(text.mid(position, link.start - position));
-        html +=
-            anchor(link.url.toString(QUrl::FullyEncoded), linkStyle, text.mid(link.start, link.length).toHtmlEscaped());
+        html += anchor(hrefFor(link.url), linkStyle, text.mid(link.start, link.length).toHtmlEscaped());
         position = link.start + link.length;
     }
     return html + plainPart(text.mid(position));
@@ -122,13 +131,12 @@ QString linkTarget(const QString &text, const Span &span)
         if (url.isValid() && url.scheme().isEmpty())
             url = QUrl::fromUserInput(span.entity.argument.trimmed());
         const QString scheme = url.scheme().toLower();
-        return url.isValid() && (scheme == "http"_L1 || scheme == "https"_L1 || scheme == "tg"_L1)
-                   ? url.toString(QUrl::FullyEncoded)
-                   : QString();
+        return url.isValid() && (scheme == "http"_L1 || scheme == "https"_L1 || scheme == "tg"_L1) ? hrefFor(url)
+                                                                                                   : QString();
     }
     case Type::Url: {
         const QUrl url = QUrl::fromUserInput(shown.trimmed());
-        return url.isValid() ? url.toString(QUrl::FullyEncoded) : QString();
+        return url.isValid() ? hrefFor(url) : QString();
     }
     case Type::EmailAddress:
         return u"mailto:"_s + shown.trimmed();
@@ -136,6 +144,8 @@ QString linkTarget(const QString &text, const Span &span)
         return shown.startsWith(u'@') && shown.size() > 1 ? FormattedLinks::mentionPrefix + shown.mid(1) : QString();
     case Type::MentionName:
         return FormattedLinks::userPrefix + span.entity.argument;
+    case Type::Hashtag:
+        return shown.size() > 1 ? FormattedLinks::hashtagPrefix + shown : QString();
     default:
         return {};
     }
@@ -197,8 +207,6 @@ FormattedBlock paragraph(const QString &text, qsizetype from, qsizetype to, cons
         } else {
             html = withFoundLinks(piece, linkStyle);
         }
-        if (types.contains(Type::Hashtag) && !style.linkColor.isEmpty())
-            html = u"<span style=\"color:%1\">%2</span>"_s.arg(style.linkColor.toHtmlEscaped(), html);
         if (types.contains(Type::Strikethrough))
             html = u"<s>"_s + html + u"</s>"_s;
         if (types.contains(Type::Underline))
@@ -209,7 +217,10 @@ FormattedBlock paragraph(const QString &text, qsizetype from, qsizetype to, cons
             html = u"<b>"_s + html + u"</b>"_s;
         if (!target.isEmpty()) {
             html = anchor(target, linkStyle, html);
-            const QString shown = QUrl(target).toDisplayString();
+            // A Telegram link opens here, but its text still names the address.
+            const QString shown = target.startsWith(FormattedLinks::mentionPrefix)
+                                      ? QUrl::fromUserInput(link->entity.argument.trimmed()).toDisplayString()
+                                      : QUrl(target).toDisplayString();
             if (link->entity.type == Type::TextUrl && !block.linkTargets.contains(shown))
                 block.linkTargets.append(shown);
         }
@@ -219,6 +230,38 @@ FormattedBlock paragraph(const QString &text, qsizetype from, qsizetype to, cons
 }
 
 } // namespace
+
+QString telegramUsername(const QUrl &url)
+{
+    // t.me's own pages, which name no user or chat.
+    static const QSet<QString> reserved{u"joinchat"_s, u"addstickers"_s, u"addemoji"_s, u"addtheme"_s,
+                                        u"addlist"_s,  u"setlanguage"_s, u"share"_s,    u"proxy"_s,
+                                        u"socks"_s,    u"login"_s,       u"invoice"_s,  u"confirmphone"_s,
+                                        u"boost"_s,    u"contact"_s,     u"giftcode"_s, u"iv"_s};
+    static const QRegularExpression username(u"^[A-Za-z][A-Za-z0-9_]{3,31}$"_s);
+    const QString scheme = url.scheme().toLower();
+    QString name;
+    if (scheme == "tg"_L1) {
+        if (url.host().toLower() == "resolve"_L1)
+            name = QUrlQuery(url).queryItemValue(u"domain"_s);
+    } else if (scheme == "http"_L1 || scheme == "https"_L1) {
+        QString host = url.host().toLower();
+        if (host.startsWith("www."_L1))
+            host = host.mid(4);
+        if (host != "t.me"_L1 && host != "telegram.me"_L1 && host != "telegram.dog"_L1)
+            return {};
+        QStringList parts = url.path().split(u'/', Qt::SkipEmptyParts);
+        // "/s/name" is a channel's page for the web.
+        if (parts.size() >= 2 && parts.first() == "s"_L1)
+            parts.removeFirst();
+        static const QRegularExpression number(u"^[0-9]+$"_s);
+        if (parts.size() == 1 || (parts.size() == 2 && number.match(parts.at(1)).hasMatch()))
+            name = parts.first();
+    }
+    if (!username.match(name).hasMatch() || reserved.contains(name.toLower()))
+        return {};
+    return name;
+}
 
 QList<FormattedBlock> formattedBlocks(const QString &text, const TextEntities &entities,
                                       const FormattedTextStyle &style)

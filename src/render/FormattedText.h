@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class QUrl;
+
 // Message text with its entities as the transcript shows it: paragraphs of rich
 // text (every piece of the message HTML-escaped, typed smileys as emoji, links
 // clickable), quoted paragraphs and blocks of code shown apart, in monospace, each
@@ -46,7 +48,14 @@ inline constexpr QLatin1StringView spoilerLink{"vost-spoiler:"};
 inline constexpr QLatin1StringView mentionPrefix{"vost-mention:"};
 // A name that stands for a user: the prefix, then the user's id.
 inline constexpr QLatin1StringView userPrefix{"vost-user:"};
+// A hashtag (or cashtag): the prefix, then the tag with its "#" or "$".
+inline constexpr QLatin1StringView hashtagPrefix{"vost-hashtag:"};
 } // namespace FormattedLinks
+
+// The public username a Telegram link names ("https://t.me/name", a message of it
+// "t.me/name/42", "tg://resolve?domain=name"), so that it opens in the program;
+// "" for any other address, and for t.me's own pages (invitations, sticker sets).
+QString telegramUsername(const QUrl &url);
 
 QList<FormattedBlock> formattedBlocks(const QString &text, const TextEntities &entities,
                                       const FormattedTextStyle &style = {});

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QStandardPaths>
 #include <QTest>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 using Type = TextEntity::Type;
@@ -119,7 +120,8 @@ private Q_SLOTS:
                  qPrintable(block.html));
         QVERIFY2(block.html.contains(u"<a href=\"vost-mention:emma_w\" style=\"color:#123456\">@emma_w</a>"_s),
                  qPrintable(block.html));
-        QVERIFY2(block.html.contains(u"<span style=\"color:#123456\">#qt6</span>"_s), qPrintable(block.html));
+        QVERIFY2(block.html.contains(u"<a href=\"vost-hashtag:#qt6\" style=\"color:#123456\">#qt6</a>"_s),
+                 qPrintable(block.html));
         QVERIFY2(block.html.contains(u"<a href=\"http://qt.io\" style=\"color:#123456\">qt.io</a>"_s),
                  qPrintable(block.html));
         // Only links whose text hides their address name it for screen readers.
@@ -127,6 +129,42 @@ private Q_SLOTS:
         QCOMPARE(block.spokenText, text);
         // Addresses written in plain text stay clickable without entities.
         QCOMPARE(html(u"see qt.io"_s, {}), u"see <a href=\"http://qt.io\">qt.io</a>"_s);
+    }
+
+    void telegramLinksOpenTheirChatHere_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<QString>("username");
+        QTest::newRow("t.me") << u"https://t.me/emma_w"_s << u"emma_w"_s;
+        QTest::newRow("a message") << u"https://t.me/qt_devs/42"_s << u"qt_devs"_s;
+        QTest::newRow("a channel's web page") << u"https://t.me/s/qt_devs"_s << u"qt_devs"_s;
+        QTest::newRow("telegram.me, www") << u"http://www.telegram.me/emma_w/"_s << u"emma_w"_s;
+        QTest::newRow("tg://resolve") << u"tg://resolve?domain=emma_w"_s << u"emma_w"_s;
+        QTest::newRow("an invitation") << u"https://t.me/joinchat/AbCdEf"_s << QString();
+        QTest::newRow("a private invitation") << u"https://t.me/+AbCdEf"_s << QString();
+        QTest::newRow("a sticker set") << u"https://t.me/addstickers/Cats"_s << QString();
+        QTest::newRow("too short") << u"https://t.me/abc"_s << QString();
+        QTest::newRow("deeper") << u"https://t.me/qt_devs/42/7"_s << QString();
+        QTest::newRow("another site") << u"https://t.me.example.org/emma_w"_s << QString();
+        QTest::newRow("no path") << u"https://t.me/"_s << QString();
+        QTest::newRow("tg, not resolve") << u"tg://join?invite=AbCdEf"_s << QString();
+    }
+
+    void telegramLinksOpenTheirChatHere()
+    {
+        QFETCH(QString, address);
+        QFETCH(QString, username);
+        QCOMPARE(telegramUsername(QUrl(address)), username);
+        // Behind words and written out alike; the hidden address is still named.
+        const QString expected =
+            username.isEmpty() ? QUrl(address).toString(QUrl::FullyEncoded) : FormattedLinks::mentionPrefix + username;
+        const QList<FormattedBlock> blocks = formattedBlocks(u"profile"_s, {span(0, 7, Type::TextUrl, address)});
+        QCOMPARE(blocks.size(), 1);
+        QVERIFY2(blocks.first().html.startsWith(u"<a href=\"%1\">"_s.arg(expected.toHtmlEscaped())),
+                 qPrintable(blocks.first().html));
+        QCOMPARE(blocks.first().linkTargets, QStringList{QUrl(address).toDisplayString()});
+        if (address.startsWith("http"_L1))
+            QVERIFY(html(u"see "_s + address, {}).contains(u"<a href=\"%1\">"_s.arg(expected.toHtmlEscaped())));
     }
 
     void codeBlocksStandApart()

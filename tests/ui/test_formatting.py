@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Formatted text in messages, as a screen reader and a pointer meet it: a link
 under a text names its address, a block of code copies itself, a mention opens its
-chat, and a spoiler stays out of reach until it is clicked."""
+chat, a hashtag searches the chat for itself, and a spoiler stays out of reach until it is clicked."""
 
 import subprocess
 
@@ -44,6 +44,16 @@ class Formatting(VostTestCase):
         at = line.name.index("@emma_w") + 3.5
         vost.click((x + int(w * at / len(line.name)), y + h // 2))
         vost.find("panel", "Conversation with Emma Wilson", timeout=15)
+
+    def test_a_click_on_a_hashtag_searches_the_chat_for_it(self):
+        vost, messages = self.open_qt_developers()
+        line = vost.find("paragraph", "ask @emma_w. #qt6", contains=True, within=messages)
+        x, y, w, h = line.extents()
+        at = line.name.index("#qt6") + 2
+        vost.click((x + int(w * at / len(line.name)), y + h // 2))
+        bar = vost.find("tool bar", "Search in chat")
+        self.assertEqual(vost.find("text", "Search in chat", within=bar).text(), "#qt6")
+        vost.find("label", "1 of 1", within=bar, timeout=10)
 
     def test_a_spoiler_is_out_of_the_accessible_tree_until_clicked(self):
         vost = self.open_signed_in()

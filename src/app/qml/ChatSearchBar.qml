@@ -60,6 +60,15 @@ Rectangle {
         field.selectAll();
     }
 
+    // Looks for the words at once, as a click on a hashtag does.
+    function searchFor(words) {
+        active = true;
+        debounce.stop();
+        field.text = words;
+        field.forceActiveFocus();
+        search.search(chatID, words);
+    }
+
     function close() {
         if (!active)
             return;

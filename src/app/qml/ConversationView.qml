@@ -228,6 +228,7 @@ FocusScope {
             onReplyActivated: id => transcript.showMessage(id)
             onContactMessageRequested: userID => conversation.viewModel.openContact(userID)
             onMentionActivated: username => conversation.viewModel.openMention(username)
+            onHashtagActivated: tag => searchBar.searchFor(tag)
             onReactionToggled: (emoji, id) => conversation.viewModel.toggleReactionOnMessage(emoji, id)
         }
 

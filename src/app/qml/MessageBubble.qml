@@ -58,6 +58,7 @@ Item {
     signal replyActivated(string messageID)
     signal contactMessageRequested(string userID)
     signal mentionActivated(string username)
+    signal hashtagActivated(string tag)
 
     // One to three emoji alone are shown large, without a bubble, as stickers are.
     readonly property bool largeEmoji: kind === MessageContent.Text && MessageText.isLargeEmoji(bodyText)
@@ -338,6 +339,7 @@ Item {
                     onMentionActivated: username => message.mentionActivated(username)
                     // A name that stands for a user opens their chat, as a contact card does.
                     onUserMentionActivated: userID => message.contactMessageRequested(userID)
+                    onHashtagActivated: tag => message.hashtagActivated(tag)
                 }
 
                 Loader {

@@ -27,6 +27,7 @@ Column {
 
     signal mentionActivated(string username)
     signal userMentionActivated(string userID)
+    signal hashtagActivated(string tag)
 
     readonly property var blocks: MessageText.blocks(text, entities, spoilersRevealed,
                                                      outgoing ? "#FFFFFF" : Appearance.accent.toString(),
@@ -40,6 +41,8 @@ Column {
             mentionActivated(MessageText.mentionedName(link));
         else if (kind === MessageText.UserMention)
             userMentionActivated(MessageText.mentionedUser(link));
+        else if (kind === MessageText.Hashtag)
+            hashtagActivated(MessageText.hashtag(link));
         else
             Qt.openUrlExternally(link);
     }
