@@ -2,7 +2,8 @@
 """Vost in the user's language: the system's language chosen at start (Russian,
 Persian), Persian's mirrored layout, dates and digits in the language's own
 form, a switch in Preferences that changes what is already shown, and text
-written right to left laid out right to left in an English popover."""
+written right to left laid out right to left in an English popover, in a
+message and in the composer as it is typed."""
 
 import os
 import re
@@ -150,6 +151,22 @@ class RightToLeftText(VostTestCase):
         left, right = self.ink(vost, (x, y + h - 17, w, 15))
         self.assertGreater(left, 20, f"the last line starts at the left edge ({left}, {right} of {w})")
         self.assertGreater(right, w - 6, f"the last line does not reach the right edge ({left}, {right} of {w})")
+
+    def test_the_composer_follows_the_direction_of_what_is_typed(self):
+        vost = self.open_signed_in()
+        vost.open_chat("Emma Wilson")
+        field = vost.find("text", "Message")
+        x, y, w, h = field.extents()
+        # The field's middle band: its placeholder and border stay out of it.
+        band = (x + 8, y + h // 2 - 6, w - 16, 12)
+        vost.fill(field, "سلام")
+        vost.wait_for_rest()
+        left, right = self.ink(vost, band)
+        self.assertGreater(left, band[2] // 2, f"Persian should start at the right ({left}, {right} of {band[2]})")
+        vost.fill(field, "Hello")
+        vost.wait_for_rest()
+        left, right = self.ink(vost, band)
+        self.assertLess(right, band[2] // 2, f"English should start at the left ({left}, {right} of {band[2]})")
 
 
 if __name__ == "__main__":
