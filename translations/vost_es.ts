@@ -905,6 +905,13 @@
     </message>
 </context>
 <context>
+    <name>GlobalShortcut</name>
+    <message>
+        <source>Open or close Vost</source>
+        <translation>Abrir o cerrar Vost</translation>
+    </message>
+</context>
+<context>
     <name>LanguageChoice</name>
     <message>
         <source>System</source>
@@ -1542,6 +1549,11 @@
     <message>
         <source>Not available on this desktop</source>
         <translation>No disponible en este escritorio</translation>
+    </message>
+    <message>
+        <source>Not allowed by the desktop</source>
+        <extracomment>The desktop was asked for the shortcut and did not give it.</extracomment>
+        <translation>El escritorio no lo permitió</translation>
     </message>
 </context>
 <context>

@@ -902,6 +902,13 @@
     </message>
 </context>
 <context>
+    <name>GlobalShortcut</name>
+    <message>
+        <source>Open or close Vost</source>
+        <translation>باز یا بسته کردن Vost</translation>
+    </message>
+</context>
+<context>
     <name>LanguageChoice</name>
     <message>
         <source>System</source>
@@ -1535,6 +1542,11 @@
     <message>
         <source>Not available on this desktop</source>
         <translation>در این میزکار در دسترس نیست</translation>
+    </message>
+    <message>
+        <source>Not allowed by the desktop</source>
+        <extracomment>The desktop was asked for the shortcut and did not give it.</extracomment>
+        <translation>میزکار اجازه نداد</translation>
     </message>
 </context>
 <context>

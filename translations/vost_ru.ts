@@ -908,6 +908,13 @@
     </message>
 </context>
 <context>
+    <name>GlobalShortcut</name>
+    <message>
+        <source>Open or close Vost</source>
+        <translation>Открыть или закрыть Vost</translation>
+    </message>
+</context>
+<context>
     <name>LanguageChoice</name>
     <message>
         <source>System</source>
@@ -1549,6 +1556,11 @@
     <message>
         <source>Not available on this desktop</source>
         <translation>Недоступно в этом окружении</translation>
+    </message>
+    <message>
+        <source>Not allowed by the desktop</source>
+        <extracomment>The desktop was asked for the shortcut and did not give it.</extracomment>
+        <translation>Окружение не разрешило</translation>
     </message>
 </context>
 <context>

@@ -35,8 +35,12 @@ public:
         Working,
         // Another program holds the combination.
         Taken,
-        // The desktop gives programs no shortcuts of their own (Wayland for now).
+        // The desktop gives programs no shortcuts of their own (a Wayland desktop
+        // without the GlobalShortcuts portal).
         Unavailable,
+        // The desktop was asked through its portal and did not bind it (the user
+        // turned its question down).
+        Refused,
     };
     Q_ENUM(ShortcutStatus)
 

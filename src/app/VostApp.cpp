@@ -317,6 +317,13 @@ bool VostApp::launch()
     chooseTray();
     m_globalShortcut = makeSystemGlobalShortcut();
     connect(m_globalShortcut.get(), &GlobalShortcut::activated, this, &VostApp::handleGlobalShortcut);
+    // The portal's answers come later: whether it exists, then whether the desktop bound it.
+    connect(m_globalShortcut.get(), &GlobalShortcut::availabilityChanged, this, &VostApp::grabGlobalShortcut);
+    connect(m_globalShortcut.get(), &GlobalShortcut::settled, this, [](bool held) {
+        if (!Preferences::shared().globalShortcut().isEmpty())
+            AppPreferences::setShortcutStatus(held ? AppPreferences::ShortcutStatus::Working
+                                                   : AppPreferences::ShortcutStatus::Refused);
+    });
     connect(&Preferences::shared(), &Preferences::globalShortcutChanged, this, &VostApp::grabGlobalShortcut);
     // Pressing the current combination while recording must reach the page, not
     // close the popover: the grab waits until the recording ends.

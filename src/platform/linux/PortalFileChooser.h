@@ -3,11 +3,13 @@
 #include "platform/FileChooser.h"
 
 #include <QDBusConnection>
+#include <QPointer>
 #include <QVariantMap>
 
-// The FileChooser portal: OpenFile and SaveFile return a request whose Response
-// signal carries the answer. The request's path is known in advance from the
-// handle token, so the answer cannot come before it is listened for.
+class PortalRequest;
+
+// The FileChooser portal: OpenFile and SaveFile, one at a time; a new question
+// forgets the answer to the one before.
 class PortalFileChooser : public FileChooser
 {
     Q_OBJECT
@@ -19,16 +21,11 @@ public:
     void openFiles(const QString &title, const QString &folder) override;
     void saveFile(const QString &title, const QString &folder, const QString &name) override;
 
-private Q_SLOTS:
-    void onResponse(uint response, const QVariantMap &results);
-
 private:
     void ask(const QString &method, const QString &title, QVariantMap options);
-    void listenOn(const QString &requestPath);
-    void stopListening();
+    void onAnswer(uint response, const QVariantMap &results);
 
     QDBusConnection m_connection;
     bool m_available = false;
-    QString m_requestPath;
-    int m_requests = 0;
+    QPointer<PortalRequest> m_request;
 };

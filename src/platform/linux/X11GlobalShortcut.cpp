@@ -1,5 +1,6 @@
 #include "X11GlobalShortcut.h"
 
+#include "PortalGlobalShortcut.h"
 #include "X11Keys.h"
 
 #include <QGuiApplication>
@@ -15,7 +16,7 @@ Q_LOGGING_CATEGORY(lcGlobalShortcut, "vost.shortcut", QtWarningMsg)
 
 namespace {
 
-// Where no key grab exists (Wayland), the desktop keeps its shortcuts to itself.
+// Where no key grab or portal exists, the desktop keeps its shortcuts to itself.
 class UnavailableGlobalShortcut : public GlobalShortcut
 {
 public:
@@ -42,6 +43,8 @@ std::unique_ptr<GlobalShortcut> makeSystemGlobalShortcut()
                 return std::make_unique<X11GlobalShortcut>(connection, screens.data->root);
         }
     }
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return makeWaylandGlobalShortcut();
     return std::make_unique<UnavailableGlobalShortcut>();
 }
 

@@ -66,10 +66,19 @@ RowLayout {
     }
 
     ReadableText {
-        visible: AppPreferences.shortcutStatus === AppPreferences.Taken
-                 || AppPreferences.shortcutStatus === AppPreferences.Unavailable
-        text: AppPreferences.shortcutStatus === AppPreferences.Taken ? qsTr("Taken by another program")
-                                                                     : qsTr("Not available on this desktop")
+        visible: text !== ""
+        text: {
+            switch (AppPreferences.shortcutStatus) {
+            case AppPreferences.Taken:
+                return qsTr("Taken by another program");
+            case AppPreferences.Unavailable:
+                return qsTr("Not available on this desktop");
+            case AppPreferences.Refused:
+                //: The desktop was asked for the shortcut and did not give it.
+                return qsTr("Not allowed by the desktop");
+            }
+            return "";
+        }
         color: Appearance.secondaryText
         font.pixelSize: 12
         Accessible.ignored: !visible
