@@ -8,6 +8,7 @@
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
+#include "session/DownloadStore.h"
 #include "session/TelegramSession.h"
 
 #include <QDir>
@@ -138,6 +139,7 @@ void TelegramSession::resetAccountState()
     m_authorization->reset();
     m_contacts->reset();
     m_stickers->reset();
+    m_downloads->reset();
     m_chatSearch->reset();
     m_historyAround.clear();
     m_historyAroundRequests.clear();
@@ -146,9 +148,6 @@ void TelegramSession::resetAccountState()
     m_privateChatsByUser.clear();
     m_explicitlyOpenedChats.clear();
     m_rawMessagesByChat.clear();
-    m_messageMediaOwners.clear();
-    m_downloadedMediaPaths.clear();
-    m_downloadProgress.clear();
     m_imageDiagnosticEvents.clear();
     m_loadingInitialHistory.clear();
     m_repliedMessages.clear();

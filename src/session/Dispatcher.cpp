@@ -9,6 +9,7 @@
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
+#include "session/DownloadStore.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -213,7 +214,7 @@ bool TelegramSession::routeByTypeWithoutChat(const QString &type, const TdObject
         if (const auto userID = int64From(object.value("user_id"_L1)))
             m_users->setOnline(*userID, typeOf(object.value("status"_L1)) == "userStatusOnline"_L1);
     } else if (type == "updateFile"_L1) {
-        trackDownload(object.value("file"_L1).toObject());
+        m_downloads->trackProgress(object.value("file"_L1).toObject());
         applyDownloadedFile(object.value("file"_L1).toObject());
     } else {
         return false;

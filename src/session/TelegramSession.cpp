@@ -6,6 +6,7 @@
 #include "session/AuthorizationStore.h"
 #include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
+#include "session/DownloadStore.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
 #include "session/UserStore.h"
@@ -18,10 +19,10 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     : QObject(parent)
     , m_channel(new TDLibChannel(std::move(requestSender), this))
     , m_announcer(std::make_unique<Announcer>())
-    , m_now([] { return QDateTime::currentDateTime(); })
     , m_authorization(new AuthorizationStore(storeSender(), this))
     , m_users(new UserStore(storeSender(), this))
     , m_stickers(new StickerStore(storeSender(), this))
+    , m_downloads(new DownloadStore(storeSender(), this))
     , m_contacts(new ContactStore(storeSender(), *m_users, this))
     , m_chatSearch(new ChatSearchStore(storeSender(), this))
 {
@@ -52,6 +53,7 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     connect(m_stickers, &StickerStore::recentStickersLoadedChanged, this,
             &TelegramSession::recentStickersLoadedChanged);
     connect(m_stickers, &StickerStore::stickerErrorChanged, this, &TelegramSession::stickerErrorChanged);
+    connect(m_downloads, &DownloadStore::progressChanged, this, &TelegramSession::downloadProgressChanged);
     connect(m_contacts, &ContactStore::contactsChanged, this, &TelegramSession::contactsChanged);
     connect(m_contacts, &ContactStore::contactResultsChanged, this, &TelegramSession::contactResultsChanged);
     connect(m_contacts, &ContactStore::conversationErrorChanged, this, &TelegramSession::conversationErrorChanged);
@@ -96,11 +98,7 @@ void TelegramSession::loadStickers(const QString &query, const QString &source)
 
 QDate TelegramSession::localToday()
 {
-    if (!m_todayAge.isValid() || m_todayAge.hasExpired(1000)) {
-        m_today = m_now().toLocalTime().date();
-        m_todayAge.start();
-    }
-    return m_today;
+    return m_today.date();
 }
 
 void TelegramSession::setConnectionState(ConnectionState state)

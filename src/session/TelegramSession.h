@@ -2,6 +2,7 @@
 
 #include "bundle/AppBundle.h"
 #include "session/CodeInfo.h"
+#include "session/LocalToday.h"
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
 #include "session/SendRequest.h"
@@ -10,7 +11,6 @@
 #include "tdlib/TdJson.h"
 
 #include <QDateTime>
-#include <QElapsedTimer>
 #include <QObject>
 
 #include <QHash>
@@ -30,6 +30,7 @@ class AuthorizationStore;
 class ChatSearchStore;
 class ContactStore;
 class StickerStore;
+class DownloadStore;
 class TDLibChannel;
 class UserStore;
 
@@ -62,7 +63,7 @@ public:
     using RequestObserver = std::function<void(const QString &type, const TdObject &fields)>;
     // Sees every raw answer or update, as handleResponse received it, before it is handled.
     using ResponseObserver = std::function<void(const QByteArray &json)>;
-    using Clock = std::function<QDateTime()>;
+    using Clock = LocalToday::Clock;
 
     explicit TelegramSession(RequestSender requestSender = {}, QObject *parent = nullptr);
     ~TelegramSession() override;
@@ -74,11 +75,7 @@ public:
     void setRequestObserver(RequestObserver observer);
     void setResponseObserver(ResponseObserver observer);
     // The clock behind date texts; the system clock unless set.
-    void setClock(Clock clock)
-    {
-        m_now = std::move(clock);
-        m_todayAge.invalidate();
-    }
+    void setClock(Clock clock) { m_today.setClock(std::move(clock)); }
 
     Step step() const;
     bool isReady() const;
@@ -276,10 +273,7 @@ private:
                                                                                            const QString &chatID);
     std::pair<std::optional<QString>, std::optional<QString>> prepareMessageDocument(const TdObject &content,
                                                                                      const QString &chatID);
-    std::optional<QString> resolvedMediaPath(const TdObject &file, const QString &chatID);
-    void downloadFile(qint64 fileID);
     void applyDownloadedFile(const TdObject &file);
-    void trackDownload(const TdObject &file);
 
     // Users, presence and typing
     void storeUser(const TdObject &user);
@@ -312,9 +306,7 @@ private:
 
     TDLibChannel *m_channel;
     std::unique_ptr<Announcer> m_announcer;
-    Clock m_now;
-    QDate m_today;
-    QElapsedTimer m_todayAge;
+    LocalToday m_today;
 
     AuthorizationStore *m_authorization;
     ConnectionState m_connectionState = ConnectionState::Ready;
@@ -399,17 +391,12 @@ private:
     QSet<QString> m_historyAround;
     QHash<QString, qint64> m_historyAroundRequests;
 
-    // Files
-    QHash<qint64, QSet<QString>> m_messageMediaOwners;
-    QHash<qint64, QString> m_downloadedMediaPaths;
-    QHash<qint64, double> m_downloadProgress; // of files shown in messages, 0 to 1
-    QHash<qint64, QString> m_chatAvatarOwners;
-
     UserStore *m_users;
 
     QHash<QString, QStringList> m_imageDiagnosticEvents;
 
     StickerStore *m_stickers;
+    DownloadStore *m_downloads;
     ContactStore *m_contacts;
     ChatSearchStore *m_chatSearch;
 };

@@ -3,6 +3,7 @@
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/Initials.h"
+#include "session/DownloadStore.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -56,5 +57,5 @@ void TelegramSession::updateTypingStatus(const TdObject &update)
 std::optional<QString> TelegramSession::prepareChatAvatar(const QJsonValue &photo, const QString &chatID)
 {
     return prepareAvatar(storeSender(), photo,
-                         [this, &chatID](qint64 fileID) { m_chatAvatarOwners.insert(fileID, chatID); });
+                         [this, &chatID](qint64 fileID) { m_downloads->addChatPhoto(fileID, chatID); });
 }

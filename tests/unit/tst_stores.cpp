@@ -5,6 +5,7 @@
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
 #include "session/ContactStore.h"
+#include "session/DownloadStore.h"
 #include "session/Preferences.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
@@ -13,6 +14,7 @@
 
 #include <QSignalSpy>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -136,6 +138,51 @@ private Q_SLOTS:
         QVERIFY(!stickers.stickerError());
         QVERIFY(stickers.handleAnswer(u"error"_s, own, {}));
         QCOMPARE(stickers.stickerError(), std::optional(u"Unable to load stickers."_s));
+    }
+
+    void downloadsFollowWhatWaitsForEachFile()
+    {
+        Sent sent;
+        DownloadStore downloads(sent.sender());
+        QSignalSpy progress(&downloads, &DownloadStore::progressChanged);
+        // Asked for once shown; two chats show the same file.
+        QCOMPARE(downloads.messageFile(file(7), u"1"_s), std::nullopt);
+        QCOMPARE(downloads.messageFile(file(7), u"2"_s), std::nullopt);
+        QCOMPARE(sent.count(u"downloadFile"_s), 2);
+        downloads.addChatPhoto(8, u"3"_s);
+
+        TdObject partial = file(7);
+        partial.insert("size"_L1, 200);
+        partial.insert("local"_L1, TdObject{{"downloaded_size"_L1, 50}});
+        downloads.trackProgress(partial);
+        downloads.trackProgress(partial);
+        QCOMPARE(progress.size(), 1);
+        QCOMPARE(progress.first().at(1).toDouble(), 0.25);
+        // A chat photo's download shows no progress.
+        downloads.trackProgress(file(8));
+        QCOMPARE(progress.size(), 1);
+
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"photo.jpg"_s);
+        QFile written(path);
+        QVERIFY(written.open(QIODevice::WriteOnly));
+        written.close();
+        const DownloadStore::Waiting photo = downloads.applyDownloaded(7, path);
+        QCOMPARE(photo.messageChats, (QSet<QString>{u"1"_s, u"2"_s}));
+        QCOMPARE(photo.photoChat, std::nullopt);
+        QCOMPARE(downloads.applyDownloaded(8, path).photoChat, u"3"_s);
+        QCOMPARE(downloads.messageFile(file(7), u"1"_s), path);
+
+        // A file deleted behind our back is asked for again.
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(downloads.messageFile(file(7), u"1"_s), std::nullopt);
+        QCOMPARE(sent.count(u"downloadFile"_s), 3);
+
+        downloads.reset();
+        QCOMPARE(downloads.applyDownloaded(7, path).messageChats, QSet<QString>());
+        QCOMPARE(downloads.applyDownloaded(8, path).photoChat, std::nullopt);
+        downloads.trackProgress(partial);
+        QCOMPARE(progress.size(), 1);
     }
 
     void usersKeepPhotosAndPresence()
