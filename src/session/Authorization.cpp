@@ -5,10 +5,10 @@
 #include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
+#include "session/DownloadStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
-#include "session/DownloadStore.h"
 #include "session/TelegramSession.h"
 
 #include <QDir>
@@ -117,20 +117,9 @@ void TelegramSession::beginClient()
 
 void TelegramSession::resetAccountState()
 {
-    // The user cache, read markers, avatar owners, base subtitles and muted chats
-    // are kept on purpose: they describe Telegram, not the account that left.
-    for (auto &[id, record] : m_chatRecords) {
-        record.chat.reset();
-        record.listKey.reset();
-        record.positions = {};
-        record.privateChatUser.reset();
-    }
-    m_chatIndex.clear();
-    m_chatIndexChanges.clear();
-    m_chatIndexNeedsRebuild = false;
-    m_chatsToSort.clear();
-    m_publishedChatsValid = false;
-    Q_EMIT chatsChanged();
+    // The user cache is kept on purpose: it describes Telegram, not the account
+    // that left.
+    m_chatList->reset();
     const QStringList chatsWithMessages = m_messagesByChat.keys();
     m_messagesByChat.clear();
     m_messageDetailsByChat.clear();
@@ -144,9 +133,6 @@ void TelegramSession::resetAccountState()
     m_historyAround.clear();
     m_historyAroundRequests.clear();
 
-    m_removedChatIDs.clear();
-    m_privateChatsByUser.clear();
-    m_explicitlyOpenedChats.clear();
     m_rawMessagesByChat.clear();
     m_imageDiagnosticEvents.clear();
     m_loadingInitialHistory.clear();
@@ -156,7 +142,6 @@ void TelegramSession::resetAccountState()
     m_initialHistoryProgress.clear();
     m_preloadedHistory.clear();
     m_expandedHistory.clear();
-    m_loadingChatLists.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();
     // The next client reports its own link; until it does, nothing is claimed.

@@ -84,22 +84,14 @@ std::optional<QString> TelegramSession::newlyOpenedChatID() const
 void TelegramSession::openConversationChat(const TdObject &chat)
 {
     const QString chatID = QString::number(int64From(chat.value(QLatin1StringView("id"))).value_or(0));
-    m_removedChatIDs.remove(chatID);
     // Opened directly, so shown even before TDLib gives it a list position.
-    m_explicitlyOpenedChats.insert(chatID);
+    m_chatList->openExplicitly(chatID);
     addOrUpdateChat(chat);
 }
 
 void TelegramSession::forgetChat(const QString &chatID)
 {
-    m_removedChatIDs.insert(chatID);
-    // What describes Telegram rather than the list (read markers, the other
-    // person, the base subtitle, muting) is kept, as after signing out.
-    if (ChatRecord *record = findChatRecord(chatID)) {
-        record->chat.reset();
-        record->positions = {};
-    }
-    m_explicitlyOpenedChats.remove(chatID);
+    m_chatList->forget(chatID);
     m_rawMessagesByChat.remove(chatID);
     m_loadingInitialHistory.remove(chatID);
     m_initialHistoryProgress.remove(chatID);
@@ -111,6 +103,5 @@ void TelegramSession::forgetChat(const QString &chatID)
     m_messageDetailsByChat.remove(chatID);
     if (m_messagesByChat.remove(chatID) > 0)
         Q_EMIT messagesChanged(chatID);
-    m_chatsToSort.append(chatID);
-    sortChats();
+    m_chatList->sort();
 }

@@ -6,10 +6,10 @@
 #include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
+#include "session/DownloadStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
-#include "session/DownloadStore.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -81,7 +81,7 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
         }
         if (type == "error"_L1) {
             // TDLib answers 404 once the whole list is loaded.
-            m_loadingChatLists.remove(listType);
+            m_chatList->endLoading(listType);
             if (integerFrom(object.value("code"_L1)) != 404) {
                 const QJsonValue message = object.value("message"_L1);
                 m_authorization->setErrorMessage(message.isString() ? message.toString()
@@ -122,10 +122,10 @@ bool TelegramSession::routeByType(const QString &type, const TdObject &object)
     if (type == "updateChatPosition"_L1) {
         if (!chatID)
             return true;
-        updatePositions(*chatID, QJsonArray{object.value("position"_L1)}, false);
+        m_chatList->place(*chatID, QJsonArray{object.value("position"_L1)}, false);
         if (!knownChat(*chatID) && hasListPosition(*chatID))
             requestChat(chatID->toLongLong());
-        sortChats();
+        m_chatList->sort();
     } else if (type == "updateChatLastMessage"_L1) {
         if (chatID)
             updateChatLastMessage(*chatID, object.value("last_message"_L1), object.value("positions"_L1));
@@ -134,8 +134,8 @@ bool TelegramSession::routeByType(const QString &type, const TdObject &object)
             return true;
         const QString draft = draftText(object.value("draft_message"_L1));
         updateChat(*chatID, [&draft](Chat &chat) { chat.draftText = draft; });
-        updatePositions(*chatID, object.value("positions"_L1), true);
-        sortChats();
+        m_chatList->place(*chatID, object.value("positions"_L1), true);
+        m_chatList->sort();
     } else if (type == "updateChatTitle"_L1) {
         const QJsonValue title = object.value("title"_L1);
         if (chatID && title.isString())

@@ -48,7 +48,7 @@ void TelegramSession::storeHistoryAround(const QString &type, const TdObject &an
     if (request == m_historyAroundRequests.cend() || int64From(extra.value("message_id"_L1)) != *request)
         return;
     m_historyAroundRequests.erase(request);
-    if (type != "messages"_L1 || m_removedChatIDs.contains(chatID))
+    if (type != "messages"_L1 || m_chatList->isRemoved(chatID))
         return;
     QList<StoredMessage> window;
     for (const QJsonValue &value : answer.value("messages"_L1).toArray()) {

@@ -52,7 +52,7 @@ void TelegramSession::publishMessages(const QString &chatID)
     for (qsizetype i = 0; i < messages.size(); ++i)
         byID.insert(storedMessages.at(i).id().value_or(0), &messages.at(i));
     const auto chatTitle = [this](qint64 chat) {
-        const ChatRecord *record = findChatRecord(chat);
+        const ChatListStore::Record *record = m_chatList->find(chat);
         return record && record->chat ? record->chat->title : QString();
     };
     const auto userName = [this](qint64 userID) {
@@ -161,7 +161,7 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
         byChat[chatID].append(message);
     }
     for (const QString &chatID : std::as_const(chatOrder)) {
-        if (chatID == "0"_L1 || m_removedChatIDs.contains(chatID))
+        if (chatID == "0"_L1 || m_chatList->isRemoved(chatID))
             continue;
         QList<StoredMessage> merged;
         QHash<qint64, qsizetype> index;
@@ -281,7 +281,7 @@ void TelegramSession::markMessagesRead(const QList<Message> &messages, const QSt
     if (viewed != m_lastViewedMessage.cend() ? *viewed >= *newest : *newest <= 0)
         return;
     m_lastViewedMessage.insert(chatID, *newest);
-    ChatRecord &record = m_chatRecords[*chat];
+    ChatListStore::Record &record = m_chatList->record(*chat);
     record.lastReadInbox = std::max(*newest, record.lastReadInbox);
     updateChat(chatID, [](Chat &c) { c.unreadCount = 0; });
     publishMessages(chatID);
@@ -297,7 +297,7 @@ void TelegramSession::storeNewMessage(const TdObject &message)
     if (!chat)
         return;
     const QString chatID = QString::number(*chat);
-    if (m_removedChatIDs.contains(chatID))
+    if (m_chatList->isRemoved(chatID))
         return;
     QList<StoredMessage> &stored = m_rawMessagesByChat[chatID];
     StoredMessage storing(message);
@@ -347,8 +347,8 @@ void TelegramSession::handleNewMessage(const TdObject &message)
     if (const auto chat = int64From(message.value("chat_id"_L1))) {
         const QString chatID = QString::number(*chat);
         // A new message brings a deleted chat back.
-        m_removedChatIDs.remove(chatID);
-        m_chatsToSort.append(chatID);
+        m_chatList->setRemoved(chatID, false);
+        m_chatList->markToSort(chatID);
         if (!isListed(chatID))
             requestChat(*chat);
     }
@@ -363,7 +363,7 @@ void TelegramSession::handleReadInbox(const TdObject &update)
         return;
     const QString chatID = QString::number(*chat);
     if (const auto lastRead = int64From(update.value("last_read_inbox_message_id"_L1)))
-        m_chatRecords[*chat].lastReadInbox = *lastRead;
+        m_chatList->record(*chat).lastReadInbox = *lastRead;
     const qint64 unread = integerFrom(update.value("unread_count"_L1)).value_or(0);
     updateChat(chatID, [unread](Chat &c) { c.unreadCount = unread; });
     publishMessages(chatID);

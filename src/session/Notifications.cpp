@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 void TelegramSession::notifyIfNeeded(const TdObject &message)
 {
     const std::optional<qint64> chat = int64From(message.value("chat_id"_L1));
-    const ChatRecord *record = chat ? findChatRecord(*chat) : nullptr;
+    const ChatListStore::Record *record = chat ? m_chatList->find(*chat) : nullptr;
     const bool muted = record && record->isMuted;
     const bool listed = record && record->listKey && record->chat;
     m_announcer->announceMessage(message, muted, listed ? std::optional(record->chat->title) : std::nullopt);

@@ -20,6 +20,7 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_channel(new TDLibChannel(std::move(requestSender), this))
     , m_announcer(std::make_unique<Announcer>())
     , m_authorization(new AuthorizationStore(storeSender(), this))
+    , m_chatList(new ChatListStore(this))
     , m_users(new UserStore(storeSender(), this))
     , m_stickers(new StickerStore(storeSender(), this))
     , m_downloads(new DownloadStore(storeSender(), this))
@@ -53,6 +54,7 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     connect(m_stickers, &StickerStore::recentStickersLoadedChanged, this,
             &TelegramSession::recentStickersLoadedChanged);
     connect(m_stickers, &StickerStore::stickerErrorChanged, this, &TelegramSession::stickerErrorChanged);
+    connect(m_chatList, &ChatListStore::changed, this, &TelegramSession::chatsChanged);
     connect(m_downloads, &DownloadStore::progressChanged, this, &TelegramSession::downloadProgressChanged);
     connect(m_contacts, &ContactStore::contactsChanged, this, &TelegramSession::contactsChanged);
     connect(m_contacts, &ContactStore::contactResultsChanged, this, &TelegramSession::contactResultsChanged);

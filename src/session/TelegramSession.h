@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bundle/AppBundle.h"
+#include "session/ChatListStore.h"
 #include "session/CodeInfo.h"
 #include "session/LocalToday.h"
 #include "session/MessageDetails.h"
@@ -230,24 +231,19 @@ private:
     // Applies change to a known chat; the list is republished when the chat is in it.
     template<typename Change> void updateChat(const QString &chatID, Change &&change)
     {
-        ChatRecord *record = findChatRecord(chatID);
+        ChatListStore::Record *record = m_chatList->find(chatID);
         if (!record || !record->chat)
             return;
         change(*record->chat);
-        if (record->listKey) {
-            m_publishedChatsValid = false;
-            Q_EMIT chatsChanged();
-        }
+        m_chatList->changedChat(*record);
     }
     void updateChatLastMessage(const QString &chatID, const QJsonValue &message, const QJsonValue &positions);
-    void updatePositions(const QString &chatID, const QJsonValue &positions, bool replacing);
     bool hasListPosition(const QString &chatID) const;
     const Chat *knownChat(const QString &chatID) const;
     bool isListed(const QString &chatID) const;
     std::optional<qint64> privateChatUser(const QString &chatID) const;
     qint64 lastReadInbox(const QString &chatID) const;
     std::optional<QString> baseSubtitle(const QString &chatID) const;
-    void sortChats();
     void applyNotificationSettings(const TdObject &settings, const QString &chatID);
     void requestChat(qint64 chatID);
 
@@ -311,65 +307,7 @@ private:
     AuthorizationStore *m_authorization;
     ConnectionState m_connectionState = ConnectionState::Ready;
 
-    // Chat list. Each listed chat has a sort key; the ordered index of those keys is
-    // brought up to date, and the list materialised, only when the list is read, so
-    // that a sync of thousands of chats neither re-sorts nor copies it per update.
-    struct ChatSortKey {
-        qint64 order;
-        qint64 id;
-        bool operator<(const ChatSortKey &other) const
-        {
-            return order != other.order ? order > other.order : id > other.id;
-        }
-    };
-    struct ChatPosition {
-        qint64 order = 0;
-        bool isPinned = false;
-    };
-    // A chat's places in the main list and in the archive.
-    struct ChatPositions {
-        std::optional<ChatPosition> main;
-        std::optional<ChatPosition> archive;
-        bool isEmpty() const { return !main && !archive; }
-        // The archive decides the order and the pin of a chat that is in both lists.
-        const std::optional<ChatPosition> &sortEntry() const { return archive ? archive : main; }
-    };
-    // Everything the session keeps about one chat, in one entry: a sync of thousands
-    // of chats then finds or adds one entry per update rather than one per table.
-    struct ChatRecord {
-        std::optional<Chat> chat; // once TDLib has described the chat
-        ChatPositions positions;
-        std::optional<ChatSortKey> listKey;       // while the chat is listed
-        std::optional<qint64> privateChatUser;    // the other person in a private chat
-        std::optional<QString> baseSubtitle;      // the subtitle when nobody is online or typing
-        QString chatType;                         // TDLib's "@type" of the chat's type
-        std::optional<StoredMessage> lastMessage; // what the preview and the time were made from
-        qint64 lastReadInbox = 0;
-        bool isMuted = false;
-    };
-    // Keyed by the number: hashing and comparing chat ID texts cost more than the
-    // rest of a record's lookup. A record stays where it is while others are added,
-    // so a sync never moves the records it has, and a reference to one stays valid.
-    std::unordered_map<qint64, ChatRecord> m_chatRecords;
-    ChatRecord *findChatRecord(const QString &chatID);
-    const ChatRecord *findChatRecord(const QString &chatID) const;
-    const ChatRecord *findChatRecord(qint64 chatID) const;
-    ChatRecord *chatRecord(const QString &chatID); // found or added; null for a text that is no chat ID
-    QMultiHash<qint64, QString> m_privateChatsByUser;
-    QSet<QString> m_explicitlyOpenedChats;
-    QSet<QString> m_removedChatIDs;
-    QSet<QString> m_loadingChatLists;
-    struct ChatIndexChange {
-        std::optional<ChatSortKey> from;
-        std::optional<ChatSortKey> to;
-    };
-    void bringChatIndexUpToDate() const;
-    mutable std::vector<ChatSortKey> m_chatIndex; // sorted once the changes below are applied
-    mutable QList<ChatIndexChange> m_chatIndexChanges;
-    mutable bool m_chatIndexNeedsRebuild = false; // after more changes than are worth applying one by one
-    QList<QString> m_chatsToSort;                 // may repeat; sorting is idempotent
-    mutable QList<Chat> m_publishedChats;
-    mutable bool m_publishedChatsValid = true;
+    ChatListStore *m_chatList;
 
     // Messages
     QHash<QString, QList<Message>> m_messagesByChat;

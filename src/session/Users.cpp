@@ -2,8 +2,8 @@
 
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
-#include "session/Initials.h"
 #include "session/DownloadStore.h"
+#include "session/Initials.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -24,9 +24,7 @@ void TelegramSession::republishChatsWithMessages()
 void TelegramSession::refreshPresence(qint64 userID)
 {
     const bool online = m_users->isOnline(userID);
-    for (auto it = m_privateChatsByUser.constFind(userID); it != m_privateChatsByUser.cend() && it.key() == userID;
-         ++it) {
-        const QString &chatID = it.value();
+    for (const QString &chatID : m_chatList->privateChatsWith(userID)) {
         const QString subtitle = online ? tr("Online") : baseSubtitle(chatID).value_or(tr("Private conversation"));
         updateChat(chatID, [&subtitle](Chat &chat) {
             chat.subtitle = subtitle;

@@ -4,6 +4,7 @@
 #include "platform/SoundPlayer.h"
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
+#include "session/ChatListStore.h"
 #include "session/ContactStore.h"
 #include "session/DownloadStore.h"
 #include "session/Preferences.h"
@@ -138,6 +139,76 @@ private Q_SLOTS:
         QVERIFY(!stickers.stickerError());
         QVERIFY(stickers.handleAnswer(u"error"_s, own, {}));
         QCOMPARE(stickers.stickerError(), std::optional(u"Unable to load stickers."_s));
+    }
+
+    void chatListKeepsTdLibsOrderAndForgetsTheAccount()
+    {
+        ChatListStore list;
+        QSignalSpy changed(&list, &ChatListStore::changed);
+        const auto describe = [&list](qint64 id, const QJsonArray &positions) {
+            ChatListStore::Record &record = list.record(id);
+            Chat chat;
+            chat.id = QString::number(id);
+            chat.title = chat.id;
+            record.chat = chat;
+            list.place(chat.id, positions, true);
+        };
+        const auto at = [](qint64 order, const QString &listType = ChatListStore::mainList, bool pinned = false) {
+            return TdObject{{"list"_L1, TdObject{{"@type"_L1, listType}}},
+                            {"order"_L1, QString::number(order)},
+                            {"is_pinned"_L1, pinned}};
+        };
+        const auto ids = [&list] {
+            QStringList shown;
+            for (const Chat &chat : list.chats())
+                shown.append(chat.id);
+            return shown;
+        };
+        // More chats than the index moves one by one: it is sorted whole, in the same order.
+        for (qint64 id = 1; id <= 100; ++id)
+            describe(id, QJsonArray{at(1000 - id)});
+        describe(200, QJsonArray{at(5000, ChatListStore::archiveList, true)});
+        // A chat without a position is in no list.
+        describe(300, QJsonArray{});
+        list.sort();
+        QCOMPARE(ids().size(), 101);
+        QCOMPARE(ids().first(), u"200"_s);
+        QVERIFY(list.chats().first().isArchived && list.chats().first().isPinned);
+        QCOMPARE(ids().at(1), u"1"_s);
+        QCOMPARE(ids().last(), u"100"_s);
+
+        // A few moves at a time.
+        list.place(u"100"_s, QJsonArray{at(2000)}, true);
+        list.sort();
+        QCOMPARE(ids().at(1), u"100"_s);
+
+        // A deleted chat leaves the list until opened again; an opened one shows before it has a place.
+        list.forget(u"1"_s);
+        list.sort();
+        QVERIFY(!ids().contains(u"1"_s));
+        QVERIFY(list.isRemoved(u"1"_s));
+        list.openExplicitly(u"300"_s);
+        list.markToSort(u"300"_s);
+        list.sort();
+        QVERIFY(ids().contains(u"300"_s));
+
+        list.setPrivateChatUser(list.record(7), u"7"_s, 42);
+        list.record(7).lastReadInbox = 9;
+        QVERIFY(list.beginLoading(ChatListStore::mainList));
+        QVERIFY(!list.beginLoading(ChatListStore::mainList));
+        changed.clear();
+        list.reset();
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(list.chats().isEmpty());
+        QVERIFY(list.privateChatsWith(42).isEmpty());
+        QVERIFY(!list.isRemoved(u"1"_s));
+        QVERIFY(list.beginLoading(ChatListStore::mainList));
+        // What describes Telegram stays.
+        QCOMPARE(list.find(7)->lastReadInbox, 9);
+        // A chat described again takes its place anew.
+        describe(5, QJsonArray{at(10)});
+        list.sort();
+        QCOMPARE(ids(), QStringList{u"5"_s});
     }
 
     void downloadsFollowWhatWaitsForEachFile()
