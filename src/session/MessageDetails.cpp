@@ -10,14 +10,22 @@ namespace {
 Kind kindOf(const TdObject &content)
 {
     static const QHash<QString, Kind> kinds{
-        {u"messageText"_s, Kind::Text},           {u"messageAnimatedEmoji"_s, Kind::Text},
-        {u"messagePhoto"_s, Kind::Photo},         {u"messageVideo"_s, Kind::Video},
-        {u"messageAnimation"_s, Kind::Animation}, {u"messageVoiceNote"_s, Kind::VoiceNote},
-        {u"messageVideoNote"_s, Kind::VideoNote}, {u"messageAudio"_s, Kind::Audio},
-        {u"messageDocument"_s, Kind::Document},   {u"messageSticker"_s, Kind::Sticker},
-        {u"messageLocation"_s, Kind::Location},   {u"messageVenue"_s, Kind::Venue},
-        {u"messageContact"_s, Kind::Contact},     {u"messagePoll"_s, Kind::Poll},
-        {u"messageCall"_s, Kind::Call},           {u"messageDice"_s, Kind::Dice},
+        {u"messageText"_s, Kind::Text},
+        {u"messageAnimatedEmoji"_s, Kind::Text},
+        {u"messagePhoto"_s, Kind::Photo},
+        {u"messageVideo"_s, Kind::Video},
+        {u"messageAnimation"_s, Kind::Animation},
+        {u"messageVoiceNote"_s, Kind::VoiceNote},
+        {u"messageVideoNote"_s, Kind::VideoNote},
+        {u"messageAudio"_s, Kind::Audio},
+        {u"messageDocument"_s, Kind::Document},
+        {u"messageSticker"_s, Kind::Sticker},
+        {u"messageLocation"_s, Kind::Location},
+        {u"messageVenue"_s, Kind::Venue},
+        {u"messageContact"_s, Kind::Contact},
+        {u"messagePoll"_s, Kind::Poll},
+        {u"messageCall"_s, Kind::Call},
+        {u"messageDice"_s, Kind::Dice},
     };
     const Kind kind = kinds.value(typeOf(content), Kind::Other);
     // A picture sent as a file is shown as a photo.
@@ -62,9 +70,7 @@ void readMedia(MessageDetails &details, const TdObject &content)
         details.width = intOf(size, "width");
         details.height = intOf(size, "height");
     } else if (type == "messageVideo"_L1 || type == "messageAnimation"_L1 || type == "messageVideoNote"_L1) {
-        const char *key = type == "messageVideo"_L1       ? "video"
-                          : type == "messageAnimation"_L1 ? "animation"
-                                                          : "video_note";
+        const char *key = type == "messageVideo"_L1 ? "video" : type == "messageAnimation"_L1 ? "animation" : "video_note";
         media = content.value(QLatin1StringView(key)).toObject();
         readFile(details, media.value(type == "messageAnimation"_L1 ? "animation"_L1 : "video"_L1).toObject());
         details.width = type == "messageVideoNote"_L1 ? intOf(media, "length") : intOf(media, "width");
@@ -101,7 +107,8 @@ void readCard(MessageDetails &details, const TdObject &content)
     case Kind::Location:
     case Kind::Venue: {
         const TdObject venue = content.value("venue"_L1).toObject();
-        const TdObject location = (details.kind == Kind::Venue ? venue : content).value("location"_L1).toObject();
+        const TdObject location =
+            (details.kind == Kind::Venue ? venue : content).value("location"_L1).toObject();
         details.latitude = location.value("latitude"_L1).toDouble();
         details.longitude = location.value("longitude"_L1).toDouble();
         details.placeName = stringOf(venue, "title");
@@ -134,10 +141,10 @@ void readCard(MessageDetails &details, const TdObject &content)
         details.callIsVideo = content.value("is_video"_L1).toBool();
         details.duration = intOf(content, "duration");
         const QString reason = typeOf(content.value("discard_reason"_L1));
-        details.callEnd = reason == "callDiscardReasonMissed"_L1         ? MessageContent::CallEnd::Missed
+        details.callEnd = reason == "callDiscardReasonMissed"_L1        ? MessageContent::CallEnd::Missed
                           : reason == "callDiscardReasonDeclined"_L1     ? MessageContent::CallEnd::Declined
                           : reason == "callDiscardReasonDisconnected"_L1 ? MessageContent::CallEnd::Disconnected
-                                                                         : MessageContent::CallEnd::Ended;
+                                                                          : MessageContent::CallEnd::Ended;
         break;
     }
     case Kind::Dice:
@@ -279,8 +286,7 @@ MessageDetails messageDetails(const TdObject &message, const MessageDetailsConte
     readMedia(details, content);
     readCard(details, content);
     details.isForwarded = message.value("forward_info"_L1).isObject();
-    details.forwardedFrom =
-        originName(message.value("forward_info"_L1).toObject().value("origin"_L1).toObject(), context);
+    details.forwardedFrom = originName(message.value("forward_info"_L1).toObject().value("origin"_L1).toObject(), context);
     readReply(details, message, context);
     return details;
 }
