@@ -117,15 +117,21 @@ void FilePanel::chooseAttachmentsInOwnDialog()
     present(dialog);
 }
 
+QString FilePanel::saveFolder() const
+{
+    // Copies go to the downloads folder where there is one, else where the last file came from.
+    const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    return QFileInfo(downloads).isDir() ? downloads : m_lastFolder;
+}
+
 void FilePanel::saveCopy(const QString &sourcePath, const QString &suggestedName)
 {
     if (m_askingDesktop)
         return;
     if (!m_dialog && m_chooser && m_chooser->isAvailable()) {
-        const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
         askDesktop([this, sourcePath](const QStringList &paths) { writeCopy(sourcePath, paths.first()); },
                    [this, sourcePath, suggestedName] { saveCopyInOwnDialog(sourcePath, suggestedName); });
-        m_chooser->saveFile(tr("Save"), QFileInfo(downloads).isDir() ? downloads : m_lastFolder, suggestedName);
+        m_chooser->saveFile(tr("Save"), saveFolder(), suggestedName);
         return;
     }
     saveCopyInOwnDialog(sourcePath, suggestedName);
@@ -133,9 +139,7 @@ void FilePanel::saveCopy(const QString &sourcePath, const QString &suggestedName
 
 void FilePanel::saveCopyInOwnDialog(const QString &sourcePath, const QString &suggestedName)
 {
-    const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-    auto *dialog = new QFileDialog(
-        nullptr, tr("Save"), QDir(QFileInfo(downloads).isDir() ? downloads : m_lastFolder).filePath(suggestedName));
+    auto *dialog = new QFileDialog(nullptr, tr("Save"), QDir(saveFolder()).filePath(suggestedName));
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     connect(dialog, &QFileDialog::fileSelected, this,

@@ -41,6 +41,7 @@ Q_SIGNALS:
     void isOpenChanged();
 
 private:
+    QString saveFolder() const;
     void chooseAttachmentsInOwnDialog();
     void saveCopyInOwnDialog(const QString &sourcePath, const QString &suggestedName);
     void writeCopy(const QString &sourcePath, const QString &target);
