@@ -18,6 +18,15 @@ class Formatting(VostTestCase):
         vost.open_chat("Qt Developers")
         return vost, vost.find("list", "Messages")
 
+    @staticmethod
+    def click_on(vost, messages, line_text, words):
+        """Clicks the middle of words in a one-line paragraph, where its characters
+        about sit."""
+        line = vost.find("paragraph", line_text, contains=True, within=messages)
+        x, y, w, h = line.extents()
+        at = line.name.index(words) + len(words) / 2
+        vost.click((x + int(w * at / len(line.name)), y + h // 2))
+
     def clipboard(self):
         return subprocess.run(["xclip", "-o", "-selection", "clipboard"], env=self.desktop.env,
                               capture_output=True, text=True, timeout=5).stdout
@@ -38,19 +47,12 @@ class Formatting(VostTestCase):
 
     def test_a_click_on_a_mention_opens_that_chat(self):
         vost, messages = self.open_qt_developers()
-        line = vost.find("paragraph", "ask @emma_w. #qt6", contains=True, within=messages)
-        # One line of text: the mention sits about where its characters do.
-        x, y, w, h = line.extents()
-        at = line.name.index("@emma_w") + 3.5
-        vost.click((x + int(w * at / len(line.name)), y + h // 2))
+        self.click_on(vost, messages, "ask @emma_w. #qt6", "@emma_w")
         vost.find("panel", "Conversation with Emma Wilson", timeout=15)
 
     def test_a_click_on_a_hashtag_searches_the_chat_for_it(self):
         vost, messages = self.open_qt_developers()
-        line = vost.find("paragraph", "ask @emma_w. #qt6", contains=True, within=messages)
-        x, y, w, h = line.extents()
-        at = line.name.index("#qt6") + 2
-        vost.click((x + int(w * at / len(line.name)), y + h // 2))
+        self.click_on(vost, messages, "ask @emma_w. #qt6", "#qt6")
         bar = vost.find("tool bar", "Search in chat")
         self.assertEqual(vost.find("text", "Search in chat", within=bar).text(), "#qt6")
         vost.find("label", "1 of 1", within=bar, timeout=10)
