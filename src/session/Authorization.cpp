@@ -9,6 +9,7 @@
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
+#include "session/RepliedMessageStore.h"
 #include "session/TelegramSession.h"
 
 #include <QDir>
@@ -136,11 +137,8 @@ void TelegramSession::resetAccountState()
     m_rawMessagesByChat.clear();
     m_imageDiagnosticEvents.clear();
     m_loadingInitialHistory.clear();
-    m_repliedMessages.clear();
-    m_missingRepliedMessages.clear();
-    m_requestedRepliedMessages.clear();
+    m_replied->reset();
     m_initialHistoryProgress.clear();
-    m_preloadedHistory.clear();
     m_expandedHistory.clear();
     m_loadingOlderHistory.clear();
     m_exhaustedHistory.clear();

@@ -7,6 +7,7 @@
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/DownloadStore.h"
+#include "session/RepliedMessageStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
@@ -102,7 +103,9 @@ bool TelegramSession::routeByPurpose(const QString &purpose, const QString &type
         return true;
     }
     if (purpose == "replied_message"_L1) {
-        storeRepliedMessage(object.value("@extra"_L1).toObject(), type, object);
+        if (const std::optional<QString> chatID =
+                m_replied->handleAnswer(object.value("@extra"_L1).toObject(), type, object))
+            publishMessages(*chatID);
         return true;
     }
     if ((purpose == "initial_history"_L1 || purpose == "initial_local_history"_L1 || purpose == "older_history"_L1) &&

@@ -4,6 +4,7 @@
 #include "session/AuthorizationStore.h"
 #include "session/ContentTexts.h"
 #include "session/DateTexts.h"
+#include "session/RepliedMessageStore.h"
 #include "session/TelegramSession.h"
 #include "session/UserStore.h"
 
@@ -59,16 +60,14 @@ void TelegramSession::publishMessages(const QString &chatID)
         const User *user = m_users->user(userID);
         return user ? user->name : QString();
     };
-    const QHash<qint64, TdObject> &replied = m_repliedMessages[chatID];
-    const QSet<qint64> &missing = m_missingRepliedMessages[chatID];
-    const auto lookUp = [&byID, &replied](qint64 messageID) -> const TdObject * {
+    const auto lookUp = [this, &byID, &chatID](qint64 messageID) -> const TdObject * {
         if (const TdObject *held = byID.value(messageID))
             return held;
-        const auto found = replied.constFind(messageID);
-        return found == replied.cend() ? nullptr : &*found;
+        return m_replied->message(chatID, messageID);
     };
-    const MessageDetailsContext context{userName, chatTitle, lookUp,
-                                        [&missing](qint64 messageID) { return missing.contains(messageID); }};
+    const MessageDetailsContext context{userName, chatTitle, lookUp, [this, &chatID](qint64 messageID) {
+                                            return m_replied->isMissing(chatID, messageID);
+                                        }};
     for (const TdObject &raw : std::as_const(messages)) {
         if (std::optional<Message> message = makeMessage(raw)) {
             published.append(std::move(*message));
@@ -76,7 +75,7 @@ void TelegramSession::publishMessages(const QString &chatID)
         }
     }
     if (const std::optional<qint64> chat = parseInt64(chatID))
-        requestRepliedMessages(*chat, messages, byID);
+        m_replied->requestMissing(*chat, messages, byID);
     m_messagesByChat.insert(chatID, published);
     m_messageDetailsByChat.insert(chatID, details);
     Q_EMIT messagesChanged(chatID);

@@ -7,6 +7,7 @@
 #include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/DownloadStore.h"
+#include "session/RepliedMessageStore.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
 #include "session/UserStore.h"
@@ -26,6 +27,7 @@ TelegramSession::TelegramSession(RequestSender requestSender, QObject *parent)
     , m_downloads(new DownloadStore(storeSender(), this))
     , m_contacts(new ContactStore(storeSender(), *m_users, this))
     , m_chatSearch(new ChatSearchStore(storeSender(), this))
+    , m_replied(new RepliedMessageStore(storeSender(), this))
 {
     connect(m_chatSearch, &ChatSearchStore::resultShown, this, &TelegramSession::loadHistoryAround);
     connect(m_authorization, &AuthorizationStore::stepChanged, this, &TelegramSession::stepChanged);

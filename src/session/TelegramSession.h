@@ -30,6 +30,7 @@ class Announcer;
 class AuthorizationStore;
 class ChatSearchStore;
 class ContactStore;
+class RepliedMessageStore;
 class StickerStore;
 class DownloadStore;
 class TDLibChannel;
@@ -256,9 +257,6 @@ private:
     void updateMessageField(const TdObject &update, const QString &field, const QJsonValue &value);
     void publishMessages(const QString &chatID);
     // Answered messages of the chat that its history does not hold, asked for once each.
-    void requestRepliedMessages(qint64 chatID, const QList<TdObject> &messages,
-                                const QHash<qint64, const TdObject *> &held);
-    void storeRepliedMessage(const TdObject &extra, const QString &type, const TdObject &answer);
     std::optional<Message> makeMessage(const TdObject &message);
     void handleNewMessage(const TdObject &message);
     void handleReadInbox(const TdObject &update);
@@ -317,14 +315,10 @@ private:
     QHash<QString, qint64> m_lastViewedMessage;
     QSet<QString> m_loadingInitialHistory;
     // Answered messages outside the loaded history, by chat: found, or gone.
-    QHash<QString, QHash<qint64, TdObject>> m_repliedMessages;
-    QHash<QString, QSet<qint64>> m_missingRepliedMessages;
-    QHash<QString, QSet<qint64>> m_requestedRepliedMessages;
     QHash<QString, InitialHistoryProgress> m_initialHistoryProgress;
     QSet<QString> m_loadingOlderHistory;
     QSet<QString> m_exhaustedHistory;
     QSet<QString> m_expandedHistory;
-    QSet<QString> m_preloadedHistory;
     // Chats showing history around a message, and the message last asked for in each.
     QSet<QString> m_historyAround;
     QHash<QString, qint64> m_historyAroundRequests;
@@ -337,4 +331,5 @@ private:
     DownloadStore *m_downloads;
     ContactStore *m_contacts;
     ChatSearchStore *m_chatSearch;
+    RepliedMessageStore *m_replied;
 };

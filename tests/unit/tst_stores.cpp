@@ -8,6 +8,7 @@
 #include "session/ContactStore.h"
 #include "session/DownloadStore.h"
 #include "session/Preferences.h"
+#include "session/RepliedMessageStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
@@ -209,6 +210,44 @@ private Q_SLOTS:
         describe(5, QJsonArray{at(10)});
         list.sort();
         QCOMPARE(ids(), QStringList{u"5"_s});
+    }
+
+    void repliedMessagesAreAskedOnceAndForgottenAtReset()
+    {
+        Sent sent;
+        RepliedMessageStore replied(sent.sender());
+        const auto replyTo = [](qint64 id, std::optional<qint64> chat = std::nullopt) {
+            TdObject reply{{"@type"_L1, u"messageReplyToMessage"_s}, {"message_id"_L1, id}};
+            if (chat)
+                reply.insert("chat_id"_L1, *chat);
+            return TdObject{{"id"_L1, 100 + id}, {"reply_to"_L1, reply}};
+        };
+        const TdObject held{{"id"_L1, 2}};
+        const QList<TdObject> messages{replyTo(1), replyTo(1), replyTo(2), replyTo(3, 99), replyTo(0)};
+        // Only the one neither held, nor of another chat, nor asked before.
+        replied.requestMissing(5, messages, {{2, &held}});
+        replied.requestMissing(5, messages, {{2, &held}});
+        QCOMPARE(sent.count(u"getMessage"_s), 1);
+        const TdObject extra = sent.extraOf(u"getMessage"_s);
+
+        const TdObject answer{{"@type"_L1, u"message"_s}, {"id"_L1, 1}};
+        QCOMPARE(replied.handleAnswer(extra, u"message"_s, answer), u"5"_s);
+        QVERIFY(replied.message(u"5"_s, 1));
+        QVERIFY(!replied.message(u"6"_s, 1));
+        // An answer nobody asked for, or of another kind, is not its own.
+        QCOMPARE(replied.handleAnswer(TdObject{{"chat_id"_L1, 5}, {"message_id"_L1, 7}}, u"message"_s, answer),
+                 std::nullopt);
+        QCOMPARE(replied.handleAnswer(extra, u"ok"_s, {}), std::nullopt);
+
+        replied.reset();
+        QVERIFY(!replied.message(u"5"_s, 1));
+        // A late error from before the reset changes nothing.
+        QCOMPARE(replied.handleAnswer(extra, u"error"_s, {}), std::nullopt);
+        QVERIFY(!replied.isMissing(u"5"_s, 1));
+        replied.requestMissing(5, messages, {});
+        QCOMPARE(sent.count(u"getMessage"_s), 3);
+        QCOMPARE(replied.handleAnswer(sent.extraOf(u"getMessage"_s), u"error"_s, {}), u"5"_s);
+        QVERIFY(replied.isMissing(u"5"_s, 1));
     }
 
     void downloadsFollowWhatWaitsForEachFile()
