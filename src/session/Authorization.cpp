@@ -6,10 +6,10 @@
 #include "session/ContactStore.h"
 #include "session/ContentTexts.h"
 #include "session/DownloadStore.h"
+#include "session/RepliedMessageStore.h"
 #include "session/SoundManager.h"
 #include "session/StickerStore.h"
 #include "session/TDLibChannel.h"
-#include "session/RepliedMessageStore.h"
 #include "session/TelegramSession.h"
 
 #include <QDir>
@@ -131,17 +131,11 @@ void TelegramSession::resetAccountState()
     m_stickers->reset();
     m_downloads->reset();
     m_chatSearch->reset();
-    m_historyAround.clear();
-    m_historyAroundRequests.clear();
+    m_history.reset();
 
     m_rawMessagesByChat.clear();
     m_imageDiagnosticEvents.clear();
-    m_loadingInitialHistory.clear();
     m_replied->reset();
-    m_initialHistoryProgress.clear();
-    m_expandedHistory.clear();
-    m_loadingOlderHistory.clear();
-    m_exhaustedHistory.clear();
     // The next client reports its own link; until it does, nothing is claimed.
     setConnectionState(ConnectionState::Ready);
 }

@@ -93,13 +93,7 @@ void TelegramSession::forgetChat(const QString &chatID)
 {
     m_chatList->forget(chatID);
     m_rawMessagesByChat.remove(chatID);
-    m_loadingInitialHistory.remove(chatID);
-    m_initialHistoryProgress.remove(chatID);
-    m_loadingOlderHistory.remove(chatID);
-    m_exhaustedHistory.remove(chatID);
-    m_expandedHistory.remove(chatID);
-    m_historyAround.remove(chatID);
-    m_historyAroundRequests.remove(chatID);
+    m_history.forget(chatID);
     m_messageDetailsByChat.remove(chatID);
     if (m_messagesByChat.remove(chatID) > 0)
         Q_EMIT messagesChanged(chatID);

@@ -24,7 +24,7 @@ void TelegramSession::loadHistoryAround(const QString &chatID, const QString &me
     const QList<StoredMessage> &held = m_rawMessagesByChat.value(chatID);
     if (std::any_of(held.cbegin(), held.cend(), [&](const StoredMessage &stored) { return stored.id() == message; }))
         return;
-    m_historyAroundRequests.insert(chatID, *message);
+    m_history.askAround(chatID, *message);
     send(u"getChatHistory"_s,
          {{"chat_id"_L1, *chat},
           {"from_message_id"_L1, *message},
@@ -44,10 +44,8 @@ void TelegramSession::storeHistoryAround(const QString &type, const TdObject &an
     const QString chatID = QString::number(*chat);
     // Only the answer for the message last asked for counts; a failed one leaves
     // the transcript as it was.
-    const auto request = m_historyAroundRequests.constFind(chatID);
-    if (request == m_historyAroundRequests.cend() || int64From(extra.value("message_id"_L1)) != *request)
+    if (!m_history.takeAroundAnswer(chatID, int64From(extra.value("message_id"_L1)).value_or(0)))
         return;
-    m_historyAroundRequests.erase(request);
     if (type != "messages"_L1 || m_chatList->isRemoved(chatID))
         return;
     QList<StoredMessage> window;
@@ -59,22 +57,15 @@ void TelegramSession::storeHistoryAround(const QString &type, const TdObject &an
     if (window.isEmpty())
         return;
     m_rawMessagesByChat.insert(chatID, window);
-    m_historyAround.insert(chatID);
-    // Older pages follow on from the window, and its start is not the chat's.
-    m_expandedHistory.insert(chatID);
-    m_exhaustedHistory.remove(chatID);
+    m_history.showAround(chatID);
     Q_EMIT historyStateChanged(chatID);
     publishMessages(chatID);
 }
 
 void TelegramSession::returnToNewest(const QString &chatID)
 {
-    m_historyAroundRequests.remove(chatID);
-    if (!m_historyAround.remove(chatID))
+    if (!m_history.leaveAround(chatID))
         return;
-    m_expandedHistory.remove(chatID);
-    m_exhaustedHistory.remove(chatID);
-    m_loadingOlderHistory.remove(chatID);
     // Between the window and the newest messages lies a gap: the chat loads afresh.
     m_rawMessagesByChat[chatID].clear();
     Q_EMIT historyStateChanged(chatID);

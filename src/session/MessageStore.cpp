@@ -35,9 +35,9 @@ void TelegramSession::publishMessages(const QString &chatID)
         return;
     QList<StoredMessage> &storedMessages = *stored;
     std::stable_sort(storedMessages.begin(), storedMessages.end(), StoredMessage::sortsBefore);
-    if (!m_expandedHistory.contains(chatID) && storedMessages.size() > historyWindow)
+    if (!m_history.isExpanded(chatID) && storedMessages.size() > historyWindow)
         storedMessages.remove(0, storedMessages.size() - historyWindow);
-    if (m_loadingInitialHistory.contains(chatID))
+    if (m_history.isFirstLoading(chatID))
         return;
     QList<TdObject> messages;
     messages.reserve(storedMessages.size());
@@ -142,9 +142,7 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
     if (purpose == "older_history"_L1) {
         if (const auto chat = int64From(extra.value("chat_id"_L1))) {
             const QString chatID = QString::number(*chat);
-            m_loadingOlderHistory.remove(chatID);
-            if (messages.isEmpty())
-                m_exhaustedHistory.insert(chatID);
+            m_history.endOlderPage(chatID, messages.isEmpty());
             Q_EMIT historyStateChanged(chatID);
         }
     }
@@ -189,28 +187,26 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
     if (!chat)
         return;
     const QString chatID = QString::number(*chat);
-    InitialHistoryProgress &progress = m_initialHistoryProgress[chatID];
-    const qsizetype previous = progress.messageIDs.size();
+    QSet<qint64> &loaded = m_history.firstLoadMessages(chatID);
+    const qsizetype previous = loaded.size();
     for (const QJsonValue &value : messages) {
         if (const auto id = int64From(value.toObject().value("id"_L1)))
-            progress.messageIDs.insert(*id);
+            loaded.insert(*id);
     }
     const int attempt = int(integerFrom(extra.value("attempt"_L1)).value_or(1));
-    const qsizetype count = progress.messageIDs.size();
+    const qsizetype count = loaded.size();
     const bool goesOn = count < historyWindow && attempt <= maximumInitialAttempts &&
                         (count > previous || (count == 0 && attempt <= 2));
     if (goesOn && count > 0) {
-        requestInitialHistory(*chat, *std::min_element(progress.messageIDs.cbegin(), progress.messageIDs.cend()),
-                              attempt + 1);
+        requestInitialHistory(*chat, *std::min_element(loaded.cbegin(), loaded.cend()), attempt + 1);
     } else if (goesOn) {
         // TDLib answers empty while it fills its cache: ask again shortly.
         QTimer::singleShot(emptyAnswerRetryMs, this, [this, chatID, chat = *chat, attempt] {
-            if (m_loadingInitialHistory.contains(chatID))
+            if (m_history.isFirstLoading(chatID))
                 requestInitialHistory(chat, 0, attempt + 1);
         });
     } else {
-        m_loadingInitialHistory.remove(chatID);
-        m_initialHistoryProgress.remove(chatID);
+        m_history.endFirstLoad(chatID);
         // A chat with no history still gets its (empty) list, so the view stops waiting.
         m_rawMessagesByChat[chatID];
         publishMessages(chatID);
@@ -220,17 +216,15 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
 void TelegramSession::loadMessages(const QString &chatID)
 {
     const std::optional<qint64> chat = parseInt64(chatID);
-    if (!chat || m_loadingInitialHistory.contains(chatID))
+    if (!chat || !m_history.beginFirstLoad(chatID))
         return;
-    m_loadingInitialHistory.insert(chatID);
-    m_initialHistoryProgress.insert(chatID, {});
     send(u"openChat"_s, {{"chat_id"_L1, *chat}});
     requestInitialHistory(*chat, 0, 1);
 }
 
 void TelegramSession::requestInitialHistory(qint64 chatID, qint64 fromMessageID, int attempt)
 {
-    const qsizetype held = m_initialHistoryProgress.value(QString::number(chatID)).messageIDs.size();
+    const qsizetype held = m_history.firstLoadCount(QString::number(chatID));
     // TDLib answers a page from a message with that message itself again.
     const qsizetype limit =
         std::clamp<qsizetype>(historyWindow - held + (fromMessageID != 0 ? 1 : 0), 1, historyWindow);
@@ -248,10 +242,8 @@ void TelegramSession::loadOlderMessages(const QString &chatID, const QString &me
 {
     const std::optional<qint64> chat = parseInt64(chatID);
     const std::optional<qint64> message = parseInt64(messageID);
-    if (!chat || !message || m_loadingOlderHistory.contains(chatID) || m_exhaustedHistory.contains(chatID))
+    if (!chat || !message || !m_history.beginOlderPage(chatID))
         return;
-    m_expandedHistory.insert(chatID);
-    m_loadingOlderHistory.insert(chatID);
     Q_EMIT historyStateChanged(chatID);
     send(u"getChatHistory"_s, {{"chat_id"_L1, *chat},
                                {"from_message_id"_L1, *message},

@@ -114,10 +114,6 @@ struct Chat {
     friend bool operator==(const Chat &, const Chat &) = default;
 };
 
-struct InitialHistoryProgress {
-    QSet<qint64> messageIDs;
-};
-
 struct PendingAttachment {
     QUuid id = QUuid::createUuid();
     QString path;

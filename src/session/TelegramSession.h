@@ -3,6 +3,7 @@
 #include "bundle/AppBundle.h"
 #include "session/ChatListStore.h"
 #include "session/CodeInfo.h"
+#include "session/HistoryProgress.h"
 #include "session/LocalToday.h"
 #include "session/MessageDetails.h"
 #include "session/ModelTypes.h"
@@ -120,8 +121,8 @@ public:
     void markMessagesRead(const QList<Message> &messages, const QString &chatID);
     // Where a chat's history stands for the transcript: an older page on its way,
     // or the start of the chat reached.
-    bool isLoadingOlderMessages(const QString &chatID) const { return m_loadingOlderHistory.contains(chatID); }
-    bool isHistoryExhausted(const QString &chatID) const { return m_exhaustedHistory.contains(chatID); }
+    bool isLoadingOlderMessages(const QString &chatID) const { return m_history.isLoadingOlder(chatID); }
+    bool isHistoryExhausted(const QString &chatID) const { return m_history.isExhausted(chatID); }
     ChatSearchStore *chatSearch() const { return m_chatSearch; }
     // Brings the history around a message into the chat's transcript, in place of
     // what it showed, unless the message is loaded already.
@@ -129,7 +130,7 @@ public:
     // After history around a message: the chat's newest messages again, loaded afresh.
     Q_INVOKABLE void returnToNewest(const QString &chatID);
     // Whether the chat shows history around a message rather than its newest.
-    bool showsHistoryAround(const QString &chatID) const { return m_historyAround.contains(chatID); }
+    bool showsHistoryAround(const QString &chatID) const { return m_history.showsAround(chatID); }
 
     // Sending, editing, forwarding and deleting. Identifiers are decimal text;
     // a bad one sends nothing.
@@ -313,15 +314,7 @@ private:
     QHash<QString, QList<StoredMessage>> m_rawMessagesByChat;
     QHash<QString, qint64> m_lastReadOutbox;
     QHash<QString, qint64> m_lastViewedMessage;
-    QSet<QString> m_loadingInitialHistory;
-    // Answered messages outside the loaded history, by chat: found, or gone.
-    QHash<QString, InitialHistoryProgress> m_initialHistoryProgress;
-    QSet<QString> m_loadingOlderHistory;
-    QSet<QString> m_exhaustedHistory;
-    QSet<QString> m_expandedHistory;
-    // Chats showing history around a message, and the message last asked for in each.
-    QSet<QString> m_historyAround;
-    QHash<QString, qint64> m_historyAroundRequests;
+    HistoryProgress m_history;
 
     UserStore *m_users;
 

@@ -7,6 +7,7 @@
 #include "session/ChatListStore.h"
 #include "session/ContactStore.h"
 #include "session/DownloadStore.h"
+#include "session/HistoryProgress.h"
 #include "session/Preferences.h"
 #include "session/RepliedMessageStore.h"
 #include "session/SoundManager.h"
@@ -248,6 +249,42 @@ private Q_SLOTS:
         QCOMPARE(sent.count(u"getMessage"_s), 3);
         QCOMPARE(replied.handleAnswer(sent.extraOf(u"getMessage"_s), u"error"_s, {}), u"5"_s);
         QVERIFY(replied.isMissing(u"5"_s, 1));
+    }
+
+    void historyPagesOneAtATimeAndAroundTheLastAskedMessage()
+    {
+        HistoryProgress history;
+        const QString chat = u"5"_s;
+        QVERIFY(history.beginFirstLoad(chat));
+        QVERIFY(!history.beginFirstLoad(chat));
+        history.firstLoadMessages(chat).insert(9);
+        QCOMPARE(history.firstLoadCount(chat), 1);
+        history.endFirstLoad(chat);
+        QVERIFY(!history.isFirstLoading(chat) && history.firstLoadCount(chat) == 0);
+
+        QVERIFY(history.beginOlderPage(chat));
+        QVERIFY(!history.beginOlderPage(chat));
+        QVERIFY(history.isExpanded(chat));
+        history.endOlderPage(chat, true);
+        QVERIFY(history.isExhausted(chat));
+        QVERIFY(!history.beginOlderPage(chat));
+
+        // Only the message last asked for counts, once.
+        history.askAround(chat, 1);
+        history.askAround(chat, 2);
+        QVERIFY(!history.takeAroundAnswer(chat, 1));
+        QVERIFY(history.takeAroundAnswer(chat, 2));
+        QVERIFY(!history.takeAroundAnswer(chat, 2));
+        history.showAround(chat);
+        QVERIFY(history.showsAround(chat) && !history.isExhausted(chat));
+        QVERIFY(history.leaveAround(chat));
+        QVERIFY(!history.leaveAround(chat));
+        QVERIFY(!history.isExpanded(chat) && history.beginOlderPage(chat));
+
+        history.askAround(chat, 3);
+        history.reset();
+        QVERIFY(!history.takeAroundAnswer(chat, 3));
+        QVERIFY(!history.isLoadingOlder(chat));
     }
 
     void downloadsFollowWhatWaitsForEachFile()
