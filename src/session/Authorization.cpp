@@ -121,9 +121,7 @@ void TelegramSession::resetAccountState()
     // The user cache is kept on purpose: it describes Telegram, not the account
     // that left.
     m_chatList->reset();
-    const QStringList chatsWithMessages = m_messagesByChat.keys();
-    m_messagesByChat.clear();
-    m_messageDetailsByChat.clear();
+    const QStringList chatsWithMessages = m_messages.reset();
     for (const QString &chatID : chatsWithMessages)
         Q_EMIT messagesChanged(chatID);
     m_authorization->reset();
@@ -133,7 +131,6 @@ void TelegramSession::resetAccountState()
     m_chatSearch->reset();
     m_history.reset();
 
-    m_rawMessagesByChat.clear();
     m_imageDiagnosticEvents.clear();
     m_replied->reset();
     // The next client reports its own link; until it does, nothing is claimed.

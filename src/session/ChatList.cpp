@@ -129,7 +129,7 @@ void TelegramSession::retranslate()
     });
     if (changed)
         m_chatList->republish();
-    for (const QString &chatID : m_rawMessagesByChat.keys())
+    for (const QString &chatID : m_messages.chatsWithStored())
         publishMessages(chatID);
 }
 

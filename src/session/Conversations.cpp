@@ -92,10 +92,8 @@ void TelegramSession::openConversationChat(const TdObject &chat)
 void TelegramSession::forgetChat(const QString &chatID)
 {
     m_chatList->forget(chatID);
-    m_rawMessagesByChat.remove(chatID);
     m_history.forget(chatID);
-    m_messageDetailsByChat.remove(chatID);
-    if (m_messagesByChat.remove(chatID) > 0)
+    if (m_messages.forget(chatID))
         Q_EMIT messagesChanged(chatID);
     m_chatList->sort();
 }

@@ -21,8 +21,9 @@ void TelegramSession::loadHistoryAround(const QString &chatID, const QString &me
     const std::optional<qint64> message = parseInt64(messageID);
     if (!chat || !message)
         return;
-    const QList<StoredMessage> &held = m_rawMessagesByChat.value(chatID);
-    if (std::any_of(held.cbegin(), held.cend(), [&](const StoredMessage &stored) { return stored.id() == message; }))
+    if (const QList<StoredMessage> *held = m_messages.stored(chatID);
+        held &&
+        std::any_of(held->cbegin(), held->cend(), [&](const StoredMessage &stored) { return stored.id() == message; }))
         return;
     m_history.askAround(chatID, *message);
     send(u"getChatHistory"_s,
@@ -56,7 +57,7 @@ void TelegramSession::storeHistoryAround(const QString &type, const TdObject &an
     }
     if (window.isEmpty())
         return;
-    m_rawMessagesByChat.insert(chatID, window);
+    m_messages.storedOrAdded(chatID) = window;
     m_history.showAround(chatID);
     Q_EMIT historyStateChanged(chatID);
     publishMessages(chatID);
@@ -67,7 +68,7 @@ void TelegramSession::returnToNewest(const QString &chatID)
     if (!m_history.leaveAround(chatID))
         return;
     // Between the window and the newest messages lies a gap: the chat loads afresh.
-    m_rawMessagesByChat[chatID].clear();
+    m_messages.storedOrAdded(chatID).clear();
     Q_EMIT historyStateChanged(chatID);
     loadMessages(chatID);
 }

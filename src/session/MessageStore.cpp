@@ -30,8 +30,8 @@ QString chatKey(const TdObject &message)
 
 void TelegramSession::publishMessages(const QString &chatID)
 {
-    const auto stored = m_rawMessagesByChat.find(chatID);
-    if (stored == m_rawMessagesByChat.end())
+    QList<StoredMessage> *stored = m_messages.stored(chatID);
+    if (!stored)
         return;
     QList<StoredMessage> &storedMessages = *stored;
     std::stable_sort(storedMessages.begin(), storedMessages.end(), StoredMessage::sortsBefore);
@@ -76,8 +76,7 @@ void TelegramSession::publishMessages(const QString &chatID)
     }
     if (const std::optional<qint64> chat = parseInt64(chatID))
         m_replied->requestMissing(*chat, messages, byID);
-    m_messagesByChat.insert(chatID, published);
-    m_messageDetailsByChat.insert(chatID, details);
+    m_messages.publish(chatID, std::move(published), std::move(details));
     Q_EMIT messagesChanged(chatID);
 }
 
@@ -111,7 +110,7 @@ std::optional<Message> TelegramSession::makeMessage(const TdObject &raw)
             message.deliveryState = MessageDeliveryState::Sending;
         else
             message.deliveryState =
-                m_lastReadOutbox.value(chatID, 0) < *id ? MessageDeliveryState::Sent : MessageDeliveryState::Read;
+                m_messages.lastReadOutbox(chatID) < *id ? MessageDeliveryState::Sent : MessageDeliveryState::Read;
         message.isUnread = false;
     } else {
         message.deliveryState = MessageDeliveryState::None;
@@ -173,11 +172,11 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
                 merged.append(message);
             }
         };
-        for (const StoredMessage &stored : std::as_const(m_rawMessagesByChat[chatID]))
+        for (const StoredMessage &stored : std::as_const(m_messages.storedOrAdded(chatID)))
             place(stored);
         for (const TdObject &received : std::as_const(byChat[chatID]))
             place(StoredMessage(received));
-        m_rawMessagesByChat.insert(chatID, merged);
+        m_messages.storedOrAdded(chatID) = merged;
         publishMessages(chatID);
     }
 
@@ -208,7 +207,7 @@ void TelegramSession::storeMessages(const QJsonArray &messages, const TdObject &
     } else {
         m_history.endFirstLoad(chatID);
         // A chat with no history still gets its (empty) list, so the view stops waiting.
-        m_rawMessagesByChat[chatID];
+        m_messages.storedOrAdded(chatID);
         publishMessages(chatID);
     }
 }
@@ -268,10 +267,8 @@ void TelegramSession::markMessagesRead(const QList<Message> &messages, const QSt
     }
     if (!newest)
         return;
-    const auto viewed = m_lastViewedMessage.constFind(chatID);
-    if (viewed != m_lastViewedMessage.cend() ? *viewed >= *newest : *newest <= 0)
+    if (!m_messages.markViewed(chatID, *newest))
         return;
-    m_lastViewedMessage.insert(chatID, *newest);
     ChatListStore::Record &record = m_chatList->record(*chat);
     record.lastReadInbox = std::max(*newest, record.lastReadInbox);
     updateChat(chatID, [](Chat &c) { c.unreadCount = 0; });
@@ -290,7 +287,7 @@ void TelegramSession::storeNewMessage(const TdObject &message)
     const QString chatID = QString::number(*chat);
     if (m_chatList->isRemoved(chatID))
         return;
-    QList<StoredMessage> &stored = m_rawMessagesByChat[chatID];
+    QList<StoredMessage> &stored = m_messages.storedOrAdded(chatID);
     StoredMessage storing(message);
     const std::optional<qint64> id = storing.id();
     const auto same =
@@ -308,8 +305,7 @@ void TelegramSession::removeMessage(qint64 messageID, std::optional<qint64> chat
     if (!chat)
         return;
     const QString chatID = QString::number(*chat);
-    const auto stored = m_rawMessagesByChat.find(chatID);
-    if (stored != m_rawMessagesByChat.end())
+    if (QList<StoredMessage> *stored = m_messages.stored(chatID))
         stored->removeIf([messageID](const StoredMessage &m) { return m.id() == messageID; });
     publishMessages(chatID);
 }
@@ -321,8 +317,8 @@ void TelegramSession::updateMessageField(const TdObject &update, const QString &
     if (!chat || !messageID)
         return;
     const QString chatID = QString::number(*chat);
-    const auto stored = m_rawMessagesByChat.find(chatID);
-    if (stored == m_rawMessagesByChat.end())
+    QList<StoredMessage> *stored = m_messages.stored(chatID);
+    if (!stored)
         return;
     for (StoredMessage &message : *stored) {
         if (message.id() == messageID) {
@@ -367,6 +363,6 @@ void TelegramSession::handleReadOutbox(const TdObject &update)
         return;
     const QString chatID = QString::number(*chat);
     if (const auto lastRead = int64From(update.value("last_read_outbox_message_id"_L1)))
-        m_lastReadOutbox.insert(chatID, *lastRead);
+        m_messages.setLastReadOutbox(chatID, *lastRead);
     publishMessages(chatID);
 }

@@ -2,6 +2,7 @@
 
 #include "bundle/AppBundle.h"
 #include "session/ChatListStore.h"
+#include "session/ChatMessages.h"
 #include "session/CodeInfo.h"
 #include "session/HistoryProgress.h"
 #include "session/LocalToday.h"
@@ -97,9 +98,9 @@ public:
     // The displayed chat list, in display order.
     const QList<Chat> &chats() const;
     // What each chat shows, oldest first.
-    const QHash<QString, QList<Message>> &messagesByChat() const { return m_messagesByChat; }
+    const QHash<QString, QList<Message>> &messagesByChat() const { return m_messages.published(); }
     // What the message widgets show beyond each message, in the same order.
-    const QHash<QString, QList<MessageDetails>> &messageDetailsByChat() const { return m_messageDetailsByChat; }
+    const QHash<QString, QList<MessageDetails>> &messageDetailsByChat() const { return m_messages.publishedDetails(); }
     // The per-chat record of history requests and image messages, for diagnosing
     // pictures that do not show.
     QStringList imageDiagnostics(const QString &chatID) const { return m_imageDiagnosticEvents.value(chatID); }
@@ -308,12 +309,7 @@ private:
 
     ChatListStore *m_chatList;
 
-    // Messages
-    QHash<QString, QList<Message>> m_messagesByChat;
-    QHash<QString, QList<MessageDetails>> m_messageDetailsByChat;
-    QHash<QString, QList<StoredMessage>> m_rawMessagesByChat;
-    QHash<QString, qint64> m_lastReadOutbox;
-    QHash<QString, qint64> m_lastViewedMessage;
+    ChatMessages m_messages;
     HistoryProgress m_history;
 
     UserStore *m_users;

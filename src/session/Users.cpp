@@ -17,8 +17,8 @@ void TelegramSession::storeUser(const TdObject &object)
 
 void TelegramSession::republishChatsWithMessages()
 {
-    for (auto it = m_rawMessagesByChat.keyBegin(); it != m_rawMessagesByChat.keyEnd(); ++it)
-        publishMessages(*it);
+    for (const QString &chatID : m_messages.chatsWithStored())
+        publishMessages(chatID);
 }
 
 void TelegramSession::refreshPresence(qint64 userID)

@@ -5,6 +5,7 @@
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
 #include "session/ChatListStore.h"
+#include "session/ChatMessages.h"
 #include "session/ContactStore.h"
 #include "session/DownloadStore.h"
 #include "session/HistoryProgress.h"
@@ -285,6 +286,28 @@ private Q_SLOTS:
         history.reset();
         QVERIFY(!history.takeAroundAnswer(chat, 3));
         QVERIFY(!history.isLoadingOlder(chat));
+    }
+
+    void chatMessagesResetKeepsOnlyTheMarks()
+    {
+        ChatMessages messages;
+        QVERIFY(!messages.stored(u"5"_s));
+        messages.storedOrAdded(u"5"_s).append(StoredMessage(TdObject{{"id"_L1, 1}}));
+        messages.storedOrAdded(u"6"_s);
+        QCOMPARE(messages.chatsWithStored().size(), 2);
+        messages.publish(u"5"_s, {Message{}}, {MessageDetails{}});
+        messages.setLastReadOutbox(u"5"_s, 3);
+        QVERIFY(messages.markViewed(u"5"_s, 4));
+        QVERIFY(!messages.markViewed(u"5"_s, 4));
+        QVERIFY(!messages.markViewed(u"7"_s, 0));
+
+        QVERIFY(!messages.forget(u"6"_s));
+        QCOMPARE(messages.reset(), QStringList{u"5"_s});
+        QVERIFY(messages.published().isEmpty() && messages.publishedDetails().isEmpty());
+        QVERIFY(messages.chatsWithStored().isEmpty());
+        // How far each side read describes Telegram, not the account.
+        QCOMPARE(messages.lastReadOutbox(u"5"_s), 3);
+        QVERIFY(!messages.markViewed(u"5"_s, 4));
     }
 
     void downloadsFollowWhatWaitsForEachFile()
