@@ -180,6 +180,8 @@ private Q_SLOTS:
         QVERIFY(shortcut.setShortcut(QKeySequence(u"Ctrl+Alt+K"_s)));
         QVERIFY(settled.wait(10000));
         QCOMPARE(settled.last().first().toBool(), false);
+        // Asked for the same again (a recording that ends unchanged), it is still not held.
+        QVERIFY(!shortcut.setShortcut(QKeySequence(u"Ctrl+Alt+K"_s)));
 
         // None chosen: nothing asked, nothing held.
         settled.clear();

@@ -131,12 +131,14 @@ QString PortalGlobalShortcut::trigger(const QKeySequence &sequence)
 bool PortalGlobalShortcut::setShortcut(const QKeySequence &sequence)
 {
     const QString wanted = trigger(sequence);
+    // The same combination again: the desktop's answer stands (or is on its way).
     if (wanted == m_trigger && (!m_session.isEmpty() || m_request))
-        return m_available;
+        return m_available && !m_refused;
     // The desktop binds a shortcut once per session: a new combination takes a new one.
     delete m_request;
     closeSession();
     m_trigger = wanted;
+    m_refused = false;
     if (!m_available || m_trigger.isEmpty())
         return m_available && m_trigger.isEmpty();
     createSession();
@@ -150,14 +152,14 @@ void PortalGlobalShortcut::createSession()
                                                        u"CreateSession"_s);
     call << QVariantMap{{u"handle_token"_s, token}, {u"session_handle_token"_s, token}};
     m_request = PortalRequest::send(m_connection, call, token, this);
-    connect(m_request, &PortalRequest::failed, this, [this] { Q_EMIT settled(false); });
+    connect(m_request, &PortalRequest::failed, this, [this] { settle(false); });
     connect(m_request, &PortalRequest::answered, this, [this](uint response, const QVariantMap &results) {
         // Older portals hand the session's path as a string, newer ones as a path.
         const QVariant handle = results.value(u"session_handle"_s);
         m_session = handle.canConvert<QDBusObjectPath>() ? handle.value<QDBusObjectPath>().path() : handle.toString();
         if (response != 0 || m_session.isEmpty()) {
             m_session.clear();
-            Q_EMIT settled(false);
+            settle(false);
             return;
         }
         bind();
@@ -177,15 +179,21 @@ void PortalGlobalShortcut::bind()
     call << QVariant::fromValue(QDBusObjectPath(m_session)) << QVariant::fromValue(shortcuts) << QString()
          << QVariantMap{{u"handle_token"_s, token}};
     m_request = PortalRequest::send(m_connection, call, token, this);
-    connect(m_request, &PortalRequest::failed, this, [this] { Q_EMIT settled(false); });
+    connect(m_request, &PortalRequest::failed, this, [this] { settle(false); });
     connect(m_request, &PortalRequest::answered, this, [this](uint response, const QVariantMap &results) {
         QList<PortalShortcut> bound;
         if (results.value(u"shortcuts"_s).canConvert<QDBusArgument>())
             results.value(u"shortcuts"_s).value<QDBusArgument>() >> bound;
         const bool held = response == 0 && std::any_of(bound.cbegin(), bound.cend(),
                                                        [](const PortalShortcut &s) { return s.id == shortcutID; });
-        Q_EMIT settled(held);
+        settle(held);
     });
+}
+
+void PortalGlobalShortcut::settle(bool held)
+{
+    m_refused = !held;
+    Q_EMIT settled(held);
 }
 
 void PortalGlobalShortcut::closeSession()

@@ -27,7 +27,7 @@ public:
     bool isAvailable() const override { return m_available; }
     bool setShortcut(const QKeySequence &sequence) override;
 
-    // The trigger as the shortcuts specification writes it ("CTRL+ALT+v"); "" for none.
+    // The trigger in the XDG shortcuts format ("CTRL+ALT+v"); "" for none.
     static QString trigger(const QKeySequence &sequence);
 
 private Q_SLOTS:
@@ -38,11 +38,14 @@ private:
     void createSession();
     void bind();
     void closeSession();
+    void settle(bool held);
 
     QDBusConnection m_connection;
     bool m_available = false;
     QString m_trigger;
     QString m_session;
+    // The desktop did not bind the combination asked for last.
+    bool m_refused = false;
     // The request on its way (creating the session, or binding); its answer is
     // forgotten when the shortcut changes meanwhile.
     QPointer<PortalRequest> m_request;
