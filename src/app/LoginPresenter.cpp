@@ -134,19 +134,19 @@ QString LoginPresenter::mainVersionLine()
     return u"Vost "_s + LoginTexts::appVersion(AppBundle::main().infoDictionary());
 }
 
-QObject *LoginPresenter::session() const
+SessionAccess *LoginPresenter::session() const
 {
-    return m_session.data();
+    return m_access.data();
 }
 
-void LoginPresenter::setSession(QObject *session)
+void LoginPresenter::setSession(SessionAccess *session)
 {
-    auto *telegramSession = qobject_cast<TelegramSession *>(session);
-    if (telegramSession == m_session)
+    if (session == m_access)
         return;
     if (m_session)
         disconnect(m_session, nullptr, this, nullptr);
-    m_session = telegramSession;
+    m_access = session;
+    m_session = session ? &session->session() : nullptr;
     if (m_session) {
         connect(m_session, &TelegramSession::stepChanged, this, &LoginPresenter::restartStep);
         // A code for a new number (or the same one again) ends the number's change.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "SessionAccess.h"
 #include "session/Step.h"
 
 #include <QObject>
@@ -32,7 +33,7 @@ class LoginPresenter : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QObject *session READ session WRITE setSession NOTIFY sessionChanged)
+    Q_PROPERTY(SessionAccess *session READ session WRITE setSession NOTIFY sessionChanged)
     Q_PROPERTY(QString icon READ icon NOTIFY stepChanged)
     Q_PROPERTY(QString title READ title NOTIFY stepChanged)
     Q_PROPERTY(QString instructions READ instructions NOTIFY stepChanged)
@@ -61,8 +62,8 @@ class LoginPresenter : public QObject
 public:
     explicit LoginPresenter(QObject *parent = nullptr);
 
-    QObject *session() const;
-    void setSession(QObject *session);
+    SessionAccess *session() const;
+    void setSession(SessionAccess *session);
 
     Step step() const;
     QString icon() const { return LoginTexts::icon(shownStep()); }
@@ -110,6 +111,7 @@ private:
     QString *currentText();
     void restartStep();
 
+    QPointer<SessionAccess> m_access;
     QPointer<TelegramSession> m_session;
     // The user submitted this step's text: the session's errors now answer it.
     bool m_submitted = false;

@@ -25,6 +25,7 @@ AppRootView::AppRootView(CredentialStore &credentialStore, std::unique_ptr<Teleg
     , m_credentialStore(credentialStore)
     , m_ownedSession(std::move(ownedSession))
     , m_session(session ? *session : *m_ownedSession)
+    , m_access(new SessionAccess(m_session, this))
     , m_viewModel(new ChatViewModel(std::make_unique<EmptyTelegramService>(), this))
     , m_chatList(new ChatListModel(m_viewModel, this))
     , m_allChats(new ChatListModel(m_viewModel, ChatListModel::Rows::All, this))
@@ -50,6 +51,7 @@ AppRootView::~AppRootView()
     delete m_allChats;
     delete m_chatList;
     delete m_viewModel;
+    delete m_access;
 }
 
 void AppRootView::connectSession()

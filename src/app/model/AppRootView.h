@@ -4,6 +4,7 @@
 #include "ChatViewModel.h"
 #include "ChoiceListModels.h"
 #include "MessageListModel.h"
+#include "SessionAccess.h"
 #include "TypedTexts.h"
 
 #include "session/CredentialStore.h"
@@ -39,7 +40,8 @@ class AppRootView : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("The application creates the one root view.")
     Q_PROPERTY(ChatViewModel *viewModel READ viewModel CONSTANT)
-    Q_PROPERTY(TelegramSession *session READ session CONSTANT)
+    // The views' one way to the session.
+    Q_PROPERTY(SessionAccess *access READ access CONSTANT)
     Q_PROPERTY(ChatListModel *chatList READ chatList CONSTANT)
     // Every chat, whatever the sidebar's search: for choosers such as "Forward to".
     Q_PROPERTY(ChatListModel *allChats READ allChats CONSTANT)
@@ -62,6 +64,7 @@ public:
 
     CredentialStore &credentialStore() const { return m_credentialStore; }
     TelegramSession *session() const { return &m_session; }
+    SessionAccess *access() const { return m_access; }
     ChatViewModel *viewModel() const { return m_viewModel; }
     ChatListModel *chatList() const { return m_chatList; }
     ChatListModel *allChats() const { return m_allChats; }
@@ -114,6 +117,7 @@ private:
     CredentialStore &m_credentialStore;
     std::unique_ptr<TelegramSession> m_ownedSession;
     TelegramSession &m_session;
+    SessionAccess *m_access;
     ChatViewModel *m_viewModel;
     ChatListModel *m_chatList;
     ChatListModel *m_allChats;

@@ -51,10 +51,10 @@ FocusScope {
             focus: true
             viewModel: layout.viewModel
             chatList: layout.host.chatList
-            session: layout.host.session
+            session: layout.host.access
             onChatChosen: if (conversationPane.item) conversationPane.item.forceActiveFocus()
             onChatMenuRequested: (chatID, title) => {
-                chatMenu.instance().openFor(chatID, title, layout.host.session.isPrivateChat(chatID));
+                chatMenu.instance().openFor(chatID, title, layout.host.access.isPrivateChat(chatID));
             }
         }
 
@@ -104,7 +104,7 @@ FocusScope {
             margins: 8
             topMargin: 58
         }
-        text: layout.host.session.errorMessage
+        text: layout.host.access.errorMessage
         visible: text !== "" && text !== layout.dismissedError
         onDismissed: layout.dismissedError = text
     }
@@ -149,7 +149,7 @@ FocusScope {
             parent: layout
             //: A verb: the button that confirms deleting the chat.
             actionText: qsTr("Delete")
-            onConfirmed: layout.host.session.deleteChat(chatID, includingContact)
+            onConfirmed: layout.host.access.deleteChat(chatID, includingContact)
         }
     }
 

@@ -12,7 +12,7 @@ FocusScope {
 
     required property ChatViewModel viewModel
     required property ChatListModel chatList
-    required property var session
+    required property SessionAccess session
 
     // Enter on a chat: the user wants to write in it.
     signal chatChosen

@@ -298,7 +298,7 @@ FocusScope {
             x: composer.mirrored ? 12 : composer.width - width - 12
             y: -height - 6
             viewModel: composer.viewModel
-            session: composer.host.session
+            session: composer.host.access
             stickers: composer.host.recentStickerList
             onChosen: row => {
                 // What waits in the strip stays there: the sticker goes on its own.

@@ -114,12 +114,12 @@ FocusScope {
             right: parent.right
             top: header.bottom
         }
-        search: conversation.host.session.chatSearch
+        search: conversation.host.access.chatSearch
         chatID: conversation.viewModel.selectedChatID
         messageList: conversation.messageList
         onResultShown: messageID => transcript.revealMessage(messageID)
         onClosed: chatID => {
-            conversation.host.session.returnToNewest(chatID);
+            conversation.host.access.returnToNewest(chatID);
             transcript.showNewest();
         }
     }

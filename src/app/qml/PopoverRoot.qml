@@ -21,7 +21,7 @@ Rectangle {
     Accessible.role: Accessible.Pane
     Accessible.name: "Vost"
 
-    readonly property bool showsChats: root.host.hasCredentials && root.host.session.isReady
+    readonly property bool showsChats: root.host.hasCredentials && root.host.access.isReady
     // Whether the popover has been shown: from then on the sign-in screen stays.
     // (The loader's own item or component cannot tell: the loader announces both
     // while it makes its item, inside the change to what it should hold.)
@@ -55,7 +55,7 @@ Rectangle {
         id: login
 
         TelegramLoginView {
-            session: root.host.session
+            session: root.host.access
             focus: true
         }
     }

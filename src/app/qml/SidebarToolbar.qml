@@ -45,7 +45,7 @@ Item {
             rightMargin: 8
             verticalCenter: parent.verticalCenter
         }
-        text: toolbar.host.session.currentAccountName
+        text: toolbar.host.access.currentAccountName
         elide: Text.ElideRight
         font.pixelSize: 13
         wrapMode: Text.NoWrap

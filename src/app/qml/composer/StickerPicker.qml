@@ -13,7 +13,7 @@ PickerPanel {
     id: picker
 
     required property ChatViewModel viewModel
-    required property var session
+    required property SessionAccess session
     required property StickerListModel stickers
 
     property string source: "recent"

@@ -11,7 +11,7 @@ FocusScope {
     id: view
 
     required property AppRootView host
-    readonly property var session: host.session
+    readonly property SessionAccess session: host.access
 
     signal closed
 

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Vost.App
+import Vost.Model
 
 // The two ways to someone not in the contacts: "Add contact" by phone number, and
 // "Open username". While the session works on one, a spinner shows and neither
@@ -9,7 +10,7 @@ import Vost.App
 ColumnLayout {
     id: forms
 
-    required property var session
+    required property SessionAccess session
 
     spacing: 8
 

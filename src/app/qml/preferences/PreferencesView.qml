@@ -217,12 +217,12 @@ FocusScope {
                     Layout.fillWidth: true
 
                     ReadableText {
-                        text: page.host.session.currentAccountName
+                        text: page.host.access.currentAccountName
                         font.pixelSize: 14
                         font.weight: Font.DemiBold
                     }
                     ReadableText {
-                        text: PhoneNumbers.international(page.host.session.currentAccountPhoneNumber)
+                        text: PhoneNumbers.international(page.host.access.currentAccountPhoneNumber)
                         color: Appearance.secondaryText
                         font.pixelSize: 12
                     }
@@ -259,7 +259,7 @@ FocusScope {
         actionText: qsTr("Change account")
         onConfirmed: {
             page.closed();
-            page.host.session.logOutAndChangeAccount();
+            page.host.access.logOutAndChangeAccount();
         }
     }
 }
