@@ -51,8 +51,6 @@ class AppRootViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void init()
     {
         QFile::remove(TypedTexts::defaultPath());

@@ -70,8 +70,6 @@ class ChatViewModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void startsEmpty()
     {
         ChatViewModel model(std::make_unique<EmptyTelegramService>());

@@ -80,8 +80,6 @@ class ComposerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void picturesGoAsPhotosOtherFilesAsDocuments()
     {
         QTemporaryDir folder;

@@ -63,8 +63,6 @@ class ListModelsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void chatListChangesByRows()
     {
         ChatViewModel viewModel(nullptr);

@@ -76,11 +76,7 @@ class TestPopoverWindow : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    }
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
 
     void texturesOfViewsLetGoWhileHiddenAreDeleted()
     {

@@ -38,11 +38,7 @@ class VideoPlayerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        VostRender::addImportPath(m_engine);
-    }
+    void initTestCase() { VostRender::addImportPath(m_engine); }
 
     void noPlayerForWhatAReusedBubbleShowedBefore()
     {

@@ -1,6 +1,7 @@
 // The whole client against the demo account, end to end: the real loader, the real
 // receive loop and the session's stores, with the demo library in deterministic
 // mode. The functions run in order on one signed-in session.
+#include "../support/TemporaryHome.h"
 #include "bundle/AppBundle.h"
 #include "session/TelegramSession.h"
 
@@ -53,9 +54,7 @@ class DemoEndToEndTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(m_home.isValid());
-        qputenv("HOME", QFile::encodeName(m_home.path()));
-        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(m_home.enter());
 
         m_session = std::make_unique<TelegramSession>();
         m_session->setBundle(AppBundle(QStringLiteral(VOST_DEMO_BUNDLE)));
@@ -255,7 +254,7 @@ private:
                      qPrintable(ids(messages).join(u' ')));
     }
 
-    QTemporaryDir m_home;
+    TemporaryHome m_home;
     std::unique_ptr<TelegramSession> m_session;
     QHash<QString, qint64> m_orders; // each chat's order in the list it is in
     QSet<QString> m_exhaustedLists;

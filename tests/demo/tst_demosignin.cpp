@@ -1,4 +1,5 @@
 // Signing in to the demo account through the real loader, receive loop and session.
+#include "../support/TemporaryHome.h"
 #include "bundle/AppBundle.h"
 #include "session/TelegramSession.h"
 
@@ -23,12 +24,7 @@ class DemoSignInTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(m_home.isValid());
-        qputenv("HOME", QFile::encodeName(m_home.path()));
-        QStandardPaths::setTestModeEnabled(true);
-    }
+    void initTestCase() { QVERIFY(m_home.enter()); }
 
     void signsInWithCodeAndLogsOut()
     {
@@ -94,7 +90,7 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_home;
+    TemporaryHome m_home;
 };
 
 QTEST_GUILESS_MAIN(DemoSignInTest)

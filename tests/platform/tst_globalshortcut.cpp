@@ -21,8 +21,6 @@ class GlobalShortcutTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void keyPressesBecomeShortcuts_data()
     {
         QTest::addColumn<int>("key");

@@ -67,7 +67,6 @@ class NotificationPosterTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY2(QDBusConnection::sessionBus().isConnected(), "needs a session bus: run under dbus-run-session");
         const NotificationCenter &center = NotificationCenter::defaultCenter();
         connect(&center, &NotificationCenter::openTelegramChat, this,

@@ -108,7 +108,6 @@ class PortalShortcutTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY2(QDBusConnection::sessionBus().isConnected(), "needs a session bus: run under dbus-run-session");
         // Known by name before the backend's slots are exported.
         qRegisterMetaType<QDBusObjectPath>();

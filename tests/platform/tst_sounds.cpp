@@ -96,7 +96,6 @@ class SoundsTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         // No sound server to talk to: what a machine without an audio device looks like.
         qputenv("PULSE_SERVER", "unix:/nonexistent/vost-test-pulse");
     }

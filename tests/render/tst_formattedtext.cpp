@@ -33,8 +33,6 @@ class FormattedTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void stylesNestAndOverlap()
     {
         QCOMPARE(html(u"plain bold end"_s, {span(6, 4, Type::Bold)}), u"plain <b>bold</b> end"_s);

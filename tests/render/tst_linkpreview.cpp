@@ -59,7 +59,6 @@ class LinkPreviewTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY(m_server.isListening());
         m_server.answer("/img/a.png", {200, "image/png", png(3, 2)});
         m_server.answer("/dir/favicon.png", {200, "image/png", png(16, 16)});

@@ -22,8 +22,6 @@ class LinkPreviewCardTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void cardShowsThePage()
     {
         LoopbackHttpServer server;

@@ -35,7 +35,6 @@ class PageFetchTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY(m_server.isListening());
         m_server.answer("/page", {200, "text/html; charset=UTF-8", "<title>Page</title>"});
         m_server.answer("/gone", {404, "text/plain", "not here"});

@@ -15,8 +15,6 @@ class SmileyTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void tableHasEveryRow()
     {
         const auto &table = SmileyText::replacements();

@@ -29,7 +29,6 @@ class StickerPageTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY(m_folder.isValid());
         m_script = m_folder.filePath(u"player.js"_s);
         QVERIFY(write(m_script, "var lottie={};"));

@@ -169,7 +169,6 @@ class StickerViewTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY(m_folder.isValid());
         VostRender::addImportPath(m_engine);
         // Blue shows through wherever a frame is transparent.

@@ -60,7 +60,6 @@ class ChannelTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         // The same library the sessions load, so the test reads the same records.
         const QByteArray path = QStringLiteral(VOST_FAKE_BUNDLE "/lib/vost/libtdjson.so").toLocal8Bit();
         void *handle = dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);

@@ -84,8 +84,6 @@ class ChatOrderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void orderHoldsAcrossSmallAndLargeBatches_data()
     {
         QTest::addColumn<quint32>("seed");

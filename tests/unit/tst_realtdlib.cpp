@@ -3,6 +3,7 @@
 // quits cleanly, releasing the database for the next client; a corrupt database
 // folder leads there too.
 
+#include "../support/TemporaryHome.h"
 #include "session/TelegramSession.h"
 
 #include <QDir>
@@ -17,13 +18,7 @@ class RealTDLibTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        // A home of our own: the test-mode data folder lives under it.
-        QVERIFY(m_home.isValid());
-        qputenv("HOME", QFile::encodeName(m_home.path()));
-        QStandardPaths::setTestModeEnabled(true);
-    }
+    void initTestCase() { QVERIFY(m_home.enter()); }
 
     void reachesThePhoneNumberStepAndQuits()
     {
@@ -60,7 +55,7 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_home;
+    TemporaryHome m_home;
 };
 
 QTEST_GUILESS_MAIN(RealTDLibTest)

@@ -54,7 +54,6 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
         QVERIFY(m_dictionaries.isValid());
         const QString folder = m_dictionaries.path();
         writeDictionary(folder, u"en_US"_s, {u"hello"_s, u"world"_s, u"word"_s, u"don't"_s, u"the"_s});

@@ -100,8 +100,6 @@ class StoresTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void stickersResetForgetsTheLoadAndItsLateAnswers()
     {
         Sent sent;
