@@ -8,7 +8,7 @@
 //   bench-stickerplayers [N]          both players, N stickers (default 12)
 //   bench-stickerplayers native|web N one player, in this process
 
-#include "../tests/support/Gzip.h"
+#include "../demo/src/Gzip.h"
 #include "ProcessMemory.h"
 #include "StickerEngine.h"
 

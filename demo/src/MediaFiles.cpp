@@ -1,5 +1,7 @@
 #include "MediaFiles.h"
 
+#include "Gzip.h"
+
 #include <QBuffer>
 #include <QColor>
 #include <QImage>
@@ -369,22 +371,6 @@ QByteArray pdfDocument(const QString &title)
 QByteArray textDocument(const QString &title)
 {
     return (title + u"\n\n- buy milk\n- finish the slides\n- call Emma about Friday\n"_s).toUtf8();
-}
-
-QByteArray gzip(const QByteArray &data)
-{
-    z_stream stream{};
-    if (deflateInit2(&stream, 9, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY) != Z_OK)
-        return {};
-    QByteArray out(qsizetype(deflateBound(&stream, uLong(data.size())) + 32), Qt::Uninitialized);
-    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(data.constData()));
-    stream.avail_in = uInt(data.size());
-    stream.next_out = reinterpret_cast<Bytef *>(out.data());
-    stream.avail_out = uInt(out.size());
-    deflate(&stream, Z_FINISH);
-    out.resize(qsizetype(stream.total_out));
-    deflateEnd(&stream);
-    return out;
 }
 
 } // namespace demo::media

@@ -16,6 +16,5 @@ QByteArray gifAnimation(int seed, int width, int height);
 QByteArray wavSound(int seed, int seconds);
 QByteArray pdfDocument(const QString &title);
 QByteArray textDocument(const QString &title);
-QByteArray gzip(const QByteArray &data);
 
 } // namespace demo::media

@@ -2,7 +2,7 @@
 // every kind of broken or hostile file is refused with its reason, quickly and
 // within bounded memory.
 
-#include "../support/Gzip.h"
+#include "../../demo/src/Gzip.h"
 #include "render/LottieAnimation.h"
 #include "render/StickerPage.h"
 
@@ -52,8 +52,6 @@ class LottieAnimationTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
-
     void aStickerPlaysFrameByFrameAtTheSizeShown()
     {
         auto result = LottieAnimation::fromCompressed(gzip(lottie()));
