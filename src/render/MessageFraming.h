@@ -34,14 +34,12 @@ private:
 };
 
 // Hands out whole messages of one protocol: each body goes through Decode, and a
-// body it rejects stops the reader for good.
-template<typename Message, std::optional<Message> (*Decode)(const QByteArray &body)> class MessageReader
+// body it rejects, or one longer than MaximumBodySize, stops the reader for good:
+// what follows it cannot be trusted either.
+template<typename Message, std::optional<Message> (*Decode)(const QByteArray &body), qsizetype MaximumBodySize>
+class MessageReader
 {
 public:
-    explicit MessageReader(qsizetype maximumBodySize)
-        : m_frames(maximumBodySize)
-    {}
-
     void append(const QByteArray &bytes) { m_frames.append(bytes); }
     // The next whole message, or nothing until more bytes come (or after a failure).
     std::optional<Message> next()
@@ -57,7 +55,7 @@ public:
     bool failed() const { return m_frames.failed(); }
 
 private:
-    Reader m_frames;
+    Reader m_frames{MaximumBodySize};
 };
 
 } // namespace MessageFraming

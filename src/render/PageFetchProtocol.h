@@ -58,15 +58,7 @@ QByteArray encode(const Answer &answer);
 // with fields of the right types.
 std::optional<Message> decode(const QByteArray &body);
 
-// Collects bytes as they arrive and hands out whole messages. A malformed message
-// (too long, or one decode() rejects) stops the reader for good: what follows it
-// cannot be trusted either.
-class Reader : public MessageFraming::MessageReader<Message, &decode>
-{
-public:
-    Reader()
-        : MessageReader(maximumMessageSize)
-    {}
-};
+// Collects bytes as they arrive and hands out whole messages.
+using Reader = MessageFraming::MessageReader<Message, &decode, maximumMessageSize>;
 
 } // namespace PageFetchProtocol

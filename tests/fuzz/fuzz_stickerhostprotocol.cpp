@@ -2,23 +2,13 @@
 // its messages: a malformed one stops the reader, and nothing crashes or allocates
 // without bound.
 
+#include "PiecewiseReading.h"
 #include "render/StickerHostProtocol.h"
-
-#include <algorithm>
-#include <cstddef>
-#include <cstdint>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    if (size == 0)
-        return 0;
-    // The first byte picks the size of the pieces the bytes arrive in.
-    const size_t piece = size_t(data[0]) + 1;
-    StickerHostProtocol::Reader reader;
-    for (size_t at = 1; at < size && !reader.failed(); at += piece) {
-        reader.append(QByteArray(reinterpret_cast<const char *>(data + at), qsizetype(std::min(piece, size - at))));
-        while (const std::optional<StickerHostProtocol::Message> message = reader.next())
-            (void)StickerHostProtocol::encode(*message); // what was read can be sent on
-    }
+    // What was read can be sent on.
+    readInPieces<StickerHostProtocol::Reader>(
+        data, size, [](const StickerHostProtocol::Message &message) { (void)StickerHostProtocol::encode(message); });
     return 0;
 }
