@@ -5,34 +5,38 @@ using namespace Qt::StringLiterals;
 
 namespace demo {
 
+namespace {
+// The value under key, or null when the map has none.
+template<typename Map, typename Key> auto valueIn(Map &map, const Key &key) -> decltype(&map.find(key)->second)
+{
+    const auto it = map.find(key);
+    return it == map.end() ? nullptr : &it->second;
+}
+} // namespace
+
 DemoChat *Account::chat(qint64 chatID)
 {
-    const auto it = chats.find(chatID);
-    return it == chats.end() ? nullptr : &it->second;
+    return valueIn(chats, chatID);
 }
 
 const DemoChat *Account::chat(qint64 chatID) const
 {
-    const auto it = chats.find(chatID);
-    return it == chats.end() ? nullptr : &it->second;
+    return valueIn(chats, chatID);
 }
 
 DemoUser *Account::user(qint64 userID)
 {
-    const auto it = users.find(userID);
-    return it == users.end() ? nullptr : &it->second;
+    return valueIn(users, userID);
 }
 
 const DemoUser *Account::user(qint64 userID) const
 {
-    const auto it = users.find(userID);
-    return it == users.end() ? nullptr : &it->second;
+    return valueIn(users, userID);
 }
 
 DemoFile *Account::file(int fileID)
 {
-    const auto it = files.find(fileID);
-    return it == files.end() ? nullptr : &it->second;
+    return valueIn(files, fileID);
 }
 
 DemoMessage *Account::message(qint64 chatID, qint64 messageID)
@@ -40,14 +44,12 @@ DemoMessage *Account::message(qint64 chatID, qint64 messageID)
     DemoChat *owner = chat(chatID);
     if (!owner)
         return nullptr;
-    const auto it = owner->messages.find(messageID);
-    return it == owner->messages.end() ? nullptr : &it->second;
+    return valueIn(owner->messages, messageID);
 }
 
 const DemoSticker *Account::sticker(qint64 stickerID) const
 {
-    const auto it = stickers.find(stickerID);
-    return it == stickers.end() ? nullptr : &it->second;
+    return valueIn(stickers, stickerID);
 }
 
 const DemoSticker *Account::stickerByFile(int fileID) const
