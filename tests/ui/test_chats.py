@@ -1,13 +1,7 @@
 #!/usr/bin/python3
 """The chat list, sending and the errors the session reports after sign-in."""
 
-from vostui import VostTestCase, dishonest_nodes, main, wait_until
-
-
-def inside(inner, outer, slack=2):
-    x, y, w, h = inner
-    ox, oy, ow, oh = outer
-    return x >= ox - slack and y >= oy - slack and x + w <= ox + ow + slack and y + h <= oy + oh + slack
+from vostui import VostTestCase, dishonest_nodes, inside, main, wait_until
 
 
 class ChatList(VostTestCase):

@@ -13,9 +13,7 @@ PROGRESS = (WAITING, "Connecting…", "Updating…")
 class Connection(VostTestCase):
     def launch_with_network_switch(self):
         switch = os.path.join(self.desktop.env["HOME"], "network-off")
-        vost = self.launch(extra_env={"VOST_DEMO_NETWORK_SWITCH": switch})
-        vost.open_popover()
-        vost.wait_for_chats()
+        vost = self.open_signed_in(extra_env={"VOST_DEMO_NETWORK_SWITCH": switch})
         return vost, switch
 
     def progress_lines(self, vost, within):

@@ -37,12 +37,8 @@ KINDS = {
 
 class Messages(VostTestCase):
     def open_emma(self, **kwargs):
-        vost = self.launch(**kwargs)
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
+        vost = self.open_signed_in(**kwargs)
+        messages = vost.open_transcript("Emma Wilson", NEWEST)
         return vost, messages
 
     def scroll_to(self, vost, messages, pattern, wheels=60):
@@ -120,9 +116,8 @@ class Messages(VostTestCase):
         self.assertTrue(vost.running())
         return suggested
 
-    def test_the_viewer_stays_through_saving_a_gif_and_a_photo(self):
-        vost, messages = self.open_emma()
-        # The GIF is newer than the album: the wheel reaches it first.
+    def view_gif(self, vost, messages):
+        """Scrolls to Emma Wilson's GIF and opens it in the viewer; returns the viewer."""
         animation = self.scroll_to(vost, messages, KINDS["animation"])
         gif = vost.find("image", "GIF", within=animation, timeout=15)
 
@@ -131,7 +126,12 @@ class Messages(VostTestCase):
             gif.press()
             return vost.all("dialog", "Photo viewer")
         wait_until(open_gif, timeout=15, what="the GIF in the viewer")
-        viewer = vost.find("dialog", "Photo viewer")
+        return vost.find("dialog", "Photo viewer")
+
+    def test_the_viewer_stays_through_saving_a_gif_and_a_photo(self):
+        vost, messages = self.open_emma()
+        # The GIF is newer than the album: the wheel reaches it first.
+        viewer = self.view_gif(vost, messages)
         target = os.path.join(self.desktop.work, "saved-animation.gif")
         self.save_from(vost, viewer, target)
         self.save_from(vost, viewer)
@@ -189,9 +189,7 @@ class Dates(VostTestCase):
         vost.open_popover()
         vost.sign_in()
         vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
+        messages = vost.open_transcript("Emma Wilson", NEWEST)
         headings = set()
         for _ in range(150):
             headings.update(h.name for h in vost.all("heading", within=messages))

@@ -18,27 +18,31 @@ class NewChat(VostTestCase):
         vost.find("push button", "New chat").press()
         return vost.find("panel", "New chat")
 
-    def test_a_contact_found_by_name_opens_its_chat(self):
+    def search_contacts(self):
+        """The signed-in new-chat view; returns Vost, the view, its contact list and
+        a function that types into its search field."""
         vost = self.open_signed_in()
         view = self.open_new_chat(vost)
         contacts = vost.find("list", "Contacts", within=view)
+        return vost, view, contacts, lambda text: vost.fill(vost.find("text", "Search contacts", within=view), text)
+
+    def test_a_contact_found_by_name_opens_its_chat(self):
+        vost, view, contacts, search = self.search_contacts()
         vost.find("list item", "Emma Wilson", contains=True, within=contacts)
         self.assertEqual(dishonest_nodes(view), [])
-        vost.fill(vost.find("text", "Search contacts", within=view), "liam")
+        search("liam")
         vost.absent("list item", "Emma Wilson", contains=True, within=contacts)
         vost.press("list item", "Liam Chen", contains=True, within=contacts)
         vost.absent("panel", "New chat")
         vost.find("panel", "Conversation with Liam Chen")
 
     def test_telegram_finds_contacts_by_username_and_a_contact_can_be_removed(self):
-        vost = self.open_signed_in()
-        view = self.open_new_chat(vost)
-        contacts = vost.find("list", "Contacts", within=view)
-        vost.fill(vost.find("text", "Search contacts", within=view), "emma_w")
+        vost, view, contacts, search = self.search_contacts()
+        search("emma_w")
         vost.absent("list item", "Emma Wilson", contains=True, within=contacts)
         found = vost.find("list", "Found by Telegram", within=view, timeout=15)
         vost.find("list item", "Emma Wilson", contains=True, within=found)
-        vost.fill(vost.find("text", "Search contacts", within=view), "")
+        search("")
         liam = vost.find("list item", "Liam Chen", contains=True, within=contacts)
         vost.click(liam, button=3)
         menu = vost.find("popup menu", "Contact actions")
@@ -49,10 +53,8 @@ class NewChat(VostTestCase):
         vost.absent("list item", "Liam Chen", contains=True, within=contacts, timeout=15)
 
     def test_contacts_the_filter_lists_are_not_found_again(self):
-        vost = self.open_signed_in()
-        view = self.open_new_chat(vost)
-        contacts = vost.find("list", "Contacts", within=view)
-        vost.fill(vost.find("text", "Search contacts", within=view), "wilson")
+        vost, view, contacts, search = self.search_contacts()
+        search("wilson")
         vost.absent("list item", "Liam Chen", contains=True, within=contacts)
         listed = [row.name.split(",")[0] for row in vost.all("list item", within=contacts)]
         self.assertEqual(sorted(listed), ["Emma Wilson", "James Wilson"])
@@ -62,7 +64,7 @@ class NewChat(VostTestCase):
         # once: after a second and a half its answer is in.
         time.sleep(1.5)
         self.assertEqual(vost.all("list", "Found by Telegram", within=view), [])
-        vost.fill(vost.find("text", "Search contacts", within=view), "emma_w")
+        search("emma_w")
         vost.find("list item", "Emma Wilson", contains=True, within=vost.find("list", "Found by Telegram",
                                                                                  within=view, timeout=15))
 

@@ -5,24 +5,16 @@ choosing chats from the keyboard, and what the menu offers."""
 
 import time
 
-from vostui import VostTestCase, main, wait_until
+from vostui import VostTestCase, main, wait_until, within_view
 
 NEWEST = "You: Of course! See you at 7 🍕"
 QUESTION = "Emma Wilson: Are we still on for tonight?"
 
 
-def within_view(item, view):
-    x, y, w, h = item.extents()
-    vx, vy, vw, vh = view.extents()
-    return y >= vy - 2 and y + h <= vy + vh + 2
-
-
 class Scrolling(VostTestCase):
     def open_emma(self):
         vost = self.open_signed_in()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
+        messages = vost.open_transcript("Emma Wilson", NEWEST)
         vost.wait_for_rest()
         return vost, messages
 
@@ -79,9 +71,7 @@ class Scrolling(VostTestCase):
 
 class FirstPage(VostTestCase):
     def test_a_slow_first_page_shows_a_spinner_and_never_the_empty_text(self):
-        vost = self.launch(extra_env={"VOST_DEMO_PAGE_DELAY_MS": "2500"})
-        vost.open_popover()
-        vost.wait_for_chats()
+        vost = self.open_signed_in(extra_env={"VOST_DEMO_PAGE_DELAY_MS": "2500"})
         vost.fill(vost.find("text", "Search"), "Running")
         vost.open_chat("Running Club")
         spinner_seen = False

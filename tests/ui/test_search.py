@@ -6,24 +6,16 @@ newest message."""
 
 import time
 
-from vostui import VostTestCase, main, wait_until
+from vostui import VostTestCase, inside, main, wait_until
 
 NEWEST = "You: Of course! See you at 7 🍕"
 FIRST = "So nice to meet you at the lighthouse museum yesterday!"
 
 
-def inside(inner, outer, slack=2):
-    x, y, w, h = inner
-    ox, oy, ow, oh = outer
-    return x >= ox - slack and y >= oy - slack and x + w <= ox + ow + slack and y + h <= oy + oh + slack
-
-
 class Search(VostTestCase):
     def open_emma(self):
         vost = self.open_signed_in()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
+        messages = vost.open_transcript("Emma Wilson", NEWEST)
         time.sleep(0.5)
         return vost, messages
 

@@ -16,6 +16,12 @@ class SignIn(VostTestCase):
         vost.open_popover()
         return vost, vost.find("panel", "Sign in", timeout=20)
 
+    def submit_number(self, vost, number):
+        """Types the number, presses Return and waits for the code step; returns its field."""
+        vost.fill(vost.find("text", PHONE_FIELD), number)
+        vost.key("Return")
+        return vost.find("text", CODE_FIELD, timeout=15)
+
     def test_signing_in_from_scratch_with_the_continue_button(self):
         vost, _ = self.sign_in_screen()
         continue_button = vost.find("push button", "Continue")
@@ -44,9 +50,7 @@ class SignIn(VostTestCase):
         vost.key("Return")
         self.assertEqual(vost.find("alert", timeout=10).name, BAD_NUMBER)
         # The right number moves on to the code, where the old error is gone.
-        vost.fill(vost.find("text", PHONE_FIELD), DEMO_PHONE)
-        vost.key("Return")
-        vost.find("text", CODE_FIELD, timeout=15)
+        self.submit_number(vost, DEMO_PHONE)
         self.assertEqual(vost.all("alert"), [])
         vost.fill(vost.find("text", CODE_FIELD), "11111")
         vost.key("Return")
@@ -54,9 +58,7 @@ class SignIn(VostTestCase):
 
     def test_two_step_password_shows_its_hint(self):
         vost, _ = self.sign_in_screen()
-        vost.fill(vost.find("text", PHONE_FIELD), "+1 555 0101")
-        vost.key("Return")
-        vost.fill(vost.find("text", CODE_FIELD, timeout=15), DEMO_CODE)
+        vost.fill(self.submit_number(vost, "+1 555 0101"), DEMO_CODE)
         vost.key("Return")
         password = vost.find("password text", timeout=15)
         self.assertEqual(password.description, "Two-step verification password")
@@ -81,9 +83,7 @@ class SignIn(VostTestCase):
 
     def test_the_code_screen_names_the_number_and_a_different_one_can_be_used(self):
         vost, _ = self.sign_in_screen()
-        vost.fill(vost.find("text", PHONE_FIELD), "+1 555 0101")
-        vost.key("Return")
-        vost.find("text", CODE_FIELD, timeout=15)
+        self.submit_number(vost, "+1 555 0101")
         vost.find("paragraph", "We’ve sent the code for +1 555 0101 to the Telegram app on your other device.")
         vost.find("push button", "Use a different number").press()
         vost.find("heading", "Sign in to Telegram")

@@ -5,13 +5,7 @@ history, what a bubble shows, and the keyboard."""
 import re
 import time
 
-from vostui import VostTestCase, dishonest_nodes, main, wait_until
-
-
-def inside(inner, outer, slack=2):
-    x, y, w, h = inner
-    ox, oy, ow, oh = outer
-    return x >= ox - slack and y >= oy - slack and x + w <= ox + ow + slack and y + h <= oy + oh + slack
+from vostui import VostTestCase, dishonest_nodes, inside, main, wait_until
 
 
 def intersects(inner, outer):
@@ -25,12 +19,8 @@ NEWEST = "You: Of course! See you at 7 🍕"
 
 class Transcript(VostTestCase):
     def open_emma(self, **launch):
-        vost = self.launch(**launch)
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
+        vost = self.open_signed_in(**launch)
+        messages = vost.open_transcript("Emma Wilson", NEWEST)
         time.sleep(0.5)
         return vost, messages
 

@@ -5,17 +5,11 @@ message that arrives while the reader is further up waits under "↓ 1 new"."""
 
 import os
 
-from vostui import VostTestCase, main, wait_until
+from vostui import VostTestCase, main, wait_until, within_view
 
 DIVIDER = "Unread messages"
 NEWEST = "You: Of course! See you at 7 🍕"
 ARRIVING = "Did you see the sunset tonight?"
-
-
-def within_view(item, view):
-    x, y, w, h = item.extents()
-    vx, vy, vw, vh = view.extents()
-    return y >= vy - 2 and y + h <= vy + vh + 2
 
 
 def top_within_view(item, view):
@@ -73,21 +67,22 @@ class OpeningAtTheLine(VostTestCase):
 
 
 class ArrivingWhileAway(VostTestCase):
-    def test_a_message_arriving_above_the_newest_waits_under_a_button_that_shows_it(self):
+    def read_further_up(self):
+        """Emma Wilson's chat, scrolled up from the newest message; then a message
+        arrives from her."""
         drop = os.path.join(self.desktop.env["HOME"], "incoming")
-        vost = self.launch(extra_env={"VOST_DEMO_INCOMING": drop})
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
+        vost = self.open_signed_in(extra_env={"VOST_DEMO_INCOMING": drop})
+        messages = vost.open_transcript("Emma Wilson", NEWEST)
         vost.wheel(messages, 15)
         vost.wait_for_rest()
         vost.find("push button", "Go to newest message")
         with open(drop + ".part", "w", encoding="utf-8") as request:
             request.write(f"Emma Wilson\n{ARRIVING}\n")
         os.rename(drop + ".part", drop)
+        return vost, messages
 
+    def test_a_message_arriving_above_the_newest_waits_under_a_button_that_shows_it(self):
+        vost, messages = self.read_further_up()
         button = vost.find("push button", "1 new")
         self.assertGreater(button.extents()[2], 36, "the button does not say how many are new")
         # The reader stays where they were.
@@ -100,18 +95,7 @@ class ArrivingWhileAway(VostTestCase):
         vost.absent("push button", "1 new")
 
     def test_scrolling_down_to_it_takes_the_count_away(self):
-        drop = os.path.join(self.desktop.env["HOME"], "incoming")
-        vost = self.launch(extra_env={"VOST_DEMO_INCOMING": drop})
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", NEWEST, contains=True, within=messages)
-        vost.wheel(messages, 15)
-        vost.wait_for_rest()
-        with open(drop + ".part", "w", encoding="utf-8") as request:
-            request.write(f"Emma Wilson\n{ARRIVING}\n")
-        os.rename(drop + ".part", drop)
+        vost, messages = self.read_further_up()
         vost.find("push button", "1 new")
         for _ in range(40):
             if not vost.all("push button", "1 new"):

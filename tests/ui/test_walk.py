@@ -48,22 +48,13 @@ class Walk(VostTestCase):
         vost.absent("dialog", "Sticker picker")
 
     def media_of_emma(self, vost, cases):
-        vost.open_chat("Emma Wilson")
-        messages = vost.find("list", "Messages")
-        vost.find("list item", test_messages.NEWEST, contains=True, within=messages)
+        messages = vost.open_transcript("Emma Wilson", test_messages.NEWEST)
         self.pickers(vost)
         # From the newest back: the document, the GIF, the album.
         document = cases.scroll_to(vost, messages, test_messages.KINDS["document"])
         vost.save_through_dialog(vost.find("push button", "Save", within=document, timeout=15),
                                  os.path.join(self.desktop.work, "walk.pdf"))
-        animation = cases.scroll_to(vost, messages, test_messages.KINDS["animation"])
-        gif = vost.find("image", "GIF", within=animation, timeout=15)
-
-        def open_gif():
-            gif.press()
-            return vost.all("dialog", "Photo viewer")
-        wait_until(open_gif, timeout=15, what="the GIF in the viewer")
-        viewer = vost.find("dialog", "Photo viewer")
+        viewer = cases.view_gif(vost, messages)
         cases.save_from(vost, viewer, os.path.join(self.desktop.work, "walk.gif"))
         vost.key("Right")
         vost.key("Left")

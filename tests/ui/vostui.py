@@ -80,6 +80,20 @@ def wait_until(predicate, timeout=10.0, interval=0.1, what="the condition"):
         time.sleep(interval)
 
 
+def inside(inner, outer, slack=2):
+    """Whether the rectangle inner (x, y, w, h) lies within outer, give or take slack."""
+    x, y, w, h = inner
+    ox, oy, ow, oh = outer
+    return x >= ox - slack and y >= oy - slack and x + w <= ox + ow + slack and y + h <= oy + oh + slack
+
+
+def within_view(item, view):
+    """Whether the item is shown whole, top to bottom, in the scrolled view."""
+    x, y, w, h = item.extents()
+    vx, vy, vw, vh = view.extents()
+    return y >= vy - 2 and y + h <= vy + vh + 2
+
+
 class Desktop:
     """A virtual screen with a session bus, the accessibility bus and a tray host."""
 
@@ -694,6 +708,13 @@ class Vost:
     def messages(self):
         return self.all("list item", within=self.find("list", "Messages"))
 
+    def open_transcript(self, title, newest):
+        """Opens the chat and waits for its newest message; returns the transcript."""
+        self.open_chat(title)
+        messages = self.find("list", "Messages")
+        self.find("list item", newest, contains=True, within=messages)
+        return messages
+
     def send(self, text):
         """Types text into the open chat's composer and sends it with Return."""
         self.fill(self.find("text", "Message"), text)
@@ -832,8 +853,8 @@ class VostTestCase(unittest.TestCase):
         if errors:
             self.fail("vost printed script or memory errors:\n" + "\n".join(errors))
 
-    def open_signed_in(self):
-        vost = self.launch()
+    def open_signed_in(self, **launch):
+        vost = self.launch(**launch)
         vost.open_popover()
         vost.wait_for_chats()
         return vost
