@@ -1,6 +1,7 @@
 // The view model's own rules: search, chat replacement and selection, unread
 // dividers, the order of precedence of sending, reactions and the composer queue.
 
+#include "../support/ModelRecords.h"
 #include "ChatViewModel.h"
 
 #include <QSignalSpy>
@@ -11,15 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Chat makeChat(const QString &id, const QString &title, const QString &preview = {})
-{
-    Chat chat;
-    chat.id = id;
-    chat.title = title;
-    chat.preview = preview;
-    return chat;
-}
-
 Message makeMessage(const QString &id, bool unread = false)
 {
     Message message;
@@ -27,14 +19,6 @@ Message makeMessage(const QString &id, bool unread = false)
     message.text = u"text "_s + id;
     message.isUnread = unread;
     return message;
-}
-
-QStringList ids(const QList<Chat> &chats)
-{
-    QStringList result;
-    for (const Chat &chat : chats)
-        result.append(chat.id);
-    return result;
 }
 
 // Records every handler call as one line.
@@ -87,14 +71,14 @@ private Q_SLOTS:
         ChatViewModel model(nullptr);
         model.replaceChats({makeChat(u"1"_s, u"Lab"_s), makeChat(u"2"_s, u"Bea"_s, u"ABOUT the plan"_s),
                             makeChat(u"3"_s, u"Cy"_s, u"nothing"_s), makeChat(u"4"_s, u"Straße"_s)});
-        QCOMPARE(ids(model.filteredChats()), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s}));
+        QCOMPARE(chatIDs(model.filteredChats()), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s}));
         model.setSearchText(u"ab"_s);
-        QCOMPARE(ids(model.filteredChats()), (QStringList{u"1"_s, u"2"_s}));
+        QCOMPARE(chatIDs(model.filteredChats()), (QStringList{u"1"_s, u"2"_s}));
         // No trimming: a space is searched for.
         model.setSearchText(u" "_s);
-        QCOMPARE(ids(model.filteredChats()), (QStringList{u"2"_s}));
+        QCOMPARE(chatIDs(model.filteredChats()), (QStringList{u"2"_s}));
         model.setSearchText(u"STRASSE"_s);
-        QCOMPARE(ids(model.filteredChats()), (QStringList{u"4"_s}));
+        QCOMPARE(chatIDs(model.filteredChats()), (QStringList{u"4"_s}));
     }
 
     void searchTreatsEquivalentTextsAlike()

@@ -2,6 +2,7 @@
 // refused, the emoji catalog and its search, the "Forward to" chooser's filter,
 // and sizes and durations as shown.
 
+#include "../support/ModelRecords.h"
 #include "Attachments.h"
 #include "ChatListModel.h"
 #include "ChatViewModel.h"
@@ -40,22 +41,6 @@ QString writeImage(const QTemporaryDir &folder, const QString &name, const char 
     const QString path = folder.filePath(name);
     image.save(path, format);
     return path;
-}
-
-Chat makeChat(const QString &id, const QString &title)
-{
-    Chat chat;
-    chat.id = id;
-    chat.title = title;
-    return chat;
-}
-
-QStringList column(const QAbstractItemModel &model, int role)
-{
-    QStringList values;
-    for (int row = 0; row < model.rowCount(); ++row)
-        values.append(model.index(row, 0).data(role).toString());
-    return values;
 }
 
 const QByteArray emojiTest = R"(# group: Smileys & Emotion

@@ -1,6 +1,7 @@
 // The list models follow the view model row by row, and stay consistent models
 // while they do (QAbstractItemModelTester checks every signal they send).
 
+#include "../support/ModelRecords.h"
 #include "ArchiveFilterModel.h"
 #include "ChatListModel.h"
 #include "ChatViewModel.h"
@@ -38,22 +39,6 @@ Message makeMessage(int id, const QString &sender, bool unread = false)
     message.text = u"message "_s + message.id;
     message.isUnread = unread;
     return message;
-}
-
-QStringList column(const QAbstractItemModel &model, int role)
-{
-    QStringList values;
-    for (int row = 0; row < model.rowCount(); ++row)
-        values.append(model.index(row, 0).data(role).toString());
-    return values;
-}
-
-QStringList chatIDs(const QList<Chat> &chats)
-{
-    QStringList result;
-    for (const Chat &chat : chats)
-        result.append(chat.id);
-    return result;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The whole client against the demo account, end to end: the real loader, the real
 // receive loop and the session's stores, with the demo library in deterministic
 // mode. The functions run in order on one signed-in session.
+#include "../support/ModelRecords.h"
 #include "../support/TemporaryHome.h"
 #include "bundle/AppBundle.h"
 #include "session/TelegramSession.h"
@@ -35,14 +36,6 @@ const Message *findMessage(const TelegramSession &session, const QString &chatID
         if (predicate(message))
             return &message;
     return nullptr;
-}
-
-QStringList chatIDs(const QList<Chat> &chats)
-{
-    QStringList ids;
-    for (const Chat &chat : chats)
-        ids.append(chat.id);
-    return ids;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // index one by one after a few changes and sorts it again after many, so the list
 // is read after batches of both sizes while chats come, move, leave and return.
 
+#include "../support/ModelRecords.h"
 #include "session/TelegramSession.h"
 
 #include <QJsonDocument>
@@ -69,14 +70,6 @@ QStringList expectedOrder(const std::map<qint64, Place> &places)
     return ids;
 }
 
-QStringList listedOrder(TelegramSession &session)
-{
-    QStringList ids;
-    for (const Chat &chat : session.chats())
-        ids.append(chat.id);
-    return ids;
-}
-
 } // namespace
 
 class ChatOrderTest : public QObject
@@ -119,7 +112,7 @@ private Q_SLOTS:
                 }
                 places[id] = place;
             }
-            QCOMPARE(listedOrder(session), expectedOrder(places));
+            QCOMPARE(chatIDs(session.chats()), expectedOrder(places));
         }
     }
 };
