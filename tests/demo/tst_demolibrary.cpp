@@ -88,38 +88,19 @@ private Q_SLOTS:
     void readsHistoryLikeTDLib()
     {
         const QString emma = u"200000101"_s;
-        const QJsonArray first =
-            request(u"{\"@type\":\"getChatHistory\",\"chat_id\":%1,\"from_message_id\":0,\"offset\":0,"
-                    "\"limit\":15}"_s.arg(emma)
-                        .toUtf8())["messages"_L1]
-                .toArray();
+        const QJsonArray first = history(emma, 0, 0, 15);
         QCOMPARE(first.size(), 1);
         const qint64 newest = first[0]["id"_L1].toInteger();
-        const QJsonArray page =
-            request(u"{\"@type\":\"getChatHistory\",\"chat_id\":%1,\"from_message_id\":%2,\"offset\":0,"
-                    "\"limit\":15}"_s.arg(emma)
-                        .arg(newest)
-                        .toUtf8())["messages"_L1]
-                .toArray();
+        const QJsonArray page = history(emma, newest, 0, 15);
         QCOMPARE(page.size(), 15);
         QCOMPARE(page[0]["id"_L1].toInteger(), newest);
         QVERIFY(page[1]["id"_L1].toInteger() < newest);
         const qint64 middle = page[5]["id"_L1].toInteger();
-        const QJsonArray around =
-            request(u"{\"@type\":\"getChatHistory\",\"chat_id\":%1,\"from_message_id\":%2,\"offset\":-2,"
-                    "\"limit\":5}"_s.arg(emma)
-                        .arg(middle)
-                        .toUtf8())["messages"_L1]
-                .toArray();
+        const QJsonArray around = history(emma, middle, -2, 5);
         QCOMPARE(around.size(), 5);
         QCOMPARE(around[2]["id"_L1].toInteger(), middle);
         // A photo among the newest fifty, for the download case.
-        const QJsonArray recent =
-            request(u"{\"@type\":\"getChatHistory\",\"chat_id\":%1,\"from_message_id\":%2,\"offset\":0,"
-                    "\"limit\":50}"_s.arg(emma)
-                        .arg(newest)
-                        .toUtf8())["messages"_L1]
-                .toArray();
+        const QJsonArray recent = history(emma, newest, 0, 50);
         m_photoFile = 0;
         for (const QJsonValue &message : recent)
             if (message["content"_L1]["@type"_L1] == "messagePhoto"_L1)
@@ -232,6 +213,17 @@ private:
     }
 
     QJsonObject request(const QByteArray &json) { return request(QJsonDocument::fromJson(json).object()); }
+
+    // A page of a chat's history, as getChatHistory answers it.
+    QJsonArray history(const QString &chatID, qint64 fromMessageID, int offset, int limit)
+    {
+        return request(QJsonObject{{u"@type"_s, u"getChatHistory"_s},
+                                   {u"chat_id"_s, chatID.toLongLong()},
+                                   {u"from_message_id"_s, fromMessageID},
+                                   {u"offset"_s, offset},
+                                   {u"limit"_s, limit}})["messages"_L1]
+            .toArray();
+    }
 
     QTemporaryDir m_data;
     void *m_handle = nullptr;

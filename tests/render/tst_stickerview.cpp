@@ -6,6 +6,7 @@
 // process, and the host goes when the last sticker has left or comes back after a
 // crash. Needs a display (Xvfb in CI).
 
+#include "../../demo/src/Gzip.h"
 #include "../support/ChildProcesses.h"
 #include "LoopbackHttpServer.h"
 
@@ -24,7 +25,6 @@
 #include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
 
-#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -36,38 +36,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int waitMs = 60'000; // a generous bound for a slow machine; nothing is timed
-
-quint32 crc32(const QByteArray &data)
-{
-    static const auto table = [] {
-        std::array<quint32, 256> entries{};
-        for (quint32 i = 0; i < 256; ++i) {
-            quint32 c = i;
-            for (int k = 0; k < 8; ++k)
-                c = (c & 1) ? 0xEDB88320u ^ (c >> 1) : c >> 1;
-            entries[i] = c;
-        }
-        return entries;
-    }();
-    quint32 c = 0xFFFFFFFFu;
-    for (const char byte : data)
-        c = table[(c ^ quint8(byte)) & 0xFF] ^ (c >> 8);
-    return c ^ 0xFFFFFFFFu;
-}
-
-// qCompress gives a length and a zlib stream; gzip wants the same deflate data
-// between its own header and trailer.
-QByteArray gzip(const QByteArray &data)
-{
-    const QByteArray zlib = qCompress(data, 9);
-    const QByteArray deflate = zlib.mid(4 + 2, zlib.size() - 4 - 2 - 4);
-    QByteArray out("\x1f\x8b\x08\x00\x00\x00\x00\x00\x02\xff", 10);
-    out += deflate;
-    for (const quint32 value : {crc32(data), quint32(data.size())})
-        for (int shift = 0; shift < 32; shift += 8)
-            out += char((value >> shift) & 0xFF);
-    return out;
-}
 
 // A red square that turns once a second.
 const QByteArray animation =
