@@ -1,9 +1,11 @@
 """Vost as a native Wayland client: headless sway with waybar's tray, run by an
 unprivileged user the case makes."""
 
+import os
 import time
 import unittest
 
+from shortcut_portal import PORTAL, ShortcutsPortal
 from wayland import BAR_HEIGHT, WaylandTestCase, have_tools, run_as_unprivileged_user, wait_until
 from vostui import main
 
@@ -71,6 +73,48 @@ class LateWaybar(WaylandTestCase):
         self.desktop.stop_tray()
         wait_until(vost.popover_shown, timeout=15, what="the window back when waybar quit")
         self.assertTrue(vost.running())
+
+
+@unittest.skipUnless(have_tools() and os.access(PORTAL, os.X_OK), "needs sway, waybar and xdg-desktop-portal")
+class PortalShortcut(WaylandTestCase):
+    """The shortcut to open Vost, bound by the desktop through its GlobalShortcuts
+    portal: Wayland gives programs no keys of their own."""
+    tray = True
+
+    def start_portal(self, refuse=False):
+        portal = ShortcutsPortal(self.desktop, refuse=refuse)
+        self.addCleanup(portal.stop)
+        return portal
+
+    def test_the_desktop_binds_it_and_its_keys_open_and_close_the_popover(self):
+        portal = self.start_portal()
+        vost = self.launch(settings={"globalShortcut": "Ctrl+Alt+K"})
+        bound = wait_until(lambda: portal.bound, timeout=20, what="the shortcut bound through the portal")
+        self.assertEqual(bound, [("open-vost", "CTRL+ALT+k")])
+        wait_until(self.desktop.tray_item_box, timeout=20, what="the item in waybar")
+        self.assertFalse(vost.popover_shown())
+        portal.activate("open-vost")
+        wait_until(vost.popover_shown, what="the popover opened by the desktop's shortcut")
+        vost.wait_for_chats()
+        # Preferences name the combination and say nothing against it.
+        vost.find("push button", "Preferences").press()
+        page = vost.find("panel", "Preferences")
+        self.assertEqual(vost.find("push button", "Shortcut to open Vost", within=page).description, "Ctrl+Alt+K")
+        vost.absent("paragraph", "Not allowed by the desktop", within=page, timeout=1)
+        vost.absent("paragraph", "Not available on this desktop", within=page, timeout=1)
+        portal.activate("open-vost")
+        wait_until(lambda: not vost.popover_shown(), what="the popover closed by the desktop's shortcut")
+
+    def test_a_shortcut_the_desktop_refuses_is_said_to_be_refused(self):
+        portal = self.start_portal(refuse=True)
+        vost = self.launch(settings={"globalShortcut": "Ctrl+Alt+K"})
+        wait_until(lambda: portal.sessions, timeout=20, what="a session asked of the portal")
+        box = wait_until(self.desktop.tray_item_box, timeout=20, what="the item in waybar")
+        self.desktop.click((box[0] + box[2] // 2, box[1] + box[3] // 2))
+        wait_until(vost.popover_shown, what="the popover opened by a click on the item")
+        vost.find("push button", "Preferences").press()
+        page = vost.find("panel", "Preferences")
+        vost.find("paragraph", "Not allowed by the desktop", within=page, timeout=20)
 
 
 if __name__ == "__main__":
