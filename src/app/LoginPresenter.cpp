@@ -139,20 +139,24 @@ SessionAccess *LoginPresenter::session() const
     return m_access.data();
 }
 
+TelegramSession *LoginPresenter::telegramSession() const
+{
+    return m_access ? &m_access->session() : nullptr;
+}
+
 void LoginPresenter::setSession(SessionAccess *session)
 {
     if (session == m_access)
         return;
-    if (m_session)
-        disconnect(m_session, nullptr, this, nullptr);
+    if (TelegramSession *previous = telegramSession())
+        disconnect(previous, nullptr, this, nullptr);
     m_access = session;
-    m_session = session ? &session->session() : nullptr;
-    if (m_session) {
-        connect(m_session, &TelegramSession::stepChanged, this, &LoginPresenter::restartStep);
+    if (TelegramSession *current = telegramSession()) {
+        connect(current, &TelegramSession::stepChanged, this, &LoginPresenter::restartStep);
         // A code for a new number (or the same one again) ends the number's change.
-        connect(m_session, &TelegramSession::codeInfoChanged, this, &LoginPresenter::restartStep);
-        connect(m_session, &TelegramSession::errorMessageChanged, this, &LoginPresenter::errorMessageChanged);
-        connect(m_session, &TelegramSession::startupStatusChanged, this, &LoginPresenter::startupStatusChanged);
+        connect(current, &TelegramSession::codeInfoChanged, this, &LoginPresenter::restartStep);
+        connect(current, &TelegramSession::errorMessageChanged, this, &LoginPresenter::errorMessageChanged);
+        connect(current, &TelegramSession::startupStatusChanged, this, &LoginPresenter::startupStatusChanged);
     }
     Q_EMIT sessionChanged();
     Q_EMIT stepChanged();
@@ -163,7 +167,8 @@ void LoginPresenter::setSession(SessionAccess *session)
 
 Step LoginPresenter::step() const
 {
-    return m_session ? m_session->step() : Step::idle();
+    const TelegramSession *session = telegramSession();
+    return session ? session->step() : Step::idle();
 }
 
 Step::Case LoginPresenter::shownStep() const
@@ -194,9 +199,10 @@ void LoginPresenter::changeNumber()
 
 QString LoginPresenter::codeDestination() const
 {
-    if (!m_session || shownStep() != Case::VerificationCode)
+    const TelegramSession *session = telegramSession();
+    if (!session || shownStep() != Case::VerificationCode)
         return {};
-    const CodeInfo info = m_session->codeInfo();
+    const CodeInfo info = session->codeInfo();
     const QString number = PhoneNumbers::international(info.phoneNumber);
     switch (info.delivery) {
     case CodeInfo::Delivery::TelegramApp:
@@ -259,32 +265,35 @@ void LoginPresenter::setFieldText(const QString &text)
 
 QString LoginPresenter::errorMessage() const
 {
-    if (!m_session)
+    const TelegramSession *session = telegramSession();
+    if (!session)
         return {};
-    if (m_session->step().kind() == Case::Unavailable)
-        return m_session->step().text();
-    return m_submitted ? ErrorTexts::sentence(m_session->errorMessageText()) : QString();
+    if (session->step().kind() == Case::Unavailable)
+        return session->step().text();
+    return m_submitted ? ErrorTexts::sentence(session->errorMessageText()) : QString();
 }
 
 QString LoginPresenter::startupStatus() const
 {
-    return m_session ? m_session->startupStatus() : QString();
+    const TelegramSession *session = telegramSession();
+    return session ? session->startupStatus() : QString();
 }
 
 void LoginPresenter::submit()
 {
-    if (!m_session || !hasField())
+    TelegramSession *session = telegramSession();
+    if (!session || !hasField())
         return;
     m_submitted = true;
     switch (shownStep()) {
     case Case::Password:
-        m_session->submitPassword(m_password);
+        session->submitPassword(m_password);
         break;
     case Case::VerificationCode:
-        m_session->submitVerificationCode(m_verificationCode);
+        session->submitVerificationCode(m_verificationCode);
         break;
     case Case::PhoneNumber:
-        m_session->submitPhoneNumber(m_phoneNumber);
+        session->submitPhoneNumber(m_phoneNumber);
         break;
     case Case::Unavailable:
     case Case::Idle:

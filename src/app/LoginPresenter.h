@@ -109,10 +109,10 @@ private:
     // step while a new number is being typed.
     Step::Case shownStep() const;
     QString *currentText();
+    TelegramSession *telegramSession() const;
     void restartStep();
 
     QPointer<SessionAccess> m_access;
-    QPointer<TelegramSession> m_session;
     // The user submitted this step's text: the session's errors now answer it.
     bool m_submitted = false;
     bool m_changingNumber = false;
