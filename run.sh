@@ -20,7 +20,9 @@ BUILD_TYPE=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 
 # "package:command" is satisfied by the command alone (Node.js may come from elsewhere).
 # What building Vost needs, and what it loads when it runs: Qt's platform plugins for
-# X11 and Wayland (and the X client library the global shortcut grabs its key with),
+# X11 and Wayland (and the X client library the global shortcut grabs its key with;
+# Wayland's client library, Qt's private headers and Plasma's protocols for placing the
+# popover on KWin),
 # QML modules, image formats, the media backend's GStreamer plugins, the emoji font,
 # the translation tools (lupdate/lrelease), fonts with Cyrillic and Arabic-script glyphs, and
 # Hunspell with the dictionaries of English and of the catalogs' languages (spelling).
@@ -28,7 +30,7 @@ DEBIAN_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config zlib1g-dev libicu-dev librlottie-dev unicode-data nodejs:node npm:npm
     librsvg2-bin
     qt6-base-dev qt6-declarative-dev qt6-webengine-dev qt6-multimedia-dev qt6-svg-dev libgl-dev qt6-qpa-plugins libxcb1-dev
-    qt6-wayland
+    qt6-wayland libwayland-dev plasma-wayland-protocols qt6-base-private-dev
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-window
     qml6-module-qtquick-templates qml6-module-qtqml-workerscript qml6-module-qtwebengine
     qml6-module-qtmultimedia qt6-image-formats-plugins
@@ -38,15 +40,15 @@ DEBIAN_PACKAGES=(
     libhunspell-dev hunspell-en-us hunspell-ru hunspell-de-de hunspell-es hunspell-pt-br myspell-fa
 )
 # What the tests add: a virtual screen and session bus, tray hosts (trayer, Xfce's
-# and LXQt's panels), a Wayland compositor with its bar, screenshots and keyboard
-# (sway, waybar, grim, wtype), GNOME's file chooser portal, a notification server,
+# and LXQt's panels), Wayland compositors (sway with its bar, screenshots and keyboard:
+# waybar, grim, wtype; KDE's KWin), GNOME's file chooser portal, a notification server,
 # a sound server, the accessibility bus and its Python client, pointer and keyboard,
 # screenshots and the clipboard, the locales' sources (the language cases compile
 # Russian and Persian ones for themselves); the package's builder and checkers.
 TEST_PACKAGES=(
     xvfb xauth dbus trayer xdotool at-spi2-core python3-pyatspi gir1.2-atspi-2.0 imagemagick xclip
     pulseaudio pulseaudio-utils dunst xfce4-panel xfconf lxqt-panel locales
-    sway waybar grim wtype xdg-desktop-portal xdg-desktop-portal-gtk
+    sway waybar grim wtype xdg-desktop-portal xdg-desktop-portal-gtk kwin-wayland
     dpkg-dev fakeroot lintian desktop-file-utils appstream
 )
 # What making the Debian package adds.

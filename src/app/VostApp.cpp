@@ -20,6 +20,7 @@
 #include "platform/SoundPlayer.h"
 #include "platform/TerminationSignals.h"
 #include "platform/TrayItem.h"
+#include "platform/WindowPlacer.h"
 #include "session/CredentialStore.h"
 #include "session/NotificationCenter.h"
 #include "session/NotificationService.h"
@@ -210,6 +211,7 @@ bool VostApp::launch()
     // The pictures of a chat nobody looks at need not stay decoded.
     connect(m_root->viewModel(), &ChatViewModel::selectedChatIDChanged, this, &MediaImageProvider::release);
     m_popover = std::make_unique<PopoverWindow>(m_engine);
+    m_windowPlacer = makeSystemWindowPlacer();
     m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_root)},
                                      {u"popover"_s, QVariant::fromValue<QObject *>(m_popover.get())}});
     m_popover->setSource(QUrl(u"qrc:/qt/qml/Vost/App/qml/PopoverRoot.qml"_s));
@@ -558,30 +560,41 @@ void VostApp::closePopover()
 void VostApp::presentPopover()
 {
     const WindowPlacement placement = windowPlacement(QGuiApplication::platformName(), inWaylandSession());
+    const QSize size = PopoverWindow::contentSize;
+    std::optional<QPoint> askCompositor;
     if (placement == WindowPlacement::ByCompositor) {
-        // Where the window goes is the compositor's to say: most centre it.
+        // Where the window goes is the compositor's to say: most centre it. KWin
+        // takes the point under the icon that its panel reported.
+        if (m_windowPlacer && m_popover->isInTrayMode() && m_hasClickPoint)
+            askCompositor = popoverPosition(QRect(), m_clickPoint, availableAreaAt(m_clickPoint), size);
     } else if (m_popover->isInTrayMode()) {
         const QRect iconGeometry = m_trayIcon ? m_trayIcon->geometry() : QRect();
         const bool pointKnown = m_hasClickPoint || iconGeometry.isValid() || placement == WindowPlacement::Free;
         const QPoint pointer = m_hasClickPoint ? m_clickPoint : QCursor::pos();
-        QScreen *screen = QGuiApplication::screenAt(iconGeometry.isValid() ? iconGeometry.center() : pointer);
-        if (!screen)
-            screen = QGuiApplication::primaryScreen();
-        const QRect available = screen ? screen->availableGeometry() : QRect(QPoint(), PopoverWindow::contentSize);
+        const QRect available = availableAreaAt(iconGeometry.isValid() ? iconGeometry.center() : pointer);
         if (pointKnown)
-            m_popover->setPosition(popoverPosition(iconGeometry, pointer, available, PopoverWindow::contentSize));
+            m_popover->setPosition(popoverPosition(iconGeometry, pointer, available, size));
     } else if (!m_placedOnce) {
-        if (const QScreen *screen = QGuiApplication::primaryScreen()) {
-            QRect frame(QPoint(), PopoverWindow::contentSize);
-            frame.moveCenter(screen->availableGeometry().center());
-            m_popover->setPosition(frame.topLeft());
-        }
+        QRect frame(QPoint(), size);
+        frame.moveCenter(availableAreaAt(QPoint()).center());
+        m_popover->setPosition(frame.topLeft());
         m_placedOnce = true;
     }
     m_presentedAt = std::chrono::steady_clock::now();
     m_popover->show();
+    if (askCompositor)
+        m_windowPlacer->place(m_popover.get(), *askCompositor);
     m_popover->raise();
     m_popover->requestActivate();
+}
+
+// The screen's area for windows at a point, the primary screen's where no screen is there.
+QRect VostApp::availableAreaAt(QPoint point)
+{
+    QScreen *screen = point.isNull() ? nullptr : QGuiApplication::screenAt(point);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect(QPoint(), PopoverWindow::contentSize);
 }
 
 void VostApp::bringForward(const QString &activationToken)

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 #include <QPointer>
 
 #include <chrono>
@@ -24,6 +25,7 @@ class QTimer;
 class SoundPlayer;
 class TelegramSession;
 class TrayItem;
+class WindowPlacer;
 
 // The tray application: no main window, one tray item with the unread badge and a
 // popover holding the whole client. It builds the credential store, the session and
@@ -75,6 +77,7 @@ private:
     void handleGlobalShortcut();
     void showStatusMenu(const QPoint &point);
     void presentPopover();
+    static QRect availableAreaAt(QPoint point);
     void presentActivationToken(const QString &token);
     void popoverActiveChanged();
     void closeAfterDeactivation();
@@ -104,6 +107,7 @@ private:
     std::unique_ptr<SoundPlayer> m_soundPlayer;
     std::unique_ptr<ColorSchemeWatcher> m_colorScheme;
     std::unique_ptr<GlobalShortcut> m_globalShortcut;
+    std::unique_ptr<WindowPlacer> m_windowPlacer;
     QPoint m_clickPoint;
     bool m_hasClickPoint = false;
     bool m_placedOnce = false;

@@ -22,14 +22,6 @@ UNREAD = re.compile(r"Vost, (\d+) unread messages")
 PANEL_HEIGHT = 26
 
 
-def registered_items(desktop):
-    out = subprocess.run(["dbus-send", "--session", "--print-reply", "--dest=org.kde.StatusNotifierWatcher",
-                          "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties.Get",
-                          "string:org.kde.StatusNotifierWatcher", "string:RegisteredStatusNotifierItems"],
-                         env=desktop.env, capture_output=True, text=True).stdout
-    return re.findall(r'string "([^"]+)"', out)
-
-
 def item_tooltip(desktop, item):
     """The tool tip the host shows for the item: its title and text."""
     return " ".join(re.findall(r'string "([^"]*)"', item_property(desktop, item, "ToolTip")))
@@ -73,7 +65,7 @@ class StatusNotifierHost(VostTestCase):
 
     def item(self, vost):
         def ours():
-            for item in registered_items(self.desktop):
+            for item in self.desktop.registered_items():
                 if UNREAD.search(item_tooltip(self.desktop, item)):
                     return item
             return None
@@ -171,7 +163,7 @@ class OwnItem(VostTestCase):
 
     def own_item(self, vost):
         def ours():
-            items = [item for item in registered_items(self.desktop)
+            items = [item for item in self.desktop.registered_items()
                      if item.startswith(f"org.kde.StatusNotifierItem-{vost.process.pid}-")]
             return items[0] if items else None
         return wait_until(ours, timeout=20, what="Vost's item registered with the watcher")
@@ -231,7 +223,7 @@ class LatePanel(VostTestCase):
 
     def our_item_registered(self, vost):
         return any(item.startswith(f"org.kde.StatusNotifierItem-{vost.process.pid}-")
-                   for item in registered_items(self.desktop))
+                   for item in self.desktop.registered_items())
 
     def test_vost_moves_into_a_panel_started_later_and_back_out_when_it_quits(self):
         vost = self.launch()

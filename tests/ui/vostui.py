@@ -280,6 +280,14 @@ class Desktop:
                              env=self.env, capture_output=True, text=True).stdout
         return re.findall(r'string "([^"]+)"', out)
 
+    def registered_items(self):
+        """The StatusNotifierItems the host's watcher holds, as "service/path"."""
+        out = subprocess.run(["dbus-send", "--session", "--print-reply", "--dest=org.kde.StatusNotifierWatcher",
+                              "/StatusNotifierWatcher", "org.freedesktop.DBus.Properties.Get",
+                              "string:org.kde.StatusNotifierWatcher", "string:RegisteredStatusNotifierItems"],
+                             env=self.env, capture_output=True, text=True).stdout
+        return re.findall(r'string "([^"]+)"', out)
+
     def xdotool(self, *args):
         return subprocess.run(["xdotool", *map(str, args)], env=self.env, capture_output=True, text=True,
                               check=False).stdout

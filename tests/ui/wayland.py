@@ -113,7 +113,25 @@ class VirtualPointer:
         self.socket.close()
 
 
-class SwayDesktop(Desktop):
+class WaybarTray:
+    """waybar's tray as the desktop's host, along the top edge: dark, of one known colour."""
+
+    def start_tray(self, kind="waybar"):
+        self.stop_tray()
+        self.tray_kind = kind
+        folder = os.path.join(self.work, "waybar")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "config"), "w") as file:
+            json.dump({"layer": "top", "position": "top", "height": BAR_HEIGHT, "modules-right": ["tray"],
+                       "tray": {"icon-size": 22, "spacing": 6}}, file)
+        with open(os.path.join(folder, "style.css"), "w") as file:
+            file.write(_WAYBAR_STYLE)
+        self.tray_process = self._spawn(["waybar", "--config", os.path.join(folder, "config"),
+                                         "--style", os.path.join(folder, "style.css")])
+        wait_until(lambda: "org.kde.StatusNotifierWatcher" in self.bus_names(), what="waybar's tray")
+
+
+class SwayDesktop(WaybarTray, Desktop):
     """sway on a headless output instead of an X server; the tray host is waybar."""
 
     def _start_screen(self):
@@ -135,20 +153,6 @@ class SwayDesktop(Desktop):
         wait_until(lambda: self.sway("-t", "get_outputs").startswith("["), what="sway answering")
         width, height = map(int, self.size.split("x"))
         self.pointer = VirtualPointer(os.path.join(runtime, display), (width, height))
-
-    def start_tray(self, kind="waybar"):
-        self.stop_tray()
-        self.tray_kind = kind
-        folder = os.path.join(self.work, "waybar")
-        os.makedirs(folder, exist_ok=True)
-        with open(os.path.join(folder, "config"), "w") as file:
-            json.dump({"layer": "top", "position": "top", "height": BAR_HEIGHT, "modules-right": ["tray"],
-                       "tray": {"icon-size": 22, "spacing": 6}}, file)
-        with open(os.path.join(folder, "style.css"), "w") as file:
-            file.write(_WAYBAR_STYLE)
-        self.tray_process = self._spawn(["waybar", "--config", os.path.join(folder, "config"),
-                                         "--style", os.path.join(folder, "style.css")])
-        wait_until(lambda: "org.kde.StatusNotifierWatcher" in self.bus_names(), what="waybar's tray")
 
     def sway(self, *args):
         return subprocess.run(["swaymsg", *args], env=self.env, capture_output=True, text=True, check=False).stdout
@@ -205,21 +209,21 @@ class SwayDesktop(Desktop):
         return left + min(xs), min(ys), max(xs) - min(xs) + 1, max(ys) - min(ys) + 1
 
 
-_desktop = None
+_desktops = {}
 _template = None
 
 
 class WaylandTestCase(VostTestCase):
-    """A case on the one sway desktop of this process."""
+    """A case on the one Wayland desktop of its kind in this process."""
+    desktop_class = SwayDesktop
 
     def setUp(self):
-        global _desktop
         if not os.access(VOST, os.X_OK):
             self.skipTest(f"{USER} cannot reach {VOST}: the build tree lies in a folder only its owner may open")
-        if _desktop is None:
-            _desktop = SwayDesktop(tray=None)
-            atexit.register(_desktop.close)
-        self.desktop = _desktop
+        if self.desktop_class not in _desktops:
+            desktop = _desktops[self.desktop_class] = self.desktop_class(tray=None)
+            atexit.register(desktop.close)
+        self.desktop = _desktops[self.desktop_class]
         self.desktop.new_home()
         if self.tray and self.desktop.tray_kind != "waybar":
             self.desktop.start_tray("waybar")
