@@ -46,14 +46,8 @@ def exported_menu_labels(desktop, item):
 
 def badge_box(desktop):
     """Where the red unread badge is drawn in the panel, from what a person sees."""
-    path = desktop.screenshot(os.path.join(desktop.work, "panel.png"), crop=(0, 0, 1280, PANEL_HEIGHT))
-    data = subprocess.run(["convert", path, "-depth", "8", "ppm:-"], capture_output=True, check=True).stdout
-    # Binary PPM: "P6\nW H\n255\n" then RGB bytes.
-    header = data.split(b"\n", 3)
-    width = int(header[1].split()[0])
-    pixels = header[3]
-    red = [(i // 3 % width, i // 3 // width) for i in range(0, len(pixels) - 2, 3)
-           if pixels[i] > 190 and pixels[i + 1] < 90 and pixels[i + 2] < 90]
+    rows = desktop.pixels((0, 0, 1280, PANEL_HEIGHT))
+    red = [(x, y) for y, row in enumerate(rows) for x, (r, g, b) in enumerate(row) if r > 190 and g < 90 and b < 90]
     if len(red) < 12:
         return None
     xs, ys = [x for x, _ in red], [y for _, y in red]

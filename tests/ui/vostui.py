@@ -300,6 +300,14 @@ class Desktop:
         subprocess.run(args + [path], env=self.env, check=False, capture_output=True)
         return path
 
+    def pixels(self, crop):
+        """The screen's pixels in crop (x, y, w, h), as rows of (r, g, b)."""
+        path = self.screenshot(os.path.join(self.work, "crop.png"), crop)
+        data = subprocess.run(["convert", path, "-depth", "8", "rgb:-"], capture_output=True, check=True).stdout
+        width = crop[2]
+        pixels = [tuple(data[i:i + 3]) for i in range(0, len(data) - 2, 3)]
+        return [pixels[row * width:(row + 1) * width] for row in range(len(pixels) // width)]
+
     @staticmethod
     def _end(process):
         if process.poll() is None:

@@ -130,6 +130,19 @@ class WaybarTray:
                                          "--style", os.path.join(folder, "style.css")])
         wait_until(lambda: "org.kde.StatusNotifierWatcher" in self.bus_names(), what="waybar's tray")
 
+    def tray_item_box(self):
+        """Where waybar draws something other than the bar: the item's picture, as
+        (x, y, w, h) on the screen, or None."""
+        width = int(self.size.split("x")[0])
+        left = width - 200
+        rows = self.pixels((left, 0, 200, BAR_HEIGHT))
+        points = [(x, y) for y, row in enumerate(rows) for x, pixel in enumerate(row)
+                  if max(abs(a - b) for a, b in zip(pixel, BAR_COLOUR)) > 40]
+        if not points:
+            return None
+        xs, ys = [x for x, _ in points], [y for _, y in points]
+        return left + min(xs), min(ys), max(xs) - min(xs) + 1, max(ys) - min(ys) + 1
+
 
 class SwayDesktop(WaybarTray, Desktop):
     """sway on a headless output instead of an X server; the tray host is waybar."""
@@ -187,27 +200,6 @@ class SwayDesktop(WaybarTray, Desktop):
         subprocess.run(args + [path], env=self.env, check=False, capture_output=True)
         return path
 
-    def pixels(self, crop):
-        """The screen's pixels in crop (x, y, w, h), as rows of (r, g, b)."""
-        path = self.screenshot(os.path.join(self.work, "crop.png"), crop)
-        data = subprocess.run(["convert", path, "-depth", "8", "rgb:-"], capture_output=True, check=True).stdout
-        width = crop[2]
-        pixels = [tuple(data[i:i + 3]) for i in range(0, len(data) - 2, 3)]
-        return [pixels[row * width:(row + 1) * width] for row in range(len(pixels) // width)]
-
-    def tray_item_box(self):
-        """Where waybar draws something other than the bar: the item's picture, as
-        (x, y, w, h) on the screen, or None."""
-        width = int(self.size.split("x")[0])
-        left = width - 200
-        rows = self.pixels((left, 0, 200, BAR_HEIGHT))
-        points = [(x, y) for y, row in enumerate(rows) for x, pixel in enumerate(row)
-                  if max(abs(a - b) for a, b in zip(pixel, BAR_COLOUR)) > 40]
-        if not points:
-            return None
-        xs, ys = [x for x, _ in points], [y for _, y in points]
-        return left + min(xs), min(ys), max(xs) - min(xs) + 1, max(ys) - min(ys) + 1
-
 
 _desktops = {}
 _template = None
@@ -234,7 +226,7 @@ class WaylandTestCase(VostTestCase):
     def launch(self, signed_in=None, **kwargs):
         signed_in = self.signed_in if signed_in is None else signed_in
         kwargs.setdefault("extra_env", {})["QT_QPA_PLATFORM"] = "wayland"
-        template = (_template or signed_in_template()) if signed_in else None
+        template = account_template() if signed_in else None
         self.vost = Vost(self.desktop, home_template=template, **kwargs)
         self.addCleanup(self._finish, self.vost)
         return self.vost.start()
@@ -243,6 +235,11 @@ class WaylandTestCase(VostTestCase):
         """The program started again, as a launcher would: it hands over and ends."""
         process = subprocess.run([vost.binary, *vost.args], env=vost.env, capture_output=True, timeout=30)
         return process.returncode
+
+
+def account_template():
+    """The signed-in account's template, made before the user changed where root runs this."""
+    return _template or signed_in_template()
 
 
 def have_tools():
