@@ -14,6 +14,11 @@ def light(pixel):
     return sum(pixel) / 3 > 160
 
 
+def red(pixel):
+    r, g, b = pixel
+    return r > 190 and g < 90 and b < 90
+
+
 @unittest.skipUnless(have_tools(), "needs sway, waybar, grim and wtype")
 class Waybar(WaylandTestCase):
     tray = True
@@ -28,11 +33,16 @@ class Waybar(WaylandTestCase):
 
         def item_pixels():
             box = self.desktop.tray_item_box()
-            return box and (box, [pixel for row in self.desktop.pixels(box) for pixel in row])
+            return box and (box, self.desktop.pixels(box))
         # Light on the dark bar, with the badge's red in its corner once the chats are in.
-        box, pixels = wait_until(lambda: (found := item_pixels()) and any(
-            r > 190 and g < 90 and b < 90 for r, g, b in found[1]) and found, timeout=20, what="the red badge")
+        box, rows = wait_until(lambda: (found := item_pixels()) and any(
+            red(pixel) for row in found[1] for pixel in row) and found, timeout=20, what="the red badge")
+        pixels = [pixel for row in rows for pixel in row]
         self.assertGreater(sum(light(pixel) for pixel in pixels), len(pixels) // 10, "no light glyph")
+        # The count in white within the red disc, tall enough to read at waybar's 22 px.
+        digit_rows = [row for row in rows if (reds := [i for i, pixel in enumerate(row) if red(pixel)])
+                      and any(min(pixel) > 200 for pixel in row[min(reds):max(reds) + 1])]
+        self.assertGreaterEqual(len(digit_rows), 7, f"the badge's digits are {len(digit_rows)} pixels tall")
         x, y, w, h = box
 
         self.desktop.click((x + w // 2, y + h // 2))
