@@ -22,10 +22,12 @@ Message makeMessage(const QString &id, bool unread = false)
 }
 
 // Records every handler call as one line.
+// Records what the model hands its send handlers, with sending allowed and, unless
+// told otherwise, one chat "1" selected.
 struct Recorder {
     QStringList calls;
 
-    void attach(ChatViewModel &model)
+    explicit Recorder(ChatViewModel &model, bool withChat = true)
     {
         model.liveSendHandler = [this](const QString &text, const QString &chat, const std::optional<QString> &reply) {
             calls.append(u"send "_s + text + u" to "_s + chat + u" reply "_s + reply.value_or(u"-"_s));
@@ -44,6 +46,8 @@ struct Recorder {
             calls.append(u"react "_s + emoji + (chosen ? u" chosen "_s : u" not chosen "_s) + id + u" in "_s + chat);
         };
         model.setCanSendMessages(true);
+        if (withChat)
+            model.replaceChats({makeChat(u"1"_s, u"A"_s)});
     }
 };
 
@@ -142,9 +146,7 @@ private Q_SLOTS:
     void sendsTextBeforeAQueuedSticker()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
-        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        Recorder recorder(model);
         model.queueSticker({5, 6, u"/s.webp"_s, u"😀"_s, 512, 512, StickerFormat::Webp});
         model.setComposerText(u"  hi \n"_s);
         model.sendMessage();
@@ -156,9 +158,7 @@ private Q_SLOTS:
     void blankTextSendsNothing()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
-        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        Recorder recorder(model);
         model.setComposerText(u"   "_s);
         model.sendMessage();
         QVERIFY(recorder.calls.isEmpty());
@@ -168,10 +168,8 @@ private Q_SLOTS:
     void sendingNeedsPermissionAndASelection()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
+        Recorder recorder(model);
         model.setCanSendMessages(false);
-        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
         model.setComposerText(u"hi"_s);
         model.sendMessage();
         model.setCanSendMessages(true);
@@ -184,9 +182,7 @@ private Q_SLOTS:
     void attachmentsGoFirstWithTheTextAsCaption()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
-        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        Recorder recorder(model);
         model.queueAttachments({{QUuid::createUuid(), u"/a.png"_s, PendingAttachmentKind::Photo}});
         model.queueAttachments({{QUuid::createUuid(), u"/b.pdf"_s, PendingAttachmentKind::Document}});
         QCOMPARE(model.pendingAttachments().size(), 2);
@@ -200,9 +196,7 @@ private Q_SLOTS:
     void queuedDocumentAndRichMediaWaitForTheirHandlers()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
-        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        Recorder recorder(model);
         model.setPendingDocumentPath(u"/d.txt"_s);
         model.setPendingRichMediaPath(u"/v.mp4"_s);
         model.setPendingRichMediaKind(MessageMediaKind::Video);
@@ -229,9 +223,7 @@ private Q_SLOTS:
     void editsAndRepliesClearTheirTarget()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
-        model.replaceChats({makeChat(u"1"_s, u"A"_s)});
+        Recorder recorder(model);
         model.setEditingMessage(makeMessage(u"7"_s));
         model.setComposerText(u"fixed"_s);
         model.sendMessage();
@@ -262,8 +254,7 @@ private Q_SLOTS:
     void reactionsReportTheStateBeforeTheToggle()
     {
         ChatViewModel model(nullptr);
-        Recorder recorder;
-        recorder.attach(model);
+        Recorder recorder(model, false);
         Message message = makeMessage(u"5"_s);
         message.reactions = {{u"👍"_s, 2, true}, {u"\u2764"_s, 1, true}};
         model.toggleReaction(u"👍"_s, message); // no selection: nothing
