@@ -211,7 +211,6 @@ bool VostApp::launch()
     // The pictures of a chat nobody looks at need not stay decoded.
     connect(m_root->viewModel(), &ChatViewModel::selectedChatIDChanged, this, &MediaImageProvider::release);
     m_popover = std::make_unique<PopoverWindow>(m_engine);
-    m_windowPlacer = makeSystemWindowPlacer();
     m_popover->setInitialProperties({{u"host"_s, QVariant::fromValue<QObject *>(m_root)},
                                      {u"popover"_s, QVariant::fromValue<QObject *>(m_popover.get())}});
     m_popover->setSource(QUrl(u"qrc:/qt/qml/Vost/App/qml/PopoverRoot.qml"_s));
@@ -317,6 +316,7 @@ bool VostApp::launch()
     m_trayWatch->setInterval(trayWatchIntervalMs);
     connect(m_trayWatch, &QTimer::timeout, this, &VostApp::chooseTray);
     chooseTray();
+    m_windowPlacer = makeSystemWindowPlacer();
     m_globalShortcut = makeSystemGlobalShortcut();
     connect(m_globalShortcut.get(), &GlobalShortcut::activated, this, &VostApp::handleGlobalShortcut);
     // The portal's answers come later: whether it exists, then whether the desktop bound it.

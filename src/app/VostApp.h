@@ -3,8 +3,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPoint>
-#include <QRect>
 #include <QPointer>
+#include <QRect>
 
 #include <chrono>
 #include <memory>
