@@ -45,11 +45,8 @@ def shoot(name, staging):
             desktop.click((x + w // 2, y + h // 2))
         elif name == "kwin":
             x, y, w, h = wait_until(desktop.tray_item_box, timeout=20, what="the item in waybar")
-            item = wait_until(desktop.registered_items, timeout=20, what="the item")[0]
             # Where Plasma's tray says a click was: at the panel's edge under the icon.
-            subprocess.run(["dbus-send", "--session", "--print-reply", f"--dest={item.split('/')[0]}", "/StatusNotifierItem",
-                            "org.kde.StatusNotifierItem.Activate", f"int32:{x + w // 2}", f"int32:{BAR_HEIGHT}"],
-                           env=desktop.env, check=True)
+            vost.activate_item(x + w // 2, BAR_HEIGHT)
         wait_until(vost.popover_shown, what="the popover")
         vost.wait_for_chats()
         wait_until(vost.messages, timeout=20, what="the chat's messages")

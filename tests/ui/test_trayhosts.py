@@ -155,16 +155,9 @@ class OwnItem(VostTestCase):
     """The item as any host reads it over the bus."""
     tray = "xfce4-panel"
 
-    def own_item(self, vost):
-        def ours():
-            items = [item for item in self.desktop.registered_items()
-                     if item.startswith(f"org.kde.StatusNotifierItem-{vost.process.pid}-")]
-            return items[0] if items else None
-        return wait_until(ours, timeout=20, what="Vost's item registered with the watcher")
-
     def test_the_item_carries_its_pictures_tool_tip_and_menu(self):
         vost = self.launch()
-        item = self.own_item(vost)
+        item = vost.status_item()
         self.assertEqual(item_value(item, "Id"), "com.corvella.Vost")
         self.assertEqual(item_value(item, "Category"), "Communications")
         self.assertFalse(item_value(item, "ItemIsMenu"))
@@ -190,19 +183,18 @@ class OwnItem(VostTestCase):
 
     def test_activate_opens_the_popover_next_to_the_point_the_host_gives(self):
         vost = self.launch()
-        service = self.own_item(vost).split("/", 1)[0]
         # The pointer far from that point: the place comes from the host.
         self.desktop.xdotool("mousemove", 100, 700)
-        bus_call(service, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "(ii)", 700, 30)
+        vost.activate_item(700, 30)
         wait_until(vost.popover_shown, what="the popover")
         px, py, pw, ph = wait_until(lambda: vost.window().extents()[2] > 100 and vost.window().extents(),
                                     what="the popover's place")
         self.assertTrue(abs(px + pw // 2 - 700) <= 40, f"popover at {px}..{px + pw}, asked for 700")
         self.assertTrue(30 <= py <= 60, f"popover's top at {py}, asked for under 30")
-        bus_call(service, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "(ii)", 700, 30)
+        vost.activate_item(700, 30)
         wait_until(lambda: not vost.popover_shown(), what="the popover closed by the second activation")
         # A host that does not know sends 0, 0: the popover opens at the pointer.
-        bus_call(service, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", "(ii)", 0, 0)
+        vost.activate_item(0, 0)
         wait_until(vost.popover_shown, what="the popover")
         px, py, pw, ph = wait_until(lambda: vost.window().extents()[2] > 100 and vost.window().extents(),
                                     what="the popover's place")
@@ -215,10 +207,6 @@ class LatePanel(VostTestCase):
     comes, then in the panel, and a window again whenever the panel or tray goes."""
     tray = False
 
-    def our_item_registered(self, vost):
-        return any(item.startswith(f"org.kde.StatusNotifierItem-{vost.process.pid}-")
-                   for item in self.desktop.registered_items())
-
     def test_vost_moves_into_a_panel_started_later_and_back_out_when_it_quits(self):
         vost = self.launch()
         wait_until(vost.popover_shown, what="the window")
@@ -226,7 +214,7 @@ class LatePanel(VostTestCase):
         time.sleep(5)
         for _ in range(2):
             self.desktop.start_tray("xfce4-panel")
-            wait_until(lambda: self.our_item_registered(vost), timeout=20, what="the item in the late panel")
+            wait_until(vost.registered_item, timeout=20, what="the item in the late panel")
             wait_until(lambda: not vost.popover_shown(), what="the window gone into the panel")
             self.desktop.stop_tray()
             wait_until(vost.popover_shown, timeout=15, what="the window back when the panel quit")

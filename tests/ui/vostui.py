@@ -532,6 +532,21 @@ class Vost:
         frames = [child for child in self.app().children() if child.role == "frame" and child.name == "Vost"]
         return frames[0] if frames else None
 
+    def registered_item(self):
+        """Its StatusNotifierItem as the host's watcher holds it ("service/path"), or None."""
+        prefix = f"org.kde.StatusNotifierItem-{self.process.pid}-"
+        return next((item for item in self.desktop.registered_items() if item.startswith(prefix)), None)
+
+    def status_item(self):
+        """Its StatusNotifierItem, once the host's watcher holds it."""
+        return wait_until(self.registered_item, timeout=20, what="Vost's item registered with the watcher")
+
+    def activate_item(self, x, y):
+        """A primary click on its item as a host reports it: where on the screen (0, 0: not known)."""
+        subprocess.run(["dbus-send", "--session", "--print-reply", f"--dest={self.status_item().split('/')[0]}",
+                        "/StatusNotifierItem", "org.kde.StatusNotifierItem.Activate", f"int32:{x}", f"int32:{y}"],
+                       env=self.desktop.env, capture_output=True, check=True)
+
     def popover_shown(self):
         window = self.window()
         return window is not None and window.showing
