@@ -146,24 +146,6 @@ void SpellCheck::attach()
         SpellChecker::shared().release();
 }
 
-void SpellCheck::setOrigin(QPointF origin)
-{
-    if (origin == m_origin)
-        return;
-    m_origin = origin;
-    update();
-    Q_EMIT originChanged();
-}
-
-void SpellCheck::setColor(const QColor &color)
-{
-    if (color == m_color)
-        return;
-    m_color = color;
-    update();
-    Q_EMIT colorChanged();
-}
-
 QVariantMap SpellCheck::misspeltWordAt(int position) const
 {
     if (!m_active || m_document == nullptr)

@@ -21,8 +21,8 @@ class SpellCheck : public QQuickPaintedItem
     QML_ELEMENT
     Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY documentChanged)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
-    Q_PROPERTY(QPointF origin READ origin WRITE setOrigin NOTIFY originChanged)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    Q_PROPERTY(QPointF origin MEMBER m_origin NOTIFY originChanged)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY colorChanged)
 
 public:
     explicit SpellCheck(QQuickItem *parent = nullptr);
@@ -32,10 +32,6 @@ public:
     void setDocument(QQuickTextDocument *document);
     bool isActive() const { return m_active; }
     void setActive(bool active);
-    QPointF origin() const { return m_origin; }
-    void setOrigin(QPointF origin);
-    QColor color() const { return m_color; }
-    void setColor(const QColor &color);
 
     // The misspelt word at a position of the document (in it or just after it):
     // {start, length, word}, or an empty map.

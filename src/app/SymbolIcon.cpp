@@ -6,24 +6,8 @@ SymbolIcon::SymbolIcon(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
-}
-
-void SymbolIcon::setName(const QString &name)
-{
-    if (name == m_name)
-        return;
-    m_name = name;
-    update();
-    Q_EMIT nameChanged();
-}
-
-void SymbolIcon::setColor(const QColor &color)
-{
-    if (color == m_color)
-        return;
-    m_color = color;
-    update();
-    Q_EMIT colorChanged();
+    connect(this, &SymbolIcon::nameChanged, this, &QQuickItem::update);
+    connect(this, &SymbolIcon::colorChanged, this, &QQuickItem::update);
 }
 
 void SymbolIcon::paint(QPainter *painter)

@@ -333,7 +333,7 @@ private Q_SLOTS:
         QTRY_COMPARE(archive.archivedCount(), 2);
         QCOMPARE(archive.archivedUnreadCount(), 4);
         QCOMPARE(column(archive, ChatListModel::IdRole), (QStringList{u"1"_s, u"3"_s}));
-        archive.setShowsArchived(true);
+        archive.setProperty("showsArchived", true);
         QCOMPARE(column(archive, ChatListModel::IdRole), (QStringList{u"2"_s, u"4"_s}));
         QCOMPARE(archive.rowOf(u"4"_s), 1);
         QCOMPARE(archive.idAt(0), u"2"_s);
@@ -341,7 +341,7 @@ private Q_SLOTS:
         viewModel.replaceChats({makeChat(1), makeChat(2), makeChat(3), archived(4, 1)});
         QCOMPARE(column(archive, ChatListModel::IdRole), (QStringList{u"4"_s}));
         QTRY_COMPARE(archive.archivedUnreadCount(), 1);
-        archive.setSearching(true);
+        archive.setProperty("searching", true);
         QCOMPARE(archive.rowCount(), 4);
     }
 
@@ -447,16 +447,16 @@ private Q_SLOTS:
         const ContactChoice james{2, u"James Wilson"_s, {}, u"JW"_s, std::nullopt, false};
         const ContactChoice liam{3, u"Liam Chen"_s, u"wilson_fan"_s, u"LC"_s, std::nullopt, false};
         viewModel.setContacts({emma, james, liam});
-        found.setListedText(u"wilson"_s);
+        found.setProperty("listedText", u"wilson"_s);
         // Telegram found all three; the name filter lists Emma and James already.
         viewModel.setContactResults({emma, james, liam});
         QCOMPARE(column(found, ContactListModel::IdRole), (QStringList{u"3"_s}));
         // Found by her username only, Emma is not listed above: she shows here.
-        found.setListedText(u"emma_w"_s);
+        found.setProperty("listedText", u"emma_w"_s);
         viewModel.setContactResults({emma});
         QCOMPARE(column(found, ContactListModel::IdRole), (QStringList{u"1"_s}));
         // A contact removed from the roster is no longer listed above.
-        found.setListedText(u"Wilson"_s);
+        found.setProperty("listedText", u"Wilson"_s);
         viewModel.setContactResults({emma, james});
         QCOMPARE(found.count(), 0);
         viewModel.setContacts({emma});

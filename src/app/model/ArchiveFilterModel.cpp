@@ -7,6 +7,8 @@ ArchiveFilterModel::ArchiveFilterModel(QObject *parent)
 {
     // Rows follow the archive flag as chats move in and out of the archive.
     setDynamicSortFilter(true);
+    for (const auto signal : {&ArchiveFilterModel::showsArchivedChanged, &ArchiveFilterModel::searchingChanged})
+        connect(this, signal, this, &ArchiveFilterModel::invalidateRowsFilter);
 }
 
 void ArchiveFilterModel::setSourceModel(QAbstractItemModel *source)
@@ -21,24 +23,6 @@ void ArchiveFilterModel::setSourceModel(QAbstractItemModel *source)
         connect(source, &QAbstractItemModel::modelReset, this, &ArchiveFilterModel::scheduleCount);
     }
     countArchived();
-}
-
-void ArchiveFilterModel::setShowsArchived(bool shows)
-{
-    if (shows == m_showsArchived)
-        return;
-    m_showsArchived = shows;
-    invalidateRowsFilter();
-    Q_EMIT showsArchivedChanged();
-}
-
-void ArchiveFilterModel::setSearching(bool searching)
-{
-    if (searching == m_searching)
-        return;
-    m_searching = searching;
-    invalidateRowsFilter();
-    Q_EMIT searchingChanged();
 }
 
 int ArchiveFilterModel::rowOf(const QString &chatID) const

@@ -11,9 +11,9 @@ class ArchiveFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(bool showsArchived READ showsArchived WRITE setShowsArchived NOTIFY showsArchivedChanged)
+    Q_PROPERTY(bool showsArchived MEMBER m_showsArchived NOTIFY showsArchivedChanged)
     // While the user searches, every chat that matches is listed, archived or not.
-    Q_PROPERTY(bool searching READ searching WRITE setSearching NOTIFY searchingChanged)
+    Q_PROPERTY(bool searching MEMBER m_searching NOTIFY searchingChanged)
     Q_PROPERTY(int archivedCount READ archivedCount NOTIFY archivedChanged)
     Q_PROPERTY(int archivedUnreadCount READ archivedUnreadCount NOTIFY archivedChanged)
 
@@ -21,10 +21,6 @@ public:
     explicit ArchiveFilterModel(QObject *parent = nullptr);
 
     void setSourceModel(QAbstractItemModel *source) override;
-    bool showsArchived() const { return m_showsArchived; }
-    void setShowsArchived(bool shows);
-    bool searching() const { return m_searching; }
-    void setSearching(bool searching);
     int archivedCount() const { return m_archivedCount; }
     int archivedUnreadCount() const { return m_archivedUnreadCount; }
 

@@ -77,8 +77,11 @@ ContactListModel::ContactListModel(ChatViewModel *viewModel, Source source, QObj
     connect(viewModel,
             source == Source::Roster ? &ChatViewModel::contactsChanged : &ChatViewModel::contactResultsChanged, this,
             &ContactListModel::refresh);
-    if (source == Source::SearchResults)
+    // Search results leave out the contacts whose name holds the listed text.
+    if (source == Source::SearchResults) {
         connect(viewModel, &ChatViewModel::contactsChanged, this, &ContactListModel::refresh);
+        connect(this, &ContactListModel::listedTextChanged, this, &ContactListModel::refresh);
+    }
 }
 
 QList<ContactChoice> ContactListModel::sourceRows() const
@@ -93,15 +96,6 @@ QList<ContactChoice> ContactListModel::sourceRows() const
     QList<ContactChoice> found = m_viewModel->contactResults();
     found.removeIf([&listed](const ContactChoice &contact) { return listed.contains(contact.id); });
     return found;
-}
-
-void ContactListModel::setListedText(const QString &text)
-{
-    if (text == m_listedText)
-        return;
-    m_listedText = text;
-    refresh();
-    Q_EMIT listedTextChanged();
 }
 
 void ContactListModel::refresh()

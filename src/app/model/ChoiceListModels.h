@@ -61,7 +61,7 @@ class ContactListModel : public RowListModel
     QML_ELEMENT
     QML_UNCREATABLE("The root view owns the contact list.")
     Q_PROPERTY(int count READ count NOTIFY countChanged)
-    Q_PROPERTY(QString listedText READ listedText WRITE setListedText NOTIFY listedTextChanged)
+    Q_PROPERTY(QString listedText MEMBER m_listedText NOTIFY listedTextChanged)
 
 public:
     enum Role { IdRole = Qt::UserRole + 1, NameRole, UsernameRole, InitialsRole, AvatarPathRole, IsOnlineRole };
@@ -76,8 +76,6 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
     int count() const { return int(m_rows.size()); }
-    QString listedText() const { return m_listedText; }
-    void setListedText(const QString &text);
 
 Q_SIGNALS:
     void countChanged();

@@ -7,15 +7,7 @@ SearchFilterModel::SearchFilterModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
     setFilterRole(ChatListModel::TitleRole);
-}
-
-void SearchFilterModel::setSearchText(const QString &text)
-{
-    if (text == m_searchText)
-        return;
-    m_searchText = text;
-    invalidateRowsFilter();
-    Q_EMIT searchTextChanged();
+    connect(this, &SearchFilterModel::searchTextChanged, this, &SearchFilterModel::invalidateRowsFilter);
 }
 
 bool SearchFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const

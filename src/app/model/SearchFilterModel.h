@@ -11,18 +11,16 @@ class SearchFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
+    Q_PROPERTY(QString searchText MEMBER m_searchText NOTIFY searchTextChanged)
 
 public:
     explicit SearchFilterModel(QObject *parent = nullptr);
-
-    QString searchText() const { return m_searchText; }
-    void setSearchText(const QString &text);
 
 Q_SIGNALS:
     void searchTextChanged();
 
 protected:
+    const QString &searchText() const { return m_searchText; }
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:

@@ -16,6 +16,7 @@ StickerPlayer::StickerPlayer(QQuickItem *parent)
     setImplicitSize(160, 160);
     m_timer.setTimerType(Qt::CoarseTimer);
     connect(&m_timer, &QTimer::timeout, this, &StickerPlayer::advance);
+    connect(this, &StickerPlayer::playingChanged, this, &StickerPlayer::updateTimer);
 }
 
 StickerPlayer::~StickerPlayer() = default;
@@ -61,15 +62,6 @@ void StickerPlayer::loaded(quint64 generation, std::shared_ptr<LottieAnimation> 
     m_animation = std::move(animation);
     setStatus(m_animation ? Ready : Error);
     drawFrame();
-    updateTimer();
-}
-
-void StickerPlayer::setPlaying(bool playing)
-{
-    if (playing == m_playing)
-        return;
-    m_playing = playing;
-    Q_EMIT playingChanged();
     updateTimer();
 }
 

@@ -19,7 +19,7 @@ class StickerPlayer : public QQuickPaintedItem
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString path READ path WRITE setPath NOTIFY pathChanged)
-    Q_PROPERTY(bool playing READ playing WRITE setPlaying NOTIFY playingChanged)
+    Q_PROPERTY(bool playing MEMBER m_playing NOTIFY playingChanged)
     Q_PROPERTY(Status status READ status NOTIFY statusChanged)
 
 public:
@@ -31,8 +31,6 @@ public:
 
     QString path() const { return m_path; }
     void setPath(const QString &path);
-    bool playing() const { return m_playing; }
-    void setPlaying(bool playing);
     Status status() const { return m_status; }
 
     void paint(QPainter *painter) override;
