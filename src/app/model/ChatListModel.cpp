@@ -42,11 +42,8 @@ void ChatListModel::refresh()
 {
     if (!m_viewModel)
         return;
-    const int before = count();
     updateRows(
         m_rows, sourceRows(), [](const Chat &chat) { return chat.id; }, sameRow);
-    if (count() != before)
-        Q_EMIT countChanged();
 }
 
 QList<Chat> ChatListModel::sourceRows() const
@@ -68,7 +65,7 @@ void ChatListModel::followSelection()
 
 int ChatListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : count();
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 int ChatListModel::rowOf(const QString &chatID) const

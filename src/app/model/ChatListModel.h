@@ -27,7 +27,6 @@ class ChatListModel : public RowListModel
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The root view owns the chat list.")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role {
@@ -62,16 +61,12 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    int count() const { return int(m_rows.size()); }
     // The row of the chat with that id, or -1.
     Q_INVOKABLE int rowOf(const QString &chatID) const;
     Q_INVOKABLE QString idAt(int row) const;
 
     // The colour behind a chat's initials, fixed by its id.
     static QColor avatarColor(const QString &chatID);
-
-Q_SIGNALS:
-    void countChanged();
 
 private:
     void refresh();

@@ -17,17 +17,14 @@ void StickerListModel::refresh()
 {
     if (!m_viewModel)
         return;
-    const int before = count();
     updateRows(
         m_rows, m_viewModel->recentStickers(), [](const StickerChoice &sticker) { return sticker.id; },
         [](const StickerChoice &a, const StickerChoice &b) { return a == b; });
-    if (count() != before)
-        Q_EMIT countChanged();
 }
 
 int StickerListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : count();
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 QVariant StickerListModel::data(const QModelIndex &index, int role) const
@@ -102,17 +99,14 @@ void ContactListModel::refresh()
 {
     if (!m_viewModel)
         return;
-    const int before = count();
     updateRows(
         m_rows, sourceRows(), [](const ContactChoice &contact) { return contact.id; },
         [](const ContactChoice &a, const ContactChoice &b) { return a == b; });
-    if (count() != before)
-        Q_EMIT countChanged();
 }
 
 int ContactListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : count();
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 QVariant ContactListModel::data(const QModelIndex &index, int role) const

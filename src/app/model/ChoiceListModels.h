@@ -18,7 +18,6 @@ class StickerListModel : public RowListModel
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The root view owns the sticker list.")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role {
@@ -38,10 +37,6 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
-    int count() const { return int(m_rows.size()); }
-
-Q_SIGNALS:
-    void countChanged();
 
 private:
     void refresh();
@@ -60,7 +55,6 @@ class ContactListModel : public RowListModel
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The root view owns the contact list.")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(QString listedText MEMBER m_listedText NOTIFY listedTextChanged)
 
 public:
@@ -75,10 +69,8 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
-    int count() const { return int(m_rows.size()); }
 
 Q_SIGNALS:
-    void countChanged();
     void listedTextChanged();
 
 private:

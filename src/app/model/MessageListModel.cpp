@@ -191,7 +191,6 @@ void MessageListModel::refresh()
     const QList<Row> rows = chat ? makeRows(chat->messages, m_viewModel->messageDetails(chatID),
                                             m_viewModel->unreadDividers().value(chatID))
                                  : QList<Row>();
-    const int before = count();
     if (chatID != m_chatID) {
         // Another chat: nothing of the old transcript stays.
         beginResetModel();
@@ -202,13 +201,11 @@ void MessageListModel::refresh()
     } else {
         updateRows(m_rows, rows, rowKey, sameRow);
     }
-    if (count() != before)
-        Q_EMIT countChanged();
 }
 
 int MessageListModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : count();
+    return parent.isValid() ? 0 : int(m_rows.size());
 }
 
 int MessageListModel::rowOf(const QString &messageID) const

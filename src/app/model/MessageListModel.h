@@ -38,7 +38,6 @@ class MessageListModel : public RowListModel
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The root view owns the transcript.")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(QString chatID READ chatID NOTIFY chatIDChanged)
 
 public:
@@ -96,7 +95,6 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    int count() const { return int(m_rows.size()); }
     QString chatID() const { return m_chatID; }
     // The row showing the message (an album's row for any of its messages), or -1.
     Q_INVOKABLE int rowOf(const QString &messageID) const;
@@ -125,7 +123,6 @@ public:
     static QVariantMap detailsItem(const MessageDetails &details);
 
 Q_SIGNALS:
-    void countChanged();
     void chatIDChanged();
 
 private:

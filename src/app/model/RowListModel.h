@@ -7,16 +7,29 @@
 // A list model that follows a list of records kept elsewhere by changing only the
 // rows that changed: removals, insertions, moves and data changes, so that views
 // keep their scroll position and selection. Records are matched by a key (their
-// id); a change too large to describe row by row becomes a reset.
+// id); a change too large to describe row by row becomes a reset. `count` is the
+// number of rows, for views that show something else when the list is empty.
 class RowListModel : public QAbstractListModel
 {
     Q_OBJECT
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
-    using QAbstractListModel::QAbstractListModel;
+    explicit RowListModel(QObject *parent = nullptr)
+        : QAbstractListModel(parent)
+    {
+        for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+            connect(this, signal, this, &RowListModel::countChanged);
+        connect(this, &QAbstractItemModel::modelReset, this, &RowListModel::countChanged);
+    }
+
+    int count() const { return rowCount(); }
 
     // More moves than this in one update reset the model instead.
     static constexpr int maximumMoves = 200;
+
+Q_SIGNALS:
+    void countChanged();
 
 protected:
     // Makes rows equal to incoming. keyOf(record) gives the key; same(a, b) tells
