@@ -10,10 +10,10 @@ Item {
     property url url
     property bool outgoing: false
     // Whether loading has finished (or was never needed).
-    readonly property bool isLoading: source.isLoading
-    readonly property alias title: source.title
-    readonly property alias siteName: source.siteName
-    readonly property alias hasImage: source.hasImage
+    readonly property bool isLoading: source.metadata.isLoading
+    readonly property string title: source.metadata.title
+    readonly property string siteName: source.metadata.siteName
+    readonly property bool hasImage: source.metadata.hasImage
 
     signal activated(url url)
 
@@ -52,8 +52,8 @@ Item {
 
             PreviewImage {
                 anchors.fill: parent
-                visible: source.hasImage
-                image: source.image
+                visible: root.hasImage
+                image: source.metadata.image
                 radius: 6
             }
 
@@ -62,7 +62,7 @@ Item {
                 id: linkSymbol
 
                 anchors.fill: parent
-                visible: !source.hasImage
+                visible: !root.hasImage
                 onPaint: {
                     const context = getContext("2d")
                     context.reset()
@@ -91,7 +91,7 @@ Item {
 
             Text {
                 width: parent.width
-                text: source.title
+                text: root.title
                 font.pixelSize: 13
                 font.weight: Font.DemiBold
                 color: root.outgoing ? "white" : palette.text
@@ -102,7 +102,7 @@ Item {
 
             Text {
                 width: parent.width
-                text: source.siteName
+                text: root.siteName
                 font.pixelSize: 12
                 color: root.outgoing ? Qt.rgba(1, 1, 1, 0.7) : Qt.rgba(palette.text.r, palette.text.g, palette.text.b, 0.6)
                 elide: Text.ElideRight
