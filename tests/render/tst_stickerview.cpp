@@ -47,39 +47,35 @@ const QByteArray animation =
     R"("p":{"a":0,"k":[0,0]},"r":{"a":0,"k":4}},{"ty":"fl","nm":"f","c":{"a":0,"k":[1,0,0,1]},)"
     R"("o":{"a":0,"k":100},"r":1}]}]})";
 
-const QByteArray harness = R"(
+// An item around one view, id "view", whose page can run a script: probe()
+// leaves the answer in probeResult and then sets probed.
+QByteArray probingHarness(const QByteArray &view)
+{
+    return R"(
 import QtQuick
 import Vost.Render
 Item {
     width: 160; height: 160
-    property int loads: 0
     property bool probed: false
     property var probeResult
-    property alias sticker: sticker
-    AnimatedStickerView { id: sticker; anchors.fill: parent; onPageLoaded: loads++ }
-    function probe(script) {
-        probed = false
-        sticker.runJavaScript(script, function (result) { probeResult = result; probed = true })
-    }
-}
-)";
-
-const QByteArray bareViewHarness = R"(
-import QtQuick
-import Vost.Render
-Item {
-    width: 160; height: 160
-    property bool loaded: false
-    property bool probed: false
-    property var probeResult
-    StickerHostView { id: view; anchors.fill: parent; onPageLoaded: loaded = true }
-    function show(page) { loaded = false; view.show(page) }
     function probe(script) {
         probed = false
         view.runJavaScript(script, function (result) { probeResult = result; probed = true })
     }
+)" + view + "}\n";
 }
-)";
+
+const QByteArray harness = probingHarness(R"(
+    property int loads: 0
+    property alias sticker: view
+    AnimatedStickerView { id: view; anchors.fill: parent; onPageLoaded: loads++ }
+)");
+
+const QByteArray bareViewHarness = probingHarness(R"(
+    property bool loaded: false
+    StickerHostView { id: view; anchors.fill: parent; onPageLoaded: loaded = true }
+    function show(page) { loaded = false; view.show(page) }
+)");
 
 // One sticker as a message shows it, with its emoji standing in.
 const QByteArray stickerHarness = R"(
