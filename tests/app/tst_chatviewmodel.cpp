@@ -155,28 +155,31 @@ private Q_SLOTS:
         QCOMPARE(model.composerText(), QString());
     }
 
-    void blankTextSendsNothing()
+    // Nothing goes out, and the composer keeps what was typed.
+    void unsendableTextStays_data()
     {
-        ChatViewModel model(nullptr);
-        Recorder recorder(model);
-        model.setComposerText(u"   "_s);
-        model.sendMessage();
-        QVERIFY(recorder.calls.isEmpty());
-        QCOMPARE(model.composerText(), u"   "_s);
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("canSend");
+        QTest::addColumn<bool>("chatSelected");
+        QTest::newRow("blank text") << u"   "_s << true << true;
+        QTest::newRow("no permission") << u"hi"_s << false << true;
+        QTest::newRow("no chat selected") << u"hi"_s << true << false;
     }
 
-    void sendingNeedsPermissionAndASelection()
+    void unsendableTextStays()
     {
+        QFETCH(QString, text);
+        QFETCH(bool, canSend);
+        QFETCH(bool, chatSelected);
         ChatViewModel model(nullptr);
         Recorder recorder(model);
-        model.setCanSendMessages(false);
-        model.setComposerText(u"hi"_s);
-        model.sendMessage();
-        model.setCanSendMessages(true);
-        model.setSelectedChatID(std::nullopt);
+        model.setCanSendMessages(canSend);
+        model.setComposerText(text);
+        if (!chatSelected)
+            model.setSelectedChatID(std::nullopt);
         model.sendMessage();
         QVERIFY(recorder.calls.isEmpty());
-        QCOMPARE(model.composerText(), u"hi"_s);
+        QCOMPARE(model.composerText(), text);
     }
 
     void attachmentsGoFirstWithTheTextAsCaption()
