@@ -134,34 +134,39 @@ private Q_SLOTS:
         QVERIFY(m_server.requestedPaths().contains("/img/a.png"));
     }
 
-    void firstAndCapitalKeysWin()
+    // Which title and site name a page without a picture gives; the server's own
+    // address stands in for what is missing.
+    void titleAndSiteName_data()
     {
-        m_server.answer("/dup", {200, "text/html",
-                                 "<meta name=\"description\" content=\"d\">"
-                                 "<meta property=\"OG:TITLE\" content=\"First\">"
-                                 "<meta property=\"og:title\" content=\"Second\">"
-                                 "<meta property=\"og:site_name\" content=\"\">"
-                                 "<title>Element</title>"});
-        auto metadata = load(m_server.url(u"/dup"_s));
-        QCOMPARE(metadata->title(), u"First"_s);
-        QCOMPARE(metadata->siteName(), u"127.0.0.1"_s); // an empty site name is not used
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("page");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("siteName");
+        QTest::newRow("first and capital keys win")
+            << 200
+            << "<meta name=\"description\" content=\"d\">"
+               "<meta property=\"OG:TITLE\" content=\"First\">"
+               "<meta property=\"og:title\" content=\"Second\">"
+               "<meta property=\"og:site_name\" content=\"\">" // an empty site name is not used
+               "<title>Element</title>"_ba
+            << u"First"_s << u"127.0.0.1"_s;
+        QTest::newRow("title element only") << 200 << "<HTML><Title lang=en>\n  Plain &amp; simple\n</TITLE>"_ba
+                                            << u"Plain & simple"_s << u"127.0.0.1"_s;
+        QTest::newRow("not found keeps the host")
+            << 404 << "<meta property=\"og:title\" content=\"Missing\">"_ba << u"127.0.0.1"_s << u"127.0.0.1"_s;
+    }
+
+    void titleAndSiteName()
+    {
+        QFETCH(int, status);
+        QFETCH(QByteArray, page);
+        QFETCH(QString, title);
+        QFETCH(QString, siteName);
+        m_server.answer("/page", {status, "text/html", page});
+        auto metadata = load(m_server.url(u"/page"_s));
+        QCOMPARE(metadata->title(), title);
+        QCOMPARE(metadata->siteName(), siteName);
         QVERIFY(!metadata->hasImage());
-    }
-
-    void titleElementOnly()
-    {
-        m_server.answer("/title", {200, "text/html", "<HTML><Title lang=en>\n  Plain &amp; simple\n</TITLE>"});
-        auto metadata = load(m_server.url(u"/title"_s));
-        QCOMPARE(metadata->title(), u"Plain & simple"_s);
-        QCOMPARE(metadata->siteName(), u"127.0.0.1"_s);
-    }
-
-    void notFoundKeepsTheHost()
-    {
-        m_server.answer("/gone", {404, "text/html", "<meta property=\"og:title\" content=\"Missing\">"});
-        auto metadata = load(m_server.url(u"/gone"_s));
-        QCOMPARE(metadata->title(), u"127.0.0.1"_s);
-        QCOMPARE(metadata->siteName(), u"127.0.0.1"_s);
     }
 
     void shortcutIconBecomesTheThumbnail()
