@@ -53,32 +53,37 @@ private Q_SLOTS:
         frame.setPixel(2, 0, qPremultiply(qRgba(0, 0, 255, 128)));
         frame.setDevicePixelRatio(2);
 
-        QList<Message> sent;
-        Message show(Kind::Show, 7);
-        show.size = QSize(320, 320);
-        show.devicePixelRatio = 2;
-        show.text = u"<!doctype html><p>ünïcödé 🐱</p>"_s;
-        sent << show;
-        Message resize(Kind::Resize, 7);
-        resize.size = QSize(100, 50);
-        sent << resize << Message(Kind::Close, 7) << Message(Kind::Acknowledge, 4000000000u);
-        Message run(Kind::Run, 7);
-        run.request = 9;
-        run.text = u"document.title"_s;
-        sent << run;
-        Message loaded(Kind::Loaded, 7);
-        loaded.succeeded = true;
-        sent << loaded;
-        Message title(Kind::PlayState, 7);
-        title.text = u"playing"_s;
-        sent << title;
-        Message frameMessage(Kind::Frame, 7);
-        frameMessage.frame = frame;
-        sent << frameMessage;
-        Message result(Kind::Result, 7);
-        result.request = 9;
-        result.result = QVariantList{1, u"two"_s, true};
-        sent << result;
+        // Each kind for view 7, filled in as the other side would.
+        const auto filled = [](Kind kind, const std::function<void(Message &)> &fill = {}) {
+            Message made(kind, 7);
+            if (fill)
+                fill(made);
+            return made;
+        };
+        const QList<Message> sent = {
+            filled(Kind::Show,
+                   [](Message &m) {
+                       m.size = QSize(320, 320);
+                       m.devicePixelRatio = 2;
+                       m.text = u"<!doctype html><p>ünïcödé 🐱</p>"_s;
+                   }),
+            filled(Kind::Resize, [](Message &m) { m.size = QSize(100, 50); }),
+            filled(Kind::Close),
+            Message(Kind::Acknowledge, 4000000000u),
+            filled(Kind::Run,
+                   [](Message &m) {
+                       m.request = 9;
+                       m.text = u"document.title"_s;
+                   }),
+            filled(Kind::Loaded, [](Message &m) { m.succeeded = true; }),
+            filled(Kind::PlayState, [](Message &m) { m.text = u"playing"_s; }),
+            filled(Kind::Frame, [&frame](Message &m) { m.frame = frame; }),
+            filled(Kind::Result,
+                   [](Message &m) {
+                       m.request = 9;
+                       m.result = QVariantList{1, u"two"_s, true};
+                   }),
+        };
 
         QByteArray stream;
         for (const Message &message : sent)
@@ -99,16 +104,16 @@ private Q_SLOTS:
             }
             QCOMPARE(received[0].size, QSize(320, 320));
             QCOMPARE(received[0].devicePixelRatio, 2.0);
-            QCOMPARE(received[0].text, show.text);
+            QCOMPARE(received[0].text, sent[0].text);
             QCOMPARE(received[1].size, QSize(100, 50));
             QCOMPARE(received[4].request, 9u);
-            QCOMPARE(received[4].text, run.text);
+            QCOMPARE(received[4].text, sent[4].text);
             QVERIFY(received[5].succeeded);
             QCOMPARE(received[6].text, u"playing"_s);
             QCOMPARE(received[7].frame, frame);
             QCOMPARE(received[7].frame.devicePixelRatio(), 2.0);
             QCOMPARE(qAlpha(received[7].frame.pixel(0, 0)), 0);
-            QCOMPARE(received[8].result, result.result);
+            QCOMPARE(received[8].result, sent[8].result);
         }
     }
 
