@@ -5,19 +5,12 @@ choosing chats from the keyboard, and what the menu offers."""
 
 import time
 
-from vostui import VostTestCase, main, wait_until, within_view
+from vostui import EMMA_NEWEST as NEWEST, VostTestCase, main, wait_until, within_view
 
-NEWEST = "You: Of course! See you at 7 🍕"
 QUESTION = "Emma Wilson: Are we still on for tonight?"
 
 
 class Scrolling(VostTestCase):
-    def open_emma(self):
-        vost = self.open_signed_in()
-        messages = vost.open_transcript("Emma Wilson", NEWEST)
-        vost.wait_for_rest()
-        return vost, messages
-
     def chip_offsets(self, vost, messages):
         """Where the question's reaction chips sit, relative to its row."""
         question = vost.find("list item", QUESTION, contains=True, within=messages)

@@ -4,21 +4,12 @@ word found only in Emma Wilson's first message brings the transcript to that
 message, the count and the buttons follow the results, and Esc returns to the
 newest message."""
 
-import time
+from vostui import EMMA_NEWEST as NEWEST, VostTestCase, inside, main, wait_until
 
-from vostui import VostTestCase, inside, main, wait_until
-
-NEWEST = "You: Of course! See you at 7 🍕"
 FIRST = "So nice to meet you at the lighthouse museum yesterday!"
 
 
 class Search(VostTestCase):
-    def open_emma(self):
-        vost = self.open_signed_in()
-        messages = vost.open_transcript("Emma Wilson", NEWEST)
-        time.sleep(0.5)
-        return vost, messages
-
     def shown(self, vost, messages, text):
         """The bubble holding text, once it is in view in the transcript."""
         def look():

@@ -5,7 +5,7 @@ history, what a bubble shows, and the keyboard."""
 import re
 import time
 
-from vostui import VostTestCase, dishonest_nodes, inside, main, wait_until
+from vostui import EMMA_NEWEST as NEWEST, VostTestCase, dishonest_nodes, inside, main, wait_until
 
 
 def intersects(inner, outer):
@@ -14,16 +14,7 @@ def intersects(inner, outer):
     return x < ox + ow and ox < x + w and y < oy + oh and oy < y + h
 
 
-NEWEST = "You: Of course! See you at 7 🍕"
-
-
 class Transcript(VostTestCase):
-    def open_emma(self, **launch):
-        vost = self.open_signed_in(**launch)
-        messages = vost.open_transcript("Emma Wilson", NEWEST)
-        time.sleep(0.5)
-        return vost, messages
-
     def test_a_chat_opens_at_its_newest_message_and_stays_there(self):
         vost, messages = self.open_emma()
         newest = vost.find("list item", NEWEST, contains=True, within=messages)

@@ -47,6 +47,8 @@ DEMO_PHONE = "+1 555 0100"
 DEMO_CODE = "22222"
 PHONE_FIELD = "Telephone number, including country code"
 CODE_FIELD = "Telegram verification code"
+# The demo chat most cases read, and its newest message.
+EMMA_NEWEST = "You: Of course! See you at 7 🍕"
 
 _BUS_CONFIG = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -889,6 +891,15 @@ class VostTestCase(unittest.TestCase):
         vost.open_popover()
         vost.wait_for_chats()
         return vost
+
+    def open_emma(self, **launch):
+        """Signs in and opens Emma Wilson's chat at its newest message, once the
+        transcript has come to rest; returns the program and the transcript."""
+        vost = self.open_signed_in(**launch)
+        messages = vost.open_transcript("Emma Wilson", EMMA_NEWEST)
+        time.sleep(0.5)  # the list may still place itself at the end
+        vost.wait_for_rest()
+        return vost, messages
 
 
 def main():
