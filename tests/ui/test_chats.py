@@ -30,9 +30,7 @@ class ChatList(VostTestCase):
 
     def test_search_filters_the_list_and_escape_clears_it(self):
         vost = self.open_signed_in()
-        vost.fill(vost.find("text", "Search"), "hik")
-        wait_until(lambda: [r.name.split(",")[0] for r in vost.chat_rows()] == ["Weekend Hikers"],
-                   what="only Weekend Hikers listed")
+        vost.search_chats("hik", ["Weekend Hikers"])
         vost.key("Escape")
         wait_until(lambda: len(vost.chat_rows()) >= 6, what="the whole list again")
         self.assertTrue(vost.popover_shown())

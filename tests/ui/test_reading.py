@@ -84,9 +84,7 @@ class FirstPage(VostTestCase):
 class Choosing(VostTestCase):
     def test_down_then_return_in_search_opens_the_highlighted_chat(self):
         vost = self.open_signed_in()
-        vost.fill(vost.find("text", "Search"), "Liam")
-        wait_until(lambda: [r.name.split(",")[0] for r in vost.chat_rows()] == ["Liam Chen"],
-                   what="only Liam Chen listed")
+        vost.search_chats("Liam", ["Liam Chen"])
         vost.key("Down")
         vost.key("Return")
         vost.find("panel", "Conversation with Liam Chen")

@@ -729,6 +729,13 @@ class Vost:
         return [row for row in self.all("list item", within=self.find("list", "Chat list"))
                 if not row.name.startswith("Archived chats")]
 
+    def search_chats(self, text, titles):
+        """Types text into the chat list's search field and waits until the list
+        shows only the chats named in titles, in that order."""
+        self.fill(self.find("text", "Search"), text)
+        wait_until(lambda: [row.name.split(",")[0] for row in self.chat_rows()] == titles,
+                   what=f"only {', '.join(titles)} listed")
+
     def wait_for_chats(self, minimum=6):
         return wait_until(lambda: len(self.chat_rows()) >= minimum and self.chat_rows(), timeout=20,
                           what=f"at least {minimum} chats")
