@@ -42,6 +42,13 @@ class Lifecycle(VostTestCase):
         vost.open_popover()
         vost.wait_for_chats()
 
+    def start_again_in_emmas_chat(self):
+        """Vost started again on the same account, with Emma Wilson's chat open."""
+        vost = self.start_again()
+        self.assert_signed_in(vost)
+        vost.open_chat("Emma Wilson")
+        return vost
+
     def test_termination_signals_end_vost_cleanly_and_keep_the_account(self):
         vost = self.open_signed_in()
         for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
@@ -79,10 +86,7 @@ class Lifecycle(VostTestCase):
         vost.key("Up", "Return")  # "Quit Vost"
         self.assertEqual(vost.process.wait(10), 0)
 
-        vost = self.start_again()
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
+        vost = self.start_again_in_emmas_chat()
         self.assertEqual(vost.find("text", "Message").text(), "Half a thought")
         vost.fill(vost.find("text", "Message"), "Written before a crash")
         # Kept once the typing pauses, so that a crash right after loses nothing.
@@ -92,10 +96,7 @@ class Lifecycle(VostTestCase):
         vost.process.kill()
         vost.process.wait()
 
-        vost = self.start_again()
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
+        vost = self.start_again_in_emmas_chat()
         self.assertEqual(vost.find("text", "Message").text(), "Written before a crash")
         # Sent text is gone from the composer, and stays gone after a restart.
         vost.focus(vost.find("text", "Message"))
@@ -104,10 +105,7 @@ class Lifecycle(VostTestCase):
         self.assertEqual(vost.find("text", "Message").text(), "")
         vost.key("ctrl+q")
         self.assertEqual(vost.process.wait(10), 0)
-        vost = self.start_again()
-        vost.open_popover()
-        vost.wait_for_chats()
-        vost.open_chat("Emma Wilson")
+        vost = self.start_again_in_emmas_chat()
         self.assertEqual(vost.find("text", "Message").text(), "")
 
     def test_many_starts_and_quits_leave_an_intact_account_and_nothing_running(self):
