@@ -5,6 +5,8 @@
 
 #include "platform/linux/PortalGlobalShortcut.h"
 
+#include "platform/linux/DBusStructure.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -31,18 +33,12 @@ struct Shortcut {
 
 QDBusArgument &operator<<(QDBusArgument &argument, const Shortcut &shortcut)
 {
-    argument.beginStructure();
-    argument << shortcut.id << shortcut.properties;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::write(argument, shortcut.id, shortcut.properties);
 }
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, Shortcut &shortcut)
 {
-    argument.beginStructure();
-    argument >> shortcut.id >> shortcut.properties;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::read(argument, shortcut.id, shortcut.properties);
 }
 
 namespace {

@@ -1,5 +1,7 @@
 #include "DBusMenuExporter.h"
 
+#include "DBusStructure.h"
+
 #include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
 #include <QDBusContext>
@@ -78,34 +80,22 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, MenuLayout &layou
 
 QDBusArgument &operator<<(QDBusArgument &argument, const MenuItemProperties &item)
 {
-    argument.beginStructure();
-    argument << item.id << item.properties;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::write(argument, item.id, item.properties);
 }
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, MenuItemProperties &item)
 {
-    argument.beginStructure();
-    argument >> item.id >> item.properties;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::read(argument, item.id, item.properties);
 }
 
 QDBusArgument &operator<<(QDBusArgument &argument, const MenuEvent &event)
 {
-    argument.beginStructure();
-    argument << event.id << event.eventId << event.data << event.timestamp;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::write(argument, event.id, event.eventId, event.data, event.timestamp);
 }
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, MenuEvent &event)
 {
-    argument.beginStructure();
-    argument >> event.id >> event.eventId >> event.data >> event.timestamp;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::read(argument, event.id, event.eventId, event.data, event.timestamp);
 }
 
 void registerMenuTypes()

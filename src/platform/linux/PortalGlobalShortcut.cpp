@@ -1,5 +1,6 @@
 #include "PortalGlobalShortcut.h"
 
+#include "DBusStructure.h"
 #include "PortalRequest.h"
 
 #include <QCoreApplication>
@@ -21,18 +22,12 @@ struct PortalShortcut {
 
 QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcut)
 {
-    argument.beginStructure();
-    argument << shortcut.id << shortcut.properties;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::write(argument, shortcut.id, shortcut.properties);
 }
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &shortcut)
 {
-    argument.beginStructure();
-    argument >> shortcut.id >> shortcut.properties;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::read(argument, shortcut.id, shortcut.properties);
 }
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "StatusNotifierItem.h"
 
 #include "DBusMenuExporter.h"
+#include "DBusStructure.h"
 
 #include <QCoreApplication>
 #include <QDBusAbstractAdaptor>
@@ -20,34 +21,22 @@ Q_DECLARE_METATYPE(StatusNotifierToolTip)
 
 QDBusArgument &operator<<(QDBusArgument &argument, const StatusNotifierPixmap &pixmap)
 {
-    argument.beginStructure();
-    argument << pixmap.width << pixmap.height << pixmap.bytes;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::write(argument, pixmap.width, pixmap.height, pixmap.bytes);
 }
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, StatusNotifierPixmap &pixmap)
 {
-    argument.beginStructure();
-    argument >> pixmap.width >> pixmap.height >> pixmap.bytes;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::read(argument, pixmap.width, pixmap.height, pixmap.bytes);
 }
 
 QDBusArgument &operator<<(QDBusArgument &argument, const StatusNotifierToolTip &toolTip)
 {
-    argument.beginStructure();
-    argument << toolTip.iconName << toolTip.iconPixmaps << toolTip.title << toolTip.text;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::write(argument, toolTip.iconName, toolTip.iconPixmaps, toolTip.title, toolTip.text);
 }
 
 const QDBusArgument &operator>>(const QDBusArgument &argument, StatusNotifierToolTip &toolTip)
 {
-    argument.beginStructure();
-    argument >> toolTip.iconName >> toolTip.iconPixmaps >> toolTip.title >> toolTip.text;
-    argument.endStructure();
-    return argument;
+    return DBusStructure::read(argument, toolTip.iconName, toolTip.iconPixmaps, toolTip.title, toolTip.text);
 }
 
 namespace {
