@@ -1,6 +1,7 @@
 #include "PopoverWindow.h"
 
 #include "AppEvents.h"
+#include "session/ChangedValue.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -45,10 +46,8 @@ PopoverWindow::PopoverWindow(QQmlEngine *engine, QWindow *parent)
 
 void PopoverWindow::setHoldsContent(bool holds)
 {
-    if (holds == m_holdsContent)
-        return;
-    m_holdsContent = holds;
-    Q_EMIT holdsContentChanged();
+    if (assignChanged(m_holdsContent, holds))
+        Q_EMIT holdsContentChanged();
 }
 
 void PopoverWindow::dropReleasedScene()

@@ -1,6 +1,7 @@
 #include "render/LinkPreviewMetadata.h"
 
 #include "render/PageFetchClient.h"
+#include "session/ChangedValue.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -260,16 +261,12 @@ void LinkPreviewMetadata::fetch(const QUrl &url, int timeoutMs, bool browserIden
 
 void LinkPreviewMetadata::setTitle(const QString &title)
 {
-    if (title == m_title)
-        return;
-    m_title = title;
-    Q_EMIT titleChanged();
+    if (assignChanged(m_title, title))
+        Q_EMIT titleChanged();
 }
 
 void LinkPreviewMetadata::setSiteName(const QString &siteName)
 {
-    if (siteName == m_siteName)
-        return;
-    m_siteName = siteName;
-    Q_EMIT siteNameChanged();
+    if (assignChanged(m_siteName, siteName))
+        Q_EMIT siteNameChanged();
 }

@@ -1,5 +1,6 @@
 #include "session/AuthorizationStore.h"
 
+#include "session/ChangedValue.h"
 #include "session/ContentTexts.h"
 
 using namespace Qt::StringLiterals;
@@ -12,25 +13,20 @@ AuthorizationStore::AuthorizationStore(SendRequest send, QObject *parent)
 
 void AuthorizationStore::setStep(const Step &step)
 {
-    if (m_step == step)
-        return;
-    m_step = step;
-    Q_EMIT stepChanged();
+    if (assignChanged(m_step, step))
+        Q_EMIT stepChanged();
 }
 
 void AuthorizationStore::setErrorMessage(const std::optional<QString> &message)
 {
-    if (m_errorMessage == message)
-        return;
-    m_errorMessage = message;
-    Q_EMIT errorMessageChanged();
+    if (assignChanged(m_errorMessage, message))
+        Q_EMIT errorMessageChanged();
 }
 
 void AuthorizationStore::setStartupStatus(const QString &status)
 {
-    if (m_startupStatus == status)
+    if (!assignChanged(m_startupStatus, status))
         return;
-    m_startupStatus = status;
     m_lastEventType.clear();
     Q_EMIT startupStatusChanged();
 }

@@ -4,6 +4,7 @@
 
 #include "session/ContactStore.h"
 
+#include "session/ChangedValue.h"
 #include "session/ContactInput.h"
 #include "session/ContentTexts.h"
 #include "session/Initials.h"
@@ -89,18 +90,14 @@ void ContactStore::noteUser(const TdObject &user)
 
 void ContactStore::setConversationError(const std::optional<QString> &error)
 {
-    if (m_conversationError == error)
-        return;
-    m_conversationError = error;
-    Q_EMIT conversationErrorChanged();
+    if (assignChanged(m_conversationError, error))
+        Q_EMIT conversationErrorChanged();
 }
 
 void ContactStore::setCreatingConversation(bool creating)
 {
-    if (m_creatingConversation == creating)
-        return;
-    m_creatingConversation = creating;
-    Q_EMIT creatingConversationChanged();
+    if (assignChanged(m_creatingConversation, creating))
+        Q_EMIT creatingConversationChanged();
 }
 
 void ContactStore::refresh()

@@ -1,5 +1,6 @@
 #include "session/StickerStore.h"
 
+#include "session/ChangedValue.h"
 #include "session/ContentTexts.h"
 #include "session/Emoji.h"
 
@@ -32,18 +33,14 @@ StickerStore::StickerStore(SendRequest send, QObject *parent)
 
 void StickerStore::setRecentStickersLoaded(bool loaded)
 {
-    if (m_recentStickersLoaded == loaded)
-        return;
-    m_recentStickersLoaded = loaded;
-    Q_EMIT recentStickersLoadedChanged();
+    if (assignChanged(m_recentStickersLoaded, loaded))
+        Q_EMIT recentStickersLoadedChanged();
 }
 
 void StickerStore::setStickerError(const std::optional<QString> &error)
 {
-    if (m_stickerError == error)
-        return;
-    m_stickerError = error;
-    Q_EMIT stickerErrorChanged();
+    if (assignChanged(m_stickerError, error))
+        Q_EMIT stickerErrorChanged();
 }
 
 void StickerStore::reset()

@@ -4,6 +4,7 @@
 
 #include "session/Announcer.h"
 #include "session/AuthorizationStore.h"
+#include "session/ChangedValue.h"
 #include "session/ChatSearchStore.h"
 #include "session/ContactStore.h"
 #include "session/DownloadStore.h"
@@ -107,10 +108,8 @@ QDate TelegramSession::localToday()
 
 void TelegramSession::setConnectionState(ConnectionState state)
 {
-    if (m_connectionState == state)
-        return;
-    m_connectionState = state;
-    Q_EMIT connectionStateChanged();
+    if (assignChanged(m_connectionState, state))
+        Q_EMIT connectionStateChanged();
 }
 
 Step TelegramSession::step() const

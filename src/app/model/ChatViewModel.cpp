@@ -2,6 +2,7 @@
 
 #include "Attachments.h"
 
+#include "session/ChangedValue.h"
 #include "session/ContentTexts.h"
 
 #include <QFileInfo>
@@ -51,14 +52,6 @@ QVariantMap stickerItem(const StickerChoice &sticker)
             {u"format"_s, int(sticker.format)}};
 }
 
-template<typename T> bool assign(T &field, const T &value)
-{
-    if (field == value)
-        return false;
-    field = value;
-    return true;
-}
-
 // A refused file as refusedFiles lists it.
 QVariantMap refusedFile(const QString &path, Attachments::Refusal reason)
 {
@@ -99,7 +92,7 @@ ChatViewModel::~ChatViewModel() = default;
 
 void ChatViewModel::setSelectedChatID(const std::optional<QString> &chatID)
 {
-    if (!assign(m_selectedChatID, chatID))
+    if (!assignChanged(m_selectedChatID, chatID))
         return;
     Q_EMIT selectedChatIDChanged();
     Q_EMIT selectedChatChanged();
@@ -117,91 +110,91 @@ void ChatViewModel::clearRefusedFiles()
 
 void ChatViewModel::setSearchText(const QString &text)
 {
-    if (assign(m_searchText, text))
+    if (assignChanged(m_searchText, text))
         Q_EMIT searchTextChanged();
 }
 
 void ChatViewModel::setComposerText(const QString &text)
 {
-    if (assign(m_composerText, text))
+    if (assignChanged(m_composerText, text))
         Q_EMIT composerTextChanged();
 }
 
 void ChatViewModel::setPendingAttachments(const QList<PendingAttachment> &attachments)
 {
-    if (assign(m_pendingAttachments, attachments))
+    if (assignChanged(m_pendingAttachments, attachments))
         Q_EMIT pendingAttachmentsChanged();
 }
 
 void ChatViewModel::setPendingDocumentPath(const std::optional<QString> &path)
 {
-    if (assign(m_pendingDocumentPath, path))
+    if (assignChanged(m_pendingDocumentPath, path))
         Q_EMIT pendingDocumentPathChanged();
 }
 
 void ChatViewModel::setPendingRichMediaPath(const std::optional<QString> &path)
 {
-    if (assign(m_pendingRichMediaPath, path))
+    if (assignChanged(m_pendingRichMediaPath, path))
         Q_EMIT pendingRichMediaPathChanged();
 }
 
 void ChatViewModel::setPendingRichMediaKind(const std::optional<MessageMediaKind> &kind)
 {
-    if (assign(m_pendingRichMediaKind, kind))
+    if (assignChanged(m_pendingRichMediaKind, kind))
         Q_EMIT pendingRichMediaKindChanged();
 }
 
 void ChatViewModel::setRecentStickers(const QList<StickerChoice> &stickers)
 {
-    if (assign(m_recentStickers, stickers))
+    if (assignChanged(m_recentStickers, stickers))
         Q_EMIT recentStickersChanged();
 }
 
 void ChatViewModel::setRecentStickersLoaded(bool loaded)
 {
-    if (assign(m_recentStickersLoaded, loaded))
+    if (assignChanged(m_recentStickersLoaded, loaded))
         Q_EMIT recentStickersLoadedChanged();
 }
 
 void ChatViewModel::setContactResults(const QList<ContactChoice> &results)
 {
-    if (assign(m_contactResults, results))
+    if (assignChanged(m_contactResults, results))
         Q_EMIT contactResultsChanged();
 }
 
 void ChatViewModel::setContacts(const QList<ContactChoice> &contacts)
 {
-    if (assign(m_contacts, contacts))
+    if (assignChanged(m_contacts, contacts))
         Q_EMIT contactsChanged();
 }
 
 void ChatViewModel::setPendingSticker(const std::optional<StickerChoice> &sticker)
 {
-    if (assign(m_pendingSticker, sticker))
+    if (assignChanged(m_pendingSticker, sticker))
         Q_EMIT pendingStickerChanged();
 }
 
 void ChatViewModel::setReplyToMessage(const std::optional<Message> &message)
 {
-    if (assign(m_replyToMessage, message))
+    if (assignChanged(m_replyToMessage, message))
         Q_EMIT replyToMessageChanged();
 }
 
 void ChatViewModel::setEditingMessage(const std::optional<Message> &message)
 {
-    if (assign(m_editingMessage, message))
+    if (assignChanged(m_editingMessage, message))
         Q_EMIT editingMessageChanged();
 }
 
 void ChatViewModel::setCanSendMessages(bool canSend)
 {
-    if (assign(m_canSendMessages, canSend))
+    if (assignChanged(m_canSendMessages, canSend))
         Q_EMIT canSendMessagesChanged();
 }
 
 void ChatViewModel::setUnreadDividers(const QHash<QString, QString> &dividers)
 {
-    if (assign(m_unreadDividers, dividers))
+    if (assignChanged(m_unreadDividers, dividers))
         Q_EMIT unreadDividersChanged();
 }
 
@@ -545,7 +538,7 @@ QStringList ChatViewModel::reactionPalette()
 
 void ChatViewModel::setStickerError(const QString &error)
 {
-    if (assign(m_stickerError, error))
+    if (assignChanged(m_stickerError, error))
         Q_EMIT stickerErrorChanged();
 }
 

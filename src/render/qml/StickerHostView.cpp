@@ -2,6 +2,7 @@
 
 #include "StickerHostClient.h"
 #include "render/StickerPage.h"
+#include "session/ChangedValue.h"
 
 #include <QJSEngine>
 #include <QQuickWindow>
@@ -40,10 +41,8 @@ void StickerHostView::show(const QString &page)
 
 void StickerHostView::setPlayState(int state)
 {
-    if (state == m_playState)
-        return;
-    m_playState = state;
-    Q_EMIT playStateChanged();
+    if (assignChanged(m_playState, state))
+        Q_EMIT playStateChanged();
 }
 
 void StickerHostView::runJavaScript(const QString &script, const QJSValue &callback)

@@ -1,5 +1,7 @@
 #include "StickerPageController.h"
 
+#include "session/ChangedValue.h"
+
 #include <QMetaObject>
 
 static_assert(StickerPageController::Loading == int(StickerPage::PlayState::Loading) &&
@@ -53,16 +55,12 @@ void StickerPageController::update()
 
 void StickerPageController::reportPlayState(PlayState state)
 {
-    if (state == m_playState)
-        return;
-    m_playState = state;
-    Q_EMIT playStateChanged();
+    if (assignChanged(m_playState, state))
+        Q_EMIT playStateChanged();
 }
 
 void StickerPageController::markUnavailable()
 {
-    if (m_playState == Unavailable)
-        return;
-    m_playState = Unavailable;
-    Q_EMIT playStateChanged();
+    if (assignChanged(m_playState, Unavailable))
+        Q_EMIT playStateChanged();
 }

@@ -1,5 +1,7 @@
 #include "StickerPlayer.h"
 
+#include "session/ChangedValue.h"
+
 #include <QCoreApplication>
 #include <QPainter>
 #include <QQuickWindow>
@@ -23,9 +25,8 @@ StickerPlayer::~StickerPlayer() = default;
 
 void StickerPlayer::setPath(const QString &path)
 {
-    if (path == m_path)
+    if (!assignChanged(m_path, path))
         return;
-    m_path = path;
     Q_EMIT pathChanged();
     const quint64 generation = ++m_generation;
     m_animation.reset();
@@ -67,10 +68,8 @@ void StickerPlayer::loaded(quint64 generation, std::shared_ptr<LottieAnimation> 
 
 void StickerPlayer::setStatus(Status status)
 {
-    if (status == m_status)
-        return;
-    m_status = status;
-    Q_EMIT statusChanged();
+    if (assignChanged(m_status, status))
+        Q_EMIT statusChanged();
 }
 
 void StickerPlayer::itemChange(ItemChange change, const ItemChangeData &value)
