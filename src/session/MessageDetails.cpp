@@ -2,6 +2,9 @@
 
 #include "session/ContentTexts.h"
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 using Kind = MessageContent::Kind;
 
@@ -10,22 +13,14 @@ namespace {
 Kind kindOf(const TdObject &content)
 {
     static const QHash<QString, Kind> kinds{
-        {u"messageText"_s, Kind::Text},
-        {u"messageAnimatedEmoji"_s, Kind::Text},
-        {u"messagePhoto"_s, Kind::Photo},
-        {u"messageVideo"_s, Kind::Video},
-        {u"messageAnimation"_s, Kind::Animation},
-        {u"messageVoiceNote"_s, Kind::VoiceNote},
-        {u"messageVideoNote"_s, Kind::VideoNote},
-        {u"messageAudio"_s, Kind::Audio},
-        {u"messageDocument"_s, Kind::Document},
-        {u"messageSticker"_s, Kind::Sticker},
-        {u"messageLocation"_s, Kind::Location},
-        {u"messageVenue"_s, Kind::Venue},
-        {u"messageContact"_s, Kind::Contact},
-        {u"messagePoll"_s, Kind::Poll},
-        {u"messageCall"_s, Kind::Call},
-        {u"messageDice"_s, Kind::Dice},
+        {u"messageText"_s, Kind::Text},           {u"messageAnimatedEmoji"_s, Kind::Text},
+        {u"messagePhoto"_s, Kind::Photo},         {u"messageVideo"_s, Kind::Video},
+        {u"messageAnimation"_s, Kind::Animation}, {u"messageVoiceNote"_s, Kind::VoiceNote},
+        {u"messageVideoNote"_s, Kind::VideoNote}, {u"messageAudio"_s, Kind::Audio},
+        {u"messageDocument"_s, Kind::Document},   {u"messageSticker"_s, Kind::Sticker},
+        {u"messageLocation"_s, Kind::Location},   {u"messageVenue"_s, Kind::Venue},
+        {u"messageContact"_s, Kind::Contact},     {u"messagePoll"_s, Kind::Poll},
+        {u"messageCall"_s, Kind::Call},           {u"messageDice"_s, Kind::Dice},
     };
     const Kind kind = kinds.value(typeOf(content), Kind::Other);
     // A picture sent as a file is shown as a photo.
@@ -59,6 +54,21 @@ QByteArray minithumbnailOf(const TdObject &media)
     return data.isString() ? QByteArray::fromBase64(data.toString().toLatin1()) : QByteArray();
 }
 
+// Where TDLib keeps a message's media object and, in it, the file:
+// content[mediaKey][fileKey].
+struct MediaPlace {
+    QLatin1StringView type;
+    QLatin1StringView mediaKey;
+    QLatin1StringView fileKey;
+};
+
+constexpr MediaPlace mediaPlaces[] = {
+    {"messageVideo"_L1, "video"_L1, "video"_L1},          {"messageAnimation"_L1, "animation"_L1, "animation"_L1},
+    {"messageVideoNote"_L1, "video_note"_L1, "video"_L1}, {"messageVoiceNote"_L1, "voice_note"_L1, "voice"_L1},
+    {"messageAudio"_L1, "audio"_L1, "audio"_L1},          {"messageDocument"_L1, "document"_L1, "document"_L1},
+    {"messageSticker"_L1, "sticker"_L1, "sticker"_L1},
+};
+
 void readMedia(MessageDetails &details, const TdObject &content)
 {
     const QString type = typeOf(content);
@@ -69,31 +79,23 @@ void readMedia(MessageDetails &details, const TdObject &content)
         readFile(details, size.value("photo"_L1).toObject());
         details.width = intOf(size, "width");
         details.height = intOf(size, "height");
-    } else if (type == "messageVideo"_L1 || type == "messageAnimation"_L1 || type == "messageVideoNote"_L1) {
-        const char *key = type == "messageVideo"_L1 ? "video" : type == "messageAnimation"_L1 ? "animation" : "video_note";
-        media = content.value(QLatin1StringView(key)).toObject();
-        readFile(details, media.value(type == "messageAnimation"_L1 ? "animation"_L1 : "video"_L1).toObject());
-        details.width = type == "messageVideoNote"_L1 ? intOf(media, "length") : intOf(media, "width");
-        details.height = type == "messageVideoNote"_L1 ? intOf(media, "length") : intOf(media, "height");
-    } else if (type == "messageVoiceNote"_L1) {
-        media = content.value("voice_note"_L1).toObject();
-        readFile(details, media.value("voice"_L1).toObject());
-    } else if (type == "messageAudio"_L1) {
-        media = content.value("audio"_L1).toObject();
-        readFile(details, media.value("audio"_L1).toObject());
-        details.title = stringOf(media, "title");
-        details.performer = stringOf(media, "performer");
-    } else if (type == "messageDocument"_L1) {
-        media = content.value("document"_L1).toObject();
-        readFile(details, media.value("document"_L1).toObject());
-    } else if (type == "messageSticker"_L1) {
-        media = content.value("sticker"_L1).toObject();
-        readFile(details, media.value("sticker"_L1).toObject());
-        details.width = intOf(media, "width");
-        details.height = intOf(media, "height");
-        return;
     } else {
-        return;
+        const auto place = std::find_if(std::begin(mediaPlaces), std::end(mediaPlaces),
+                                        [&type](const MediaPlace &entry) { return entry.type == type; });
+        if (place == std::end(mediaPlaces))
+            return;
+        media = content.value(place->mediaKey).toObject();
+        readFile(details, media.value(place->fileKey).toObject());
+        // A video note is a square of one side.
+        const bool square = type == "messageVideoNote"_L1;
+        details.width = intOf(media, square ? "length" : "width");
+        details.height = intOf(media, square ? "length" : "height");
+        if (type == "messageAudio"_L1) {
+            details.title = stringOf(media, "title");
+            details.performer = stringOf(media, "performer");
+        } else if (type == "messageSticker"_L1) {
+            return;
+        }
     }
     details.duration = intOf(media, "duration");
     details.fileName = stringOf(media, "file_name");
@@ -107,8 +109,7 @@ void readCard(MessageDetails &details, const TdObject &content)
     case Kind::Location:
     case Kind::Venue: {
         const TdObject venue = content.value("venue"_L1).toObject();
-        const TdObject location =
-            (details.kind == Kind::Venue ? venue : content).value("location"_L1).toObject();
+        const TdObject location = (details.kind == Kind::Venue ? venue : content).value("location"_L1).toObject();
         details.latitude = location.value("latitude"_L1).toDouble();
         details.longitude = location.value("longitude"_L1).toDouble();
         details.placeName = stringOf(venue, "title");
@@ -141,10 +142,10 @@ void readCard(MessageDetails &details, const TdObject &content)
         details.callIsVideo = content.value("is_video"_L1).toBool();
         details.duration = intOf(content, "duration");
         const QString reason = typeOf(content.value("discard_reason"_L1));
-        details.callEnd = reason == "callDiscardReasonMissed"_L1        ? MessageContent::CallEnd::Missed
+        details.callEnd = reason == "callDiscardReasonMissed"_L1         ? MessageContent::CallEnd::Missed
                           : reason == "callDiscardReasonDeclined"_L1     ? MessageContent::CallEnd::Declined
                           : reason == "callDiscardReasonDisconnected"_L1 ? MessageContent::CallEnd::Disconnected
-                                                                          : MessageContent::CallEnd::Ended;
+                                                                         : MessageContent::CallEnd::Ended;
         break;
     }
     case Kind::Dice:
@@ -286,7 +287,8 @@ MessageDetails messageDetails(const TdObject &message, const MessageDetailsConte
     readMedia(details, content);
     readCard(details, content);
     details.isForwarded = message.value("forward_info"_L1).isObject();
-    details.forwardedFrom = originName(message.value("forward_info"_L1).toObject().value("origin"_L1).toObject(), context);
+    details.forwardedFrom =
+        originName(message.value("forward_info"_L1).toObject().value("origin"_L1).toObject(), context);
     readReply(details, message, context);
     return details;
 }
