@@ -14,18 +14,14 @@ StickerPageController::StickerPageController(QObject *parent)
 
 void StickerPageController::setPath(const QString &path)
 {
-    const bool changed = path != m_path;
-    m_path = path;
-    if (changed)
+    if (assignChanged(m_path, path))
         Q_EMIT pathChanged();
     scheduleUpdate();
 }
 
 void StickerPageController::setFormat(StickerFormat format)
 {
-    const bool changed = format != m_format;
-    m_format = format;
-    if (changed)
+    if (assignChanged(m_format, format))
         Q_EMIT formatChanged();
     scheduleUpdate();
 }
