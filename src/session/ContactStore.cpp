@@ -413,12 +413,7 @@ void ContactStore::publishContactResult(const TdObject &user, const QString &que
     const ContactName name = contactName(user);
     m_contactNames.insert(*userID, name);
     const ContactChoice choice = makeContactChoice(*userID, name);
-    const auto same = std::find_if(m_contactResults.begin(), m_contactResults.end(),
-                                   [&choice](const ContactChoice &c) { return c.id == choice.id; });
-    if (same != m_contactResults.end())
-        *same = choice;
-    else
-        m_contactResults.append(choice);
+    replaceOrAppend(m_contactResults, choice);
     Q_EMIT contactResultsChanged();
 }
 

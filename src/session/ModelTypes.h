@@ -144,3 +144,15 @@ struct ContactChoice {
 
     friend bool operator==(const ContactChoice &, const ContactChoice &) = default;
 };
+
+// Puts a choice in place of the listed one with its id, or at the end of the list.
+template<typename Choice> void replaceOrAppend(QList<Choice> &choices, const Choice &choice)
+{
+    for (Choice &listed : choices) {
+        if (listed.id == choice.id) {
+            listed = choice;
+            return;
+        }
+    }
+    choices.append(choice);
+}

@@ -174,12 +174,7 @@ void StickerStore::prepareStickerChoices(const QJsonArray &stickers)
 
 void StickerStore::addRecentSticker(const StickerChoice &choice)
 {
-    const auto same = std::find_if(m_recentStickers.begin(), m_recentStickers.end(),
-                                   [&choice](const StickerChoice &c) { return c.id == choice.id; });
-    if (same != m_recentStickers.end())
-        *same = choice;
-    else
-        m_recentStickers.append(choice);
+    replaceOrAppend(m_recentStickers, choice);
     Q_EMIT recentStickersChanged();
 }
 
