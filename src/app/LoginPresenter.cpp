@@ -2,7 +2,7 @@
 
 #include "app/AppLanguage.h"
 #include "app/ErrorTexts.h"
-#include "app/PhoneNumbers.h"
+#include "app/Formats.h"
 #include "bundle/AppBundle.h"
 #include "session/TelegramSession.h"
 
@@ -203,7 +203,7 @@ QString LoginPresenter::codeDestination() const
     if (!session || shownStep() != Case::VerificationCode)
         return {};
     const CodeInfo info = session->codeInfo();
-    const QString number = PhoneNumbers::international(info.phoneNumber);
+    const QString number = Formats::phoneNumber(info.phoneNumber);
     switch (info.delivery) {
     case CodeInfo::Delivery::TelegramApp:
         return tr("We’ve sent the code for %1 to the Telegram app on your other device.").arg(number);

@@ -2,7 +2,7 @@
 // numbers as the preferences show them.
 
 #include "app/ErrorTexts.h"
-#include "app/PhoneNumbers.h"
+#include "app/Formats.h"
 
 #include <QTest>
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, number);
         QFETCH(QString, shown);
-        QCOMPARE(PhoneNumbers::international(number), shown);
+        QCOMPARE(Formats::phoneNumber(number), shown);
     }
 };
 

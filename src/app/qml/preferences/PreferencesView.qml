@@ -222,7 +222,7 @@ FocusScope {
                         font.weight: Font.DemiBold
                     }
                     ReadableText {
-                        text: PhoneNumbers.international(page.host.access.currentAccountPhoneNumber)
+                        text: Formats.phoneNumber(page.host.access.currentAccountPhoneNumber)
                         color: Appearance.secondaryText
                         font.pixelSize: 12
                     }
