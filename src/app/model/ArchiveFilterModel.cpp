@@ -7,6 +7,9 @@ ArchiveFilterModel::ArchiveFilterModel(QObject *parent)
 {
     // Rows follow the archive flag as chats move in and out of the archive.
     setDynamicSortFilter(true);
+    m_countTimer.setSingleShot(true);
+    m_countTimer.setInterval(0);
+    connect(&m_countTimer, &QTimer::timeout, this, &ArchiveFilterModel::countArchived);
     for (const auto signal : {&ArchiveFilterModel::showsArchivedChanged, &ArchiveFilterModel::searchingChanged})
         connect(this, signal, this, &ArchiveFilterModel::invalidateRowsFilter);
 }
@@ -17,10 +20,11 @@ void ArchiveFilterModel::setSourceModel(QAbstractItemModel *source)
         disconnect(sourceModel(), nullptr, this, nullptr);
     QSortFilterProxyModel::setSourceModel(source);
     if (source) {
+        const auto scheduleCount = [this] { m_countTimer.start(); };
         for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-            connect(source, signal, this, &ArchiveFilterModel::scheduleCount);
-        connect(source, &QAbstractItemModel::dataChanged, this, &ArchiveFilterModel::scheduleCount);
-        connect(source, &QAbstractItemModel::modelReset, this, &ArchiveFilterModel::scheduleCount);
+            connect(source, signal, this, scheduleCount);
+        connect(source, &QAbstractItemModel::dataChanged, this, scheduleCount);
+        connect(source, &QAbstractItemModel::modelReset, this, scheduleCount);
     }
     countArchived();
 }
@@ -46,18 +50,8 @@ bool ArchiveFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sour
                m_showsArchived;
 }
 
-// One update of the list changes many rows: they are counted once, after it.
-void ArchiveFilterModel::scheduleCount()
-{
-    if (m_countScheduled)
-        return;
-    m_countScheduled = true;
-    QMetaObject::invokeMethod(this, &ArchiveFilterModel::countArchived, Qt::QueuedConnection);
-}
-
 void ArchiveFilterModel::countArchived()
 {
-    m_countScheduled = false;
     int count = 0;
     int unread = 0;
     if (const QAbstractItemModel *source = sourceModel()) {

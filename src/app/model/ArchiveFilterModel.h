@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSortFilterProxyModel>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 // The sidebar's chats on one side of the archive: the main list without the
@@ -37,12 +38,12 @@ protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:
-    void scheduleCount();
     void countArchived();
 
     bool m_showsArchived = false;
     bool m_searching = false;
     int m_archivedCount = 0;
     int m_archivedUnreadCount = 0;
-    bool m_countScheduled = false;
+    // One update of the list changes many rows: they are counted once, after it.
+    QTimer m_countTimer;
 };
