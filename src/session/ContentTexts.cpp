@@ -216,6 +216,24 @@ QList<MessageReaction> messageReactions(const TdObject &message)
     return reactions;
 }
 
+const MediaPlace *mediaPlace(const QString &contentType)
+{
+    static constexpr MediaPlace places[] = {
+        {"messageVideo"_L1, "video"_L1, "video"_L1, MessageMediaKind::Video},
+        {"messageAnimation"_L1, "animation"_L1, "animation"_L1, MessageMediaKind::Animation},
+        {"messageVideoNote"_L1, "video_note"_L1, "video"_L1, std::nullopt},
+        {"messageVoiceNote"_L1, "voice_note"_L1, "voice"_L1, MessageMediaKind::Voice},
+        {"messageAudio"_L1, "audio"_L1, "audio"_L1, MessageMediaKind::Audio},
+        {"messageDocument"_L1, "document"_L1, "document"_L1, std::nullopt},
+        {"messageSticker"_L1, "sticker"_L1, "sticker"_L1, MessageMediaKind::Sticker},
+    };
+    for (const MediaPlace &place : places) {
+        if (place.type == contentType)
+            return &place;
+    }
+    return nullptr;
+}
+
 TdObject largestPhotoSize(const QJsonArray &sizes)
 {
     std::optional<TdObject> best;

@@ -32,6 +32,19 @@ StickerFormat stickerFormat(const QJsonValue &format);
 // Emoji reactions from a message's "interaction_info", in TDLib's order.
 QList<MessageReaction> messageReactions(const TdObject &message);
 
+// Where TDLib keeps the media object of a message's content and, in it, the file:
+// content[mediaKey][fileKey]. shownAs: how the transcript shows the file; none for
+// a video note and a document (shown as a photo only when it is an image).
+struct MediaPlace {
+    QLatin1StringView type;
+    QLatin1StringView mediaKey;
+    QLatin1StringView fileKey;
+    std::optional<MessageMediaKind> shownAs;
+};
+// The place of a content type that keeps one file in its media object (all but
+// photos, which keep sizes); null for other types.
+const MediaPlace *mediaPlace(const QString &contentType);
+
 // The largest size of a photo ("photoSize") that is downloaded or can be; an
 // empty object when there is none.
 TdObject largestPhotoSize(const QJsonArray &sizes);

@@ -20,24 +20,15 @@ TelegramSession::prepareMessageMedia(const TdObject &content, const QString &cha
                    .value("photo"_L1)
                    .toObject();
         kind = MessageMediaKind::Photo;
-    } else if (type == "messageSticker"_L1) {
-        file = content.value("sticker"_L1).toObject().value("sticker"_L1).toObject();
-        kind = MessageMediaKind::Sticker;
-    } else if (type == "messageVideo"_L1) {
-        file = content.value("video"_L1).toObject().value("video"_L1).toObject();
-        kind = MessageMediaKind::Video;
-    } else if (type == "messageAnimation"_L1) {
-        file = content.value("animation"_L1).toObject().value("animation"_L1).toObject();
-        kind = MessageMediaKind::Animation;
-    } else if (type == "messageVoiceNote"_L1) {
-        file = content.value("voice_note"_L1).toObject().value("voice"_L1).toObject();
-        kind = MessageMediaKind::Voice;
-    } else if (type == "messageAudio"_L1) {
-        file = content.value("audio"_L1).toObject().value("audio"_L1).toObject();
-        kind = MessageMediaKind::Audio;
-    } else if (type == "messageDocument"_L1 && isImageDocument(content.value("document"_L1).toObject())) {
-        file = content.value("document"_L1).toObject().value("document"_L1).toObject();
-        kind = MessageMediaKind::Photo;
+    } else if (const MediaPlace *place = mediaPlace(type)) {
+        const TdObject media = content.value(place->mediaKey).toObject();
+        if (place->shownAs)
+            kind = *place->shownAs;
+        else if (type == "messageDocument"_L1 && isImageDocument(media))
+            kind = MessageMediaKind::Photo;
+        else
+            return {};
+        file = media.value(place->fileKey).toObject();
     } else {
         return {};
     }

@@ -2,9 +2,6 @@
 
 #include "session/ContentTexts.h"
 
-#include <algorithm>
-#include <iterator>
-
 using namespace Qt::StringLiterals;
 using Kind = MessageContent::Kind;
 
@@ -54,21 +51,6 @@ QByteArray minithumbnailOf(const TdObject &media)
     return data.isString() ? QByteArray::fromBase64(data.toString().toLatin1()) : QByteArray();
 }
 
-// Where TDLib keeps a message's media object and, in it, the file:
-// content[mediaKey][fileKey].
-struct MediaPlace {
-    QLatin1StringView type;
-    QLatin1StringView mediaKey;
-    QLatin1StringView fileKey;
-};
-
-constexpr MediaPlace mediaPlaces[] = {
-    {"messageVideo"_L1, "video"_L1, "video"_L1},          {"messageAnimation"_L1, "animation"_L1, "animation"_L1},
-    {"messageVideoNote"_L1, "video_note"_L1, "video"_L1}, {"messageVoiceNote"_L1, "voice_note"_L1, "voice"_L1},
-    {"messageAudio"_L1, "audio"_L1, "audio"_L1},          {"messageDocument"_L1, "document"_L1, "document"_L1},
-    {"messageSticker"_L1, "sticker"_L1, "sticker"_L1},
-};
-
 void readMedia(MessageDetails &details, const TdObject &content)
 {
     const QString type = typeOf(content);
@@ -80,9 +62,8 @@ void readMedia(MessageDetails &details, const TdObject &content)
         details.width = intOf(size, "width");
         details.height = intOf(size, "height");
     } else {
-        const auto place = std::find_if(std::begin(mediaPlaces), std::end(mediaPlaces),
-                                        [&type](const MediaPlace &entry) { return entry.type == type; });
-        if (place == std::end(mediaPlaces))
+        const MediaPlace *place = mediaPlace(type);
+        if (!place)
             return;
         media = content.value(place->mediaKey).toObject();
         readFile(details, media.value(place->fileKey).toObject());
