@@ -22,15 +22,6 @@ const auto kCode = "22222"_L1;
 const auto kPassword = "vostdemo"_L1;
 const auto kPasswordHint = "the app's name, then demo"_L1;
 
-QString digits(const QString &text)
-{
-    QString result;
-    for (QChar c : text)
-        if (c.isDigit())
-            result.append(c);
-    return result;
-}
-
 QJsonObject authorizationState(const char *type, std::initializer_list<Field> fields = {})
 {
     return object("updateAuthorizationState", {{"authorization_state", object(type, fields)}});
@@ -193,7 +184,7 @@ bool Client::handleAuthorization(const QString &type, const QJsonObject &request
             answer(request, error(400, u"Unexpected setAuthenticationPhoneNumber"_s));
             return true;
         }
-        const QString phone = digits(stringOf(request, "phone_number"));
+        const QString phone = digitsOf(stringOf(request, "phone_number"));
         if (phone != kPlainPhone && phone != kPasswordPhone) {
             answer(request, error(400, u"PHONE_NUMBER_INVALID"_s));
             return true;

@@ -71,4 +71,13 @@ QString stringOf(const QJsonObject &object, const char *key)
     return object.value(QLatin1StringView(key)).toString();
 }
 
+QString digitsOf(const QString &text)
+{
+    QString result;
+    for (QChar c : text)
+        if (c.isDigit())
+            result.append(c);
+    return result;
+}
+
 } // namespace demo

@@ -26,5 +26,7 @@ QJsonArray urlEntities(const QString &text);
 qint64 int64Of(const QJsonValue &value, qint64 fallback = 0);
 QString typeOf(const QJsonValue &value);
 QString stringOf(const QJsonObject &object, const char *key);
+// The digits of a text, as phone numbers are compared: "+1 555-0100" is "15550100".
+QString digitsOf(const QString &text);
 
 } // namespace demo

@@ -6,19 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace demo {
 
-namespace {
-
-QString digitsOf(const QString &text)
-{
-    QString result;
-    for (QChar c : text)
-        if (c.isDigit())
-            result.append(c);
-    return result;
-}
-
-} // namespace
-
 bool Client::handleStickersAndContacts(const QString &type, const QJsonObject &request)
 {
     Account &account = *m_account;
