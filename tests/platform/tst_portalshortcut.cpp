@@ -5,8 +5,6 @@
 
 #include "platform/linux/PortalGlobalShortcut.h"
 
-#include "platform/linux/DBusStructure.h"
-
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -25,30 +23,12 @@ const QString backendService = u"org.freedesktop.impl.portal.desktop.vosttest"_s
 const QString backendPath = u"/org/freedesktop/portal/desktop"_s;
 } // namespace
 
-// Outside any namespace: the backend's slots name it, and QtDBus finds it by that name.
-struct Shortcut {
-    QString id;
-    QVariantMap properties;
-};
-
-QDBusArgument &operator<<(QDBusArgument &argument, const Shortcut &shortcut)
-{
-    return DBusStructure::write(argument, shortcut.id, shortcut.properties);
-}
-
-const QDBusArgument &operator>>(const QDBusArgument &argument, Shortcut &shortcut)
-{
-    return DBusStructure::read(argument, shortcut.id, shortcut.properties);
-}
-
 namespace {
 QDBusConnection backendConnection()
 {
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"backend"_s);
 }
 } // namespace
-
-Q_DECLARE_METATYPE(Shortcut)
 
 // What a desktop's backend does, with the user's answers decided by the test.
 class TestShortcutsBackend : public QObject
@@ -63,7 +43,7 @@ public:
     // 0 binds what is asked; 1 is the user cancelling the desktop's dialog.
     uint bindResponse = 0;
     QList<QDBusObjectPath> sessions;
-    QList<Shortcut> asked;
+    QList<PortalShortcut> asked;
 
 public Q_SLOTS:
     uint CreateSession(const QDBusObjectPath &, const QDBusObjectPath &session, const QString &, const QVariantMap &,
@@ -72,11 +52,11 @@ public Q_SLOTS:
         sessions.append(session);
         // As KDE's backend answers: the session's shortcuts so far (xdg-desktop-portal
         // 1.16 passes them on and complains when they are missing).
-        results = {{u"shortcuts"_s, QVariant::fromValue(QList<Shortcut>())}};
+        results = {{u"shortcuts"_s, QVariant::fromValue(QList<PortalShortcut>())}};
         return 0;
     }
 
-    uint BindShortcuts(const QDBusObjectPath &, const QDBusObjectPath &, const QList<Shortcut> &shortcuts,
+    uint BindShortcuts(const QDBusObjectPath &, const QDBusObjectPath &, const QList<PortalShortcut> &shortcuts,
                        const QString &, const QVariantMap &, QVariantMap &results)
     {
         asked = shortcuts;
@@ -107,8 +87,8 @@ private Q_SLOTS:
         QVERIFY2(QDBusConnection::sessionBus().isConnected(), "needs a session bus: run under dbus-run-session");
         // Known by name before the backend's slots are exported.
         qRegisterMetaType<QDBusObjectPath>();
-        qDBusRegisterMetaType<Shortcut>();
-        qDBusRegisterMetaType<QList<Shortcut>>();
+        qDBusRegisterMetaType<PortalShortcut>();
+        qDBusRegisterMetaType<QList<PortalShortcut>>();
     }
 
     void withoutThePortalThereIsNone()

@@ -13,12 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 const QString shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
-
-// One entry of the portal's a(sa{sv}): a shortcut's id and its properties.
-struct PortalShortcut {
-    QString id;
-    QVariantMap properties;
-};
+} // namespace
 
 QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcut)
 {
@@ -29,9 +24,6 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &s
 {
     return DBusStructure::read(argument, shortcut.id, shortcut.properties);
 }
-} // namespace
-
-Q_DECLARE_METATYPE(PortalShortcut)
 
 namespace {
 // Keysym names of the keys whose Qt names differ from them.

@@ -2,12 +2,24 @@
 
 #include "platform/GlobalShortcut.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QPointer>
 #include <QVariantMap>
 
 class PortalRequest;
+
+// One entry of the portal's a(sa{sv}): a shortcut's id and its properties. Outside
+// any namespace: QtDBus matches the slots of a desktop's backend by this name.
+struct PortalShortcut {
+    QString id;
+    QVariantMap properties;
+};
+Q_DECLARE_METATYPE(PortalShortcut)
+
+QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcut);
+const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &shortcut);
 
 // The XDG GlobalShortcuts portal: one session holding one shortcut, "open-vost".
 // The combination chosen in Preferences goes as the preferred trigger; the desktop
