@@ -33,33 +33,19 @@ bool isDictionaryName(const QString &name)
     return pattern.match(name).hasMatch();
 }
 
-// The writing system a language is written in, as the words' QChar::Script.
+// The writing system a language is written in, as the words' QChar::Script: the
+// script of the first letter of the language's own name for itself ("русский",
+// "עברית", "English"); unknown for a language Qt does not know.
 int scriptOfLanguage(const QString &name)
 {
-    switch (QLocale(name).script()) {
-    case QLocale::LatinScript:
-        return QChar::Script_Latin;
-    case QLocale::CyrillicScript:
-        return QChar::Script_Cyrillic;
-    case QLocale::GreekScript:
-        return QChar::Script_Greek;
-    case QLocale::ArabicScript:
-        return QChar::Script_Arabic;
-    case QLocale::HebrewScript:
-        return QChar::Script_Hebrew;
-    case QLocale::ArmenianScript:
-        return QChar::Script_Armenian;
-    case QLocale::GeorgianScript:
-        return QChar::Script_Georgian;
-    case QLocale::DevanagariScript:
-        return QChar::Script_Devanagari;
-    case QLocale::BengaliScript:
-        return QChar::Script_Bengali;
-    case QLocale::ThaiScript:
-        return QChar::Script_Thai;
-    default:
+    const QLocale locale(name);
+    if (locale.language() == QLocale::C)
         return QChar::Script_Unknown;
+    for (const QChar c : locale.nativeLanguageName()) {
+        if (c.isLetter())
+            return c.script();
     }
+    return QChar::Script_Unknown;
 }
 
 // Only the first letter in capitals, as at the start of a sentence.
